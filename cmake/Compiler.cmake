@@ -1,0 +1,19 @@
+# One set of flags for every target of ours: warnings are errors, sanitizers by option,
+# ccache where the machine has it.
+
+find_program(VELMORA_CCACHE ccache)
+if(VELMORA_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${VELMORA_CCACHE}")
+endif()
+
+add_library(velmora_flags INTERFACE)
+target_compile_options(velmora_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+# Products and sums stay two roundings: the same bits on every machine.
+target_compile_options(velmora_flags INTERFACE -ffp-contract=off)
+
+if(VELMORA_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all
+    -fno-omit-frame-pointer -g1 -O1)
+  add_link_options(-fsanitize=address,undefined)
+endif()

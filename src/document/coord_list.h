@@ -1,0 +1,18 @@
+// The coordinate list beside the canvas: rows, and the click that selects a point.
+#pragma once
+
+#include "document/window_state.h"
+
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+/// Text of a row: index, ": ", X, two blanks, Y.
+[[nodiscard]] std::string row_text(const CoordRow& row);
+
+/// A click on a row with this text: selects the point that the text's number names, or refreshes
+/// the list when there is no such point. Raises 13 for a text without a number.
+void Lst_Coords_Click(std::string_view text);
+
+} // namespace velmora

@@ -1,0 +1,38 @@
+// What long operations tell the user: the status panel, the pointer, progress, the boxes of traps.
+#pragma once
+
+#include "document/session.h"
+#include "runtime/error.h"
+
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+/// First panel of StatusBar1.
+void set_status(std::string_view text);
+/// The screen's pointer: 0 default, 2 cross, 11 hourglass.
+void set_pointer(int pointer);
+/// Lets the windows run. Cheap enough for every step of a long loop.
+void DoEvents();
+
+/// A message box; an empty title is "Velmora". Returns and keeps in Respuesta nothing by itself.
+int MsgBox(std::string_view text, int buttons = 0, std::string_view title = {});
+/// An input box; the empty text when cancelled.
+std::string InputBox(std::string_view prompt, std::string_view title, std::string_view preset);
+
+/// The error's text in the program's language.
+[[nodiscard]] std::string description_of(const RuntimeError& failure);
+/// The plain box of an error route: prefix ("Error GetMinX nº: "), number, "  - Desc: ", text,
+/// and `tail`.
+void show_trap(std::string_view prefix, const RuntimeError& failure, std::string_view tail = {});
+
+/// Sets the pointer to the hourglass with a start message, and back with an end message when
+/// `finish` is called. On an error route neither is restored, on purpose.
+class LongOperation {
+  public:
+    explicit LongOperation(std::string_view start_message);
+    void finish(std::string_view end_message);
+};
+
+} // namespace velmora

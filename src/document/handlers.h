@@ -1,0 +1,73 @@
+// The click handlers of all commands, by the names of their menu entries and toolbar keys. The
+// command table refers to them; each stands in the room of its subject, in a file commands.cpp.
+#pragma once
+
+namespace velmora {
+
+// Archivo
+void mnu_newfile();
+void mnu_openfile();
+void mnu_savefile();
+void mnu_savefileas();
+void mnu_closefile();
+void mnu_edit();
+void mnu_print();
+void mnuRecentFile(int index);
+void mnu_exit();
+// Configuración
+void mnu_paramgenerales();
+// Funciones
+void Delete_All_Pto_Sinc();
+void Insert_All_Pto_Sinc();
+void Mult_Points_Shape();
+void mnu_loadimg();
+void mnu_delimg();
+void mnu_positiva();
+void mnu_scale();
+void mnu_scale_xy();
+void mnu_invert();
+void mnu_mirrorh();
+void mnu_mirrorv();
+void mnu_zoom_up();
+void mnu_zoom_down();
+void mnu_update_coords();
+// Herramientas
+void mnu_seltexto();
+void mnu_corrpoltrap();
+void mnu_paralela();
+// Autocad
+void mnu_capture();
+void mnu_Reconect();
+void menu_select_orig();
+void mnu_SendToCad();
+// Ver
+void mnu_wininfo();
+void mnu_winoptgen();
+// Ayuda
+void mnu_contenido();
+void mnu_Shortkeys();
+void mnu_mail();
+void mnu_web();
+void mnu_about();
+// Puntos
+void Delete_Pto();
+void Delete_N_Ptos();
+void Insert_Pto();
+void insert_ini();
+void Insert_N_Ptos();
+void Delete_Pto_Sinc();
+void Insert_Pto_Sinc();
+void Pts_To_Next_Sinc();
+void Set_CutStart();
+void Set_00();
+void set_10();
+void set_x0();
+void Move_Shape();
+void Rotate();
+// Toolbar keys that differ from their menu entry
+void K_EXIT();
+void K_PRINT();
+void K_INVERT();
+void K_SCALE();
+
+} // namespace velmora

@@ -1,0 +1,17 @@
+// The option boxes of winoptions as the logic sets them: a text that differs from what stood there
+// is a change of the box, and has the change's effect.
+#pragma once
+
+#include <string_view>
+
+namespace velmora {
+
+/// Sets TxtPrecision; on a change, once the first activation is past, Apply_Precision runs when the
+/// text's value is above 0. The text is not read into Precision, on purpose.
+void set_TxtPrecision(std::string_view text);
+
+/// The boxes TxtPutArc, TxtPutCircle, TxtPrecision, Txt_zoom and their working copies from the
+/// stored defaults.
+void take_defaults();
+
+} // namespace velmora

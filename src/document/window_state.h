@@ -1,0 +1,103 @@
+// What the windows show and what the user typed, as plain data: one struct per window. The logic
+// reads and writes these; a window shows its struct when it gets time and writes back what was
+// typed before it calls a handler.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velmora {
+
+/// A menu entry's state. The caption is the window's own (its literals); only what commands change
+/// stands here.
+struct MenuState {
+    bool enabled = true;
+    bool visible = true;
+};
+
+struct RecentEntry {
+    std::string caption; ///< "&1 wing.dat"
+    std::string path;    ///< the entry's tag
+    bool visible = false;
+};
+
+/// A progress bar in the control's own terms.
+struct ProgressBar {
+    double Min = 0;
+    double Max = 1;
+    double Value = 0;
+};
+
+/// The rows of Lst_Coords. A full list is a copy of the coordinates, its texts are made when they
+/// are looked at; `edits` says which fill it is, so that a view knows when to start over.
+struct CoordRow {
+    std::int32_t index = 0;
+    double X = 0;
+    double Y = 0;
+};
+
+struct VelmoraWindow {
+    std::string Caption;
+    std::string TxtDat_File;
+    std::string TxtDescDat;
+    std::vector<CoordRow> Lst_Coords;
+    std::uint64_t Lst_Coords_fill = 0; ///< grows with every change of Lst_Coords
+    std::string StatusBar1;            ///< first panel
+    int MousePointer = 0;              ///< of the screen: 0 default, 2 cross, 11 hourglass
+    ProgressBar Pbar1;
+    ProgressBar pbar2;
+    int pic_MousePointer = 0; ///< of the canvas: 0 default, 10 up arrow
+    std::uint32_t pic_BackColor = 0;
+    bool lbl_xyfloat_visible = false;
+    std::string lbl_xyfloat;
+    std::uint32_t lbl_xyfloat_ForeColor = 0;
+    double lbl_xyfloat_Left = 0; ///< pixels of pic
+    double lbl_xyfloat_Top = 0;
+    double SSScroll_x = 0;            ///< 0 left to 1 right, as a share of the bar's maximum
+    double SSScroll_y = 1;            ///< 0 top to 1 bottom
+    std::uint64_t SSScroll_moves = 0; ///< grows with every move by the program
+    bool minimized = false;
+    std::map<std::string, MenuState, std::less<>> menus; ///< entries that differ from the default
+    std::array<RecentEntry, 11> mnuRecentFile;           ///< 1 to 10; 0 is not in use
+    bool mnuRecentFileSep_visible = false;
+};
+
+struct IntroWindow {
+    std::string lblVer;
+    std::string lblsubver;
+};
+
+struct WinInfo {
+    std::string TxtAcadFile, TxtOpensw, txtAcadVer;
+    std::string TxtNArcs = "0", TxtNCircles = "0", TxtNLWPolylines = "0", TxtProcesed = "0",
+                TxtNlines = "0", TxtNSplines = "0";
+    std::string TxtTotalCtrlPtos = "0", Txt_longitud = "0", Txt_Altura = "0", TxtOrigX = "0",
+                TxtOrigY = "0", TxtTotalPtos = "0", TxtPtosSupr = "0";
+    bool chk_wininfo = false;        ///< pinned
+    std::uint32_t ShpAcadOpen = 255; ///< fill colour: 65280 connected, 255 not
+    std::uint32_t ShpAcadDocLoaded = 255;
+    bool rolled_up = false;
+};
+
+struct WinOptions {
+    std::string TxtPutArc, TxtPutCircle, TxtPrecision, Txt_zoom;
+    bool ChkPtos = true, ChkPtosCtrl = true, ChkCoords = true;
+    bool ChkDATSinc = true, ChkSCR = false, Chk_DATPerfil = false;
+    bool chk_optimize = true, chk_Redim_Capture = true;
+    bool chk_winoptions = false; ///< pinned
+    bool rolled_up = false;
+};
+
+struct ScaleXyWindow {
+    bool Opt_fixed = true; ///< else Opt_percent
+    bool frm_fixed_enabled = true;
+    bool frm_percent_enabled = false;
+    std::string txt_fixed_x, txt_fixed_y, txt_percent_x, txt_percent_y;
+    bool cmd_ok_enabled = false;
+};
+
+} // namespace velmora

@@ -1,0 +1,28 @@
+// Helpers of all file routines: the recycle bin, the pieces of a path, the passes over a file.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+/// Sends the file to the recycle bin, without a question. True when it is gone.
+bool BorraFichero(std::string_view path);
+
+/// The path left of the last separator that stands four characters or more from the right: a name
+/// has at least three letters and a point. Empty when there is none.
+[[nodiscard]] std::string QuitaNombre(std::string_view path);
+/// What stands behind the last "\" or "/".
+[[nodiscard]] std::string SoloNombre(std::string_view path);
+/// What stands behind the last "\"; the rule for descriptions.
+[[nodiscard]] std::string after_last_backslash(std::string_view text);
+
+/// Rewrites the file with the machine's separator when lines 4 to 13 hold none.
+void SetDecimalSep(std::string_view path);
+/// Rewrites the file with blanks for tabs when one of lines 4 to 13 has a tab.
+void TabToSpace(std::string_view path);
+/// Rewrites the file with "." for "," when one of lines 4 to 13 has a comma; the last two bytes
+/// are lost, on purpose.
+void SetDotDecimals(std::string_view path);
+
+} // namespace velmora

@@ -1,0 +1,32 @@
+// What the logic asks of the machine: references to abstract services, set once at start. The
+// program sets the real ones, unit tests set recording ones, the scenario driver scripted ones.
+#pragma once
+
+namespace velmora {
+
+class Dialogs;
+class Windows;
+class Shell;
+class SettingsStore;
+class Database;
+class Clock;
+class Machine;
+class Surface;
+class Autocad;
+
+struct Platform {
+    Dialogs& dialogs;
+    Windows& windows;
+    Shell& shell;
+    SettingsStore& settings;
+    Database& database;
+    Clock& clock;
+    Machine& machine;
+    Surface& pic; ///< drawing operations of the canvas
+    Autocad& cad;
+};
+
+void set_platform(const Platform& services);
+[[nodiscard]] const Platform& platform();
+
+} // namespace velmora

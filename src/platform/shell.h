@@ -1,0 +1,19 @@
+// The desktop: programs for files, the recycle bin, sounds.
+#pragma once
+
+#include <string_view>
+
+namespace velmora {
+
+class Shell {
+  public:
+    virtual ~Shell() = default;
+    /// Opens a file, page or address with its program; 33 or more when that started.
+    virtual int open(std::string_view target) = 0;
+    /// Plays a sound file and returns at once; a machine without sound stays silent.
+    virtual void play(std::string_view file) = 0;
+    /// To the recycle bin, or a plain delete where a path has none. True when the file is gone.
+    virtual bool recycle(std::string_view path) = 0;
+};
+
+} // namespace velmora

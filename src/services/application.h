@@ -1,0 +1,27 @@
+// The program from start to end: the start window, the load and first activation of the main
+// window, the way out.
+#pragma once
+
+#include <cstdint>
+
+namespace velmora {
+
+/// Load of the start window `intro`: version, settings, session flags, language database, literals.
+void intro_Load();
+/// Load of the main window: session values, separator, caption, literals, recent files.
+void Velmora_Load();
+/// Load of the side windows.
+void wininfo_Load();
+void winoptions_Load();
+/// First activation: connects to the CAD, shows the side windows. Later ones do nothing.
+void Velmora_Activate();
+/// The main window's close box was used: the side windows go, no question.
+void Velmora_QueryUnload();
+
+/// Asks whether to leave; `cancel` becomes -1 when not. Silent while ExitConfirmed is set.
+void SalVelmora(std::int16_t& cancel);
+
+/// Opens TxtDat_File with the platform's program for it; message 84 when it is not there.
+void AbreEdicion();
+
+} // namespace velmora

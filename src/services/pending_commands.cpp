@@ -1,0 +1,182 @@
+// The commands that are not built yet: each shows one plain box.
+#include "document/feedback.h"
+#include "document/handlers.h"
+
+namespace velmora {
+
+namespace {
+void not_available() {
+    MsgBox("Todavía no disponible");
+}
+} // namespace
+
+void mnu_newfile() {
+    not_available();
+}
+void mnu_openfile() {
+    not_available();
+}
+void mnu_savefile() {
+    not_available();
+}
+void mnu_savefileas() {
+    not_available();
+}
+void mnu_closefile() {
+    not_available();
+}
+void mnu_edit() {
+    not_available();
+}
+void mnu_print() {
+    not_available();
+}
+void mnuRecentFile(int) {
+    not_available();
+}
+void mnu_exit() {
+    not_available();
+}
+void mnu_paramgenerales() {
+    not_available();
+}
+void Delete_All_Pto_Sinc() {
+    not_available();
+}
+void Insert_All_Pto_Sinc() {
+    not_available();
+}
+void Mult_Points_Shape() {
+    not_available();
+}
+void mnu_loadimg() {
+    not_available();
+}
+void mnu_delimg() {
+    not_available();
+}
+void mnu_positiva() {
+    not_available();
+}
+void mnu_scale() {
+    not_available();
+}
+void mnu_scale_xy() {
+    not_available();
+}
+void mnu_invert() {
+    not_available();
+}
+void mnu_mirrorh() {
+    not_available();
+}
+void mnu_mirrorv() {
+    not_available();
+}
+void mnu_zoom_up() {
+    not_available();
+}
+void mnu_zoom_down() {
+    not_available();
+}
+void mnu_update_coords() {
+    not_available();
+}
+void mnu_seltexto() {
+    not_available();
+}
+void mnu_corrpoltrap() {
+    not_available();
+}
+void mnu_paralela() {
+    not_available();
+}
+void mnu_capture() {
+    not_available();
+}
+void mnu_Reconect() {
+    not_available();
+}
+void menu_select_orig() {
+    not_available();
+}
+void mnu_SendToCad() {
+    not_available();
+}
+void mnu_wininfo() {
+    not_available();
+}
+void mnu_winoptgen() {
+    not_available();
+}
+void mnu_contenido() {
+    not_available();
+}
+void mnu_Shortkeys() {
+    not_available();
+}
+void mnu_mail() {
+    not_available();
+}
+void mnu_web() {
+    not_available();
+}
+void mnu_about() {
+    not_available();
+}
+void Delete_Pto() {
+    not_available();
+}
+void Delete_N_Ptos() {
+    not_available();
+}
+void Insert_Pto() {
+    not_available();
+}
+void insert_ini() {
+    not_available();
+}
+void Insert_N_Ptos() {
+    not_available();
+}
+void Delete_Pto_Sinc() {
+    not_available();
+}
+void Insert_Pto_Sinc() {
+    not_available();
+}
+void Pts_To_Next_Sinc() {
+    not_available();
+}
+void Set_CutStart() {
+    not_available();
+}
+void Set_00() {
+    not_available();
+}
+void set_10() {
+    not_available();
+}
+void set_x0() {
+    not_available();
+}
+void Move_Shape() {
+    not_available();
+}
+void Rotate() {
+    not_available();
+}
+void K_EXIT() {
+    not_available();
+}
+void K_PRINT() {
+    not_available();
+}
+void K_INVERT() {
+    not_available();
+}
+void K_SCALE() {
+    not_available();
+}
+
+} // namespace velmora

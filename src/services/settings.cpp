@@ -1,0 +1,6 @@
+#include "services/settings.h"
+
+namespace velmora {
+void LeeSettings() {}
+void GuardaSettings() {}
+} // namespace velmora

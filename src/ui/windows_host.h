@@ -1,0 +1,69 @@
+// The program's windows, kept by name, and the dispatcher through which every event reaches a
+// handler of the logic: the windows' texts go into the session before it, the session's into the
+// windows after it, and a run-time error that nothing handled ends here.
+#pragma once
+
+#include "platform/windows.h"
+#include "runtime/error.h"
+
+#include <QObject>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+class QWidget;
+
+namespace velmora {
+
+/// What someone who watches the windows is told; each may be empty.
+struct WindowEvents {
+    std::function<void(const std::string& window)> opened;
+    std::function<void(const std::string& window)> closed;
+    std::function<void(const std::string& text)> status;
+    std::function<void(int pointer)> pointer;
+    /// Without one, the report "Run-time error 'N':" is shown and the program ends with status 1.
+    std::function<void(const RuntimeError& failure)> fault;
+    std::function<void()> ended;
+};
+
+class WindowsHost : public QObject, public Windows {
+    Q_OBJECT
+  public:
+    WindowsHost();
+    ~WindowsHost() override;
+
+    WindowEvents events;
+
+    /// Shows the start window; it gives way to the main window.
+    void start();
+    /// A loaded window by its name, nullptr while it is not loaded.
+    [[nodiscard]] QWidget* window(std::string_view name) const;
+    /// The control `name` of a loaded window, "Picture1(2)" for a member of a control array; a menu
+    /// entry's QAction for the main window's. nullptr when there is none.
+    [[nodiscard]] QObject* control(std::string_view window, std::string_view name) const;
+    /// No handler is running or, where one waits in a modal window, nothing runs above that window.
+    [[nodiscard]] bool idle() const;
+    /// Runs a handler of the logic as an event of a window.
+    void run(const std::function<void()>& handler);
+    /// Shows the session's structs in all loaded windows; pulls what was typed into them first.
+    void refresh();
+
+    void show(std::string_view window) override;
+    void show_modal(std::string_view window) override;
+    void unload(std::string_view window) override;
+    void minimize(std::string_view window) override;
+    void set_focus(std::string_view window, std::string_view control) override;
+    Form* form(std::string_view window) override;
+    void status_changed() override;
+    void pointer_changed() override;
+    void yield() override;
+    void wait(int milliseconds) override;
+    void end_program() override;
+
+  private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace velmora

@@ -1,0 +1,45 @@
+#include "runtime/array.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora {
+namespace {
+
+int number_of(auto&& body) {
+    try {
+        body();
+    } catch (const RuntimeError& failure) {
+        return failure.number;
+    }
+    return 0;
+}
+
+TEST(Array, without_dimensions_raises_9) {
+    Array<int> array;
+    EXPECT_EQ(number_of([&] { (void)array.upper(); }), 9);
+    EXPECT_EQ(number_of([&] { (void)array[0]; }), 9);
+}
+
+TEST(Array, redim_zeroes_and_redim_keep_keeps) {
+    Array<int> array;
+    array.redim(2);
+    array[2] = 7;
+    array.redim_keep(4);
+    EXPECT_EQ(array.upper(), 4);
+    EXPECT_EQ(array[2], 7);
+    EXPECT_EQ(array[4], 0);
+    array.redim(2);
+    EXPECT_EQ(array[2], 0);
+}
+
+TEST(Array, an_index_or_a_bound_outside_raises_9) {
+    Array<int> array;
+    array.redim(2);
+    EXPECT_EQ(number_of([&] { array[3] = 1; }), 9);
+    EXPECT_EQ(number_of([&] { array[-1] = 1; }), 9);
+    EXPECT_EQ(number_of([&] { array.redim_keep(-1); }), 9);
+    EXPECT_EQ(array.upper(), 2);
+}
+
+} // namespace
+} // namespace velmora

@@ -1,0 +1,168 @@
+// The platform of the unit tests: it records what the logic asks for and gives the answers that a
+// test laid out. Nothing here is null; what no test expects is answered as a person would who
+// presses Enter.
+#pragma once
+
+#include "cad/autocad.h"
+#include "canvas/surface.h"
+#include "platform/clock.h"
+#include "platform/database.h"
+#include "platform/dialogs.h"
+#include "platform/form.h"
+#include "platform/machine.h"
+#include "platform/platform.h"
+#include "platform/settings_store.h"
+#include "platform/shell.h"
+#include "platform/windows.h"
+
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace velmora::test {
+
+struct ShownBox {
+    std::string text;
+    int buttons = 0;
+    std::string title;
+    bool operator==(const ShownBox&) const = default;
+};
+
+class RecordingDialogs : public Dialogs {
+  public:
+    std::deque<int> answers;                          ///< queue; empty: OK, else Yes
+    std::deque<std::optional<std::string>> inputs;    ///< queue; empty: cancelled
+    std::deque<std::string> paths;                    ///< queue; empty: cancelled
+    std::deque<std::optional<std::uint32_t>> colours; ///< queue; empty: cancelled
+    std::deque<std::optional<FontChoice>> fonts;      ///< queue; empty: cancelled
+    std::vector<ShownBox> boxes;
+    std::vector<std::vector<std::string>> input_calls; ///< prompt, title, preset
+    std::vector<FileRequest> open_calls, save_calls;
+
+    int message(std::string_view text, int buttons, std::string_view title) override;
+    std::optional<std::string> input(std::string_view prompt, std::string_view title,
+                                     std::string_view preset) override;
+    std::string open_file(const FileRequest& request) override;
+    std::string save_file(const FileRequest& request) override;
+    std::optional<std::uint32_t> choose_colour(std::uint32_t present) override;
+    std::optional<FontChoice> choose_font(const FontChoice& present) override;
+};
+
+class RecordingWindows : public Windows {
+  public:
+    std::vector<std::string> calls;    ///< "show wininfo", "focus winoptions.TxtPrecision", ...
+    std::vector<std::string> statuses; ///< each text of the panel
+    std::vector<int> pointers;
+    int yields = 0;
+    std::map<std::string, Form*, std::less<>> forms;
+    std::function<void(std::string_view)> on_show_modal;
+
+    void show(std::string_view window) override;
+    void show_modal(std::string_view window) override;
+    void unload(std::string_view window) override;
+    void minimize(std::string_view window) override;
+    void set_focus(std::string_view window, std::string_view control) override;
+    Form* form(std::string_view window) override;
+    void status_changed() override;
+    void pointer_changed() override;
+    void yield() override { ++yields; }
+    void wait(int milliseconds) override;
+    void end_program() override;
+};
+
+class RecordingShell : public Shell {
+  public:
+    std::vector<std::string> opened, played, recycled;
+    int open_result = 42;
+    bool recycle_fails = false; ///< leaves the file where it is
+
+    int open(std::string_view target) override;
+    void play(std::string_view file) override;
+    bool recycle(std::string_view path) override;
+};
+
+class MemorySettings : public SettingsStore {
+  public:
+    std::map<std::pair<std::string, std::string>, std::string> values;
+    std::optional<std::string> get(std::string_view section, std::string_view key) override;
+    void save(std::string_view section, std::string_view key, std::string_view value) override;
+};
+
+class FixedMachine : public Machine {
+  public:
+    char separator = '.';
+    char decimal_separator() override { return separator; }
+};
+
+class SteadyClock : public Clock {
+  public:
+    std::chrono::steady_clock::time_point now() override { return time; }
+    std::chrono::steady_clock::time_point time{};
+};
+
+/// Writes each operation down as a line: "pen 255", "line 30 0 80 1870", "arc 77 1867 83 1873".
+class RecordingSurface : public Surface {
+  public:
+    std::vector<std::string> operations;
+    double width = 30000;
+    double height = 30000;
+
+    double Width() const override { return width; }
+    double Height() const override { return height; }
+    void Cls() override;
+    void set_back_color(std::uint32_t colour) override;
+    void set_pen(std::uint32_t colour) override;
+    void set_draw_mode(DrawMode mode) override;
+    void MoveToEx(std::int32_t x, std::int32_t y) override;
+    void LineTo(std::int32_t x, std::int32_t y) override;
+    void Polyline(std::span<const PixelPoint> points) override;
+    void Arc(std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom) override;
+    void Line(float x1, float y1, float x2, float y2) override;
+    void FillBox(float x1, float y1, float x2, float y2, std::uint32_t colour) override;
+    void set_picture(std::string_view file) override;
+    void present() override;
+
+  private:
+    void note(std::string operation);
+};
+
+/// No CAD runs.
+class NoCad : public Autocad {
+  public:
+    std::shared_ptr<AcadApplication> GetObject() override;
+    void AppActivate() override;
+};
+
+/// The services of one test, installed for its life, with a fresh session and a folder of its own.
+/// The database is the real SQLite one on the program's own VELMORA.MDB, copied into the folder,
+/// opened unless `without_database`.
+class RecordingPlatform {
+  public:
+    explicit RecordingPlatform(bool without_database = false);
+    ~RecordingPlatform();
+    RecordingPlatform(const RecordingPlatform&) = delete;
+    RecordingPlatform& operator=(const RecordingPlatform&) = delete;
+
+    std::filesystem::path folder; ///< made for this test, removed at its end
+    RecordingDialogs dialogs;
+    RecordingWindows windows;
+    RecordingShell shell;
+    MemorySettings settings;
+    FixedMachine machine;
+    SteadyClock clock;
+    RecordingSurface pic;
+    NoCad cad;
+    std::unique_ptr<Database> database;
+
+    /// Writes a file of the folder, bytes as they stand; its path as UTF-8 text.
+    std::string write(const std::string& name, std::string_view bytes) const;
+    /// The bytes of a file, by path.
+    static std::string read(const std::string& path);
+    [[nodiscard]] std::string path(const std::string& name) const;
+};
+
+} // namespace velmora::test
