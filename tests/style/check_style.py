@@ -1,0 +1,133 @@
+#!/usr/bin/env python3
+"""Checks what a person forgets: formatting, line length, blanks, include arrows, file size.
+
+check_style.py SOURCE_DIR            all checks that read the sources
+check_style.py SOURCE_DIR BUILD_DIR  that no object of velmora_core saw a toolkit's header
+"""
+
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+MAX_COLUMNS = 100
+MAX_LINES = 500
+
+# Who may include whom, besides oneself. An arrow points one way.
+LOGIC = ["runtime", "platform", "document", "services"]
+ROOMS = {
+    "runtime": [],
+    "platform": ["runtime"],
+    "document": ["runtime", "platform"],
+    "services": ["runtime", "platform", "document"],
+    "shapeops": LOGIC,
+    "canvas": LOGIC + ["shapeops"],
+    "cad": LOGIC + ["shapeops"],
+    "formats": LOGIC + ["cad"],
+    "cutprep": LOGIC + ["formats", "canvas"],
+    "generators": LOGIC + ["cad", "shapeops"],
+}
+# The headers of abstract services that stand in the room of their subject.
+ABSTRACT = {"canvas/surface.h", "cad/autocad.h"}
+OUTER = ["adapters", "ui", "main.cpp"]
+
+STANDARD_HEADERS = re.compile(r"^[a-z_]+$")
+TOOLKITS = re.compile(r"/(qt6|Qt[A-Z]\w*)/|/sqlite3\.h|/dbus|/canberra")
+
+
+def sources(root, *suffixes):
+    listed = subprocess.run(
+        ["git", "-C", root, "ls-files", "--cached", "--others", "--exclude-standard"],
+        capture_output=True, text=True, check=True).stdout.splitlines()
+    return [root / name for name in listed
+            if name.endswith(suffixes) and (root / name).is_file()]
+
+
+def check_text(root):
+    for path in sources(root, ".cpp", ".h", ".py", ".cmake", ".txt", ".ui", ".json", ".md", ".sh"):
+        text = path.read_bytes()
+        name = path.relative_to(root)
+        if b"\r" in text:
+            yield f"{name}: carriage return"
+        if text and not text.endswith(b"\n"):
+            yield f"{name}: no line end at the end"
+        for number, line in enumerate(text.decode("utf-8").split("\n"), 1):
+            if line != line.rstrip():
+                yield f"{name}:{number}: blanks at the end of the line"
+            if "\t" in line:
+                yield f"{name}:{number}: tab"
+            if path.suffix in (".cpp", ".h", ".py") and len(line) > MAX_COLUMNS:
+                yield f"{name}:{number}: {len(line)} columns, {MAX_COLUMNS} are allowed"
+
+
+def check_format(root):
+    files = [str(path) for path in sources(root, ".cpp", ".h")]
+    run = subprocess.run(["clang-format", "--dry-run", "--Werror", *files],
+                         capture_output=True, text=True)
+    for line in run.stderr.splitlines():
+        if "error:" in line:
+            yield line.replace(str(root) + "/", "") + " (script/format mends it)"
+
+
+def check_size(root):
+    for path in sources(root, ".cpp", ".h"):
+        lines = path.read_text().count("\n")
+        if path.is_relative_to(root / "src") and lines > MAX_LINES:
+            yield f"{path.relative_to(root)}: {lines} lines; what is its second subject?"
+
+
+def check_arrows(root):
+    include = re.compile(r'^#include\s+(?:"([^"]+)"|<([^>]+)>)')
+    for path in sources(root, ".cpp", ".h"):
+        if not path.is_relative_to(root / "src"):
+            continue
+        name = path.relative_to(root / "src")
+        room = name.parts[0]
+        if room in OUTER:
+            continue
+        for number, line in enumerate(path.read_text().splitlines(), 1):
+            match = include.match(line)
+            if not match:
+                continue
+            own, system = match.groups()
+            where = f"src/{name}:{number}"
+            if system and not STANDARD_HEADERS.match(system):
+                yield f"{where}: the logic includes <{system}>; the standard library alone is its"
+            if own and own not in ABSTRACT:
+                target = own.split("/")[0]
+                if target != room and target not in ROOMS.get(room, []):
+                    yield f"{where}: {room} may not include {target}"
+
+
+def check_core_objects(root, build):
+    """Reads the compiler's own record of the headers that each object saw."""
+    deps = subprocess.run(["ninja", "-C", build, "-t", "deps"],
+                          capture_output=True, text=True, check=True).stdout
+    core_objects = 0
+    current = None
+    for line in deps.splitlines():
+        if line and not line.startswith(" "):
+            current = line.split(":")[0]
+            if "velmora_core.dir" in current:
+                core_objects += 1
+        elif current and "velmora_core.dir" in current and TOOLKITS.search(line):
+            yield f"{current} saw {line.strip()}"
+    if core_objects == 0:
+        yield "no object of velmora_core found"
+
+
+def main():
+    root = Path(sys.argv[1]).resolve()
+    if len(sys.argv) > 2:
+        faults = list(check_core_objects(root, sys.argv[2]))
+    else:
+        faults = [fault for check in (check_text, check_format, check_size, check_arrows)
+                  for fault in check(root)]
+    for fault in faults:
+        print(fault)
+    print(f"{len(faults)} faults")
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
