@@ -33,12 +33,15 @@ inline constexpr int object_required = 424;
 inline constexpr int cannot_create_object = 429;
 inline constexpr int no_such_member = 438;
 inline constexpr int server_unavailable = 462;
+inline constexpr int invalid_picture = 481;
 inline constexpr int printer = 482;
 inline constexpr int no_current_record = 3021;
 inline constexpr int duplicate_key = 3022;
 inline constexpr int invalid_database_path = 3044;
+inline constexpr int statement_syntax = 3075;
 inline constexpr int table_not_found = 3078;
 inline constexpr int item_not_found = 3265;
+inline constexpr int unrecognized_database = 3343;
 } // namespace error
 
 /// A run-time error. `description` is empty where the number's own text of the table holds.

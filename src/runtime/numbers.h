@@ -33,6 +33,9 @@ namespace velmora::runtime {
 /// Raises 6 from 79228162514264337593543950335 on.
 [[nodiscard]] std::string NumACadena(double value, char separator);
 
+/// The f64 that the text of NumACadena names. Raises 6 as it does.
+[[nodiscard]] double normalized_15(double value);
+
 /// The pattern "0.00000" over the 15-digit decimal text, halves away from zero.
 [[nodiscard]] std::string Format5(double value, char separator);
 

@@ -20,5 +20,7 @@ namespace velmora::runtime {
 [[nodiscard]] std::string to_1252(std::string_view utf8);
 /// Every `from` becomes `to`.
 [[nodiscard]] std::string replaced(std::string_view text, char from, char to);
+/// A field of a record: the bytes cut at `width` or filled with blanks up to it.
+[[nodiscard]] std::string fitted(std::string_view bytes, std::size_t width);
 
 } // namespace velmora::runtime
