@@ -1,0 +1,76 @@
+#include "formats/reader_support.h"
+
+#include "document/feedback.h"
+#include "document/session.h"
+#include "platform/dialogs.h"
+
+#include <array>
+#include <charconv>
+
+namespace velmora {
+
+namespace {
+
+std::int16_t empty_document() {
+    Forma.Pto.redim(0);
+    session.UltimoPto = 0;
+    return False;
+}
+
+std::int16_t keep_points_so_far(std::int32_t points) {
+    session.TotalPtos = points;
+    show_count(session.wininfo.TxtTotalPtos, points);
+    session.TotalSinc = 0;
+    show_count(session.wininfo.TxtTotalCtrlPtos, 0);
+    session.UltimoPto = points;
+    return True;
+}
+
+} // namespace
+
+std::string_view read_line(ReadCounts& counts) {
+    const std::string_view line = session.files.line_input(1);
+    ++counts.lines;
+    return line;
+}
+
+std::string_view read_record(ReadCounts& counts) {
+    const std::string_view record = session.files.read_record(1);
+    ++counts.lines;
+    return record;
+}
+
+void drop_closing_point(Array<Pto>& points, std::int32_t& count) {
+    if (!same_place(points[0], points[count - 1]))
+        return;
+    points.redim_keep(points.upper() - 1);
+    --count;
+}
+
+void show_count(std::string& box, std::int64_t count) {
+    std::array<char, 24> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), count).ptr;
+    box.assign(digits.data(), end);
+}
+
+void show_reader_error(const ReaderName& name, const RuntimeError& failure, std::int32_t lines) {
+    const std::string prefix = "Error " + std::string(name.routine) + "  nº: ";
+    show_trap(prefix, failure, std::string(name.line_label) + std::to_string(lines));
+}
+
+std::int16_t ask_cancel_load(const ReaderName& name, const RuntimeError& failure,
+                             const ReadCounts& counts) {
+    session.files.abandon(1);
+    show_reader_error(name, failure, counts.lines);
+    const int reply = MsgBox("Cancel Load?", buttons::yes_no + buttons::critical);
+    return reply == answer::yes ? empty_document() : keep_points_so_far(counts.points);
+}
+
+std::int16_t refuse_load(const ReaderName& name, const RuntimeError& failure,
+                         const ReadCounts& counts) {
+    session.files.abandon(1);
+    show_reader_error(name, failure, counts.lines);
+    return empty_document();
+}
+
+} // namespace velmora
