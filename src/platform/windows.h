@@ -18,6 +18,9 @@ class Windows {
     virtual void minimize(std::string_view window) = 0;
     /// Gives a control of a window the focus.
     virtual void set_focus(std::string_view window, std::string_view control) = 0;
+    /// Opens a pop-up menu of the main window at the pointer, once the present handler has
+    /// returned.
+    virtual void popup_menu(std::string_view menu) = 0;
     /// The window as its literals see it; nullptr while it is not loaded.
     virtual Form* form(std::string_view window) = 0;
 

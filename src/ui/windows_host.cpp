@@ -18,12 +18,15 @@ bool WindowsHost::idle() const {
 void WindowsHost::run(const std::function<void()>& handler) {
     handler();
 }
+void WindowsHost::activate(std::string_view) {}
+void WindowsHost::deactivate(std::string_view) {}
 void WindowsHost::refresh() {}
 void WindowsHost::show(std::string_view) {}
 void WindowsHost::show_modal(std::string_view) {}
 void WindowsHost::unload(std::string_view) {}
 void WindowsHost::minimize(std::string_view) {}
 void WindowsHost::set_focus(std::string_view, std::string_view) {}
+void WindowsHost::popup_menu(std::string_view) {}
 Form* WindowsHost::form(std::string_view) {
     return nullptr;
 }

@@ -46,6 +46,9 @@ class WindowsHost : public QObject, public Windows {
     [[nodiscard]] bool idle() const;
     /// Runs a handler of the logic as an event of a window.
     void run(const std::function<void()>& handler);
+    /// The window gets the activation from another window of the program, or loses it, as an event.
+    void activate(std::string_view window);
+    void deactivate(std::string_view window);
     /// Shows the session's structs in all loaded windows; pulls what was typed into them first.
     void refresh();
 
@@ -54,6 +57,7 @@ class WindowsHost : public QObject, public Windows {
     void unload(std::string_view window) override;
     void minimize(std::string_view window) override;
     void set_focus(std::string_view window, std::string_view control) override;
+    void popup_menu(std::string_view menu) override;
     Form* form(std::string_view window) override;
     void status_changed() override;
     void pointer_changed() override;

@@ -87,6 +87,10 @@ void RecordingWindows::set_focus(std::string_view window, std::string_view contr
     calls.push_back(line_of("focus", std::string(window) + "." + std::string(control)));
 }
 
+void RecordingWindows::popup_menu(std::string_view menu) {
+    calls.push_back(line_of("popup", menu));
+}
+
 Form* RecordingWindows::form(std::string_view window) {
     const auto found = forms.find(window);
     return found == forms.end() ? nullptr : found->second;

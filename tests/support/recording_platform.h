@@ -54,7 +54,8 @@ class RecordingDialogs : public Dialogs {
 
 class RecordingWindows : public Windows {
   public:
-    std::vector<std::string> calls;    ///< "show wininfo", "focus winoptions.TxtPrecision", ...
+    std::vector<std::string>
+        calls; ///< "show wininfo", "focus winoptions.TxtPrecision", "popup OPT_PTO"
     std::vector<std::string> statuses; ///< each text of the panel
     std::vector<int> pointers;
     int yields = 0;
@@ -66,6 +67,7 @@ class RecordingWindows : public Windows {
     void unload(std::string_view window) override;
     void minimize(std::string_view window) override;
     void set_focus(std::string_view window, std::string_view control) override;
+    void popup_menu(std::string_view menu) override;
     Form* form(std::string_view window) override;
     void status_changed() override;
     void pointer_changed() override;
