@@ -7,7 +7,9 @@ int fault_number(const std::error_code& fault, FileNeed need) {
         return need == FileNeed::made ? error::path_not_found : error::file_not_found;
     if (fault == std::errc::not_a_directory)
         return error::path_not_found;
-    if (fault == std::errc::is_a_directory || fault == std::errc::read_only_file_system)
+    // A bad descriptor: writing to what could be opened for reading alone.
+    if (fault == std::errc::is_a_directory || fault == std::errc::read_only_file_system ||
+        fault == std::errc::bad_file_descriptor)
         return error::path_access;
     if (fault == std::errc::permission_denied || fault == std::errc::operation_not_permitted ||
         fault == std::errc::text_file_busy)

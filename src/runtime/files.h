@@ -12,8 +12,9 @@
 namespace velmora::runtime {
 
 /// The open files of the program, numbers 1 and 2. Opening a number that is open raises 55, using
-/// one that is not raises 52, using one in the wrong way 54, opening what is not there 53, what may
-/// not be read or written 70 or 75, a folder 75, a full disk 61, any other fault of a device 57.
+/// one that is not raises 52, using one in the wrong way 54, opening what is not there 53, making
+/// one where no folder is 76, what may not be read or written 70, a folder or a disk that is read
+/// only 75, a full disk 61, any other fault of a device 57.
 class FileTable {
   public:
     FileTable();
@@ -28,7 +29,7 @@ class FileTable {
     /// Bytes, to read from the start; the file must exist.
     void open_bytes(int number, std::string_view path);
     /// Records of `length` bytes, made when missing, read and written in sequence from the first;
-    /// an existing file keeps what is not written over.
+    /// an existing file keeps what is not written over, one that may not be written is read.
     void open_random(int number, std::string_view path, int length);
 
     /// Writes what waits and closes; open or not. Raises 61 or 57 when the rest can't be written;
@@ -45,7 +46,7 @@ class FileTable {
     std::string_view line_input(int number);
     /// The next record, `length` bytes; what the file lacks is blank. Valid until the next use.
     std::string_view read_record(int number);
-    /// Text or bytes as they stand. For a record exactly its length.
+    /// Text or bytes as they stand. For a record exactly its length, else 5.
     void write(int number, std::string_view bytes);
     /// Bytes of a file opened for bytes, at most a buffer's worth; empty at the end.
     std::string_view read_bytes(int number);
@@ -56,6 +57,7 @@ class FileTable {
     class OpenFile;
     OpenFile& at(int number);
     std::unique_ptr<OpenFile>& slot(int number);
+    std::unique_ptr<OpenFile>& free_slot(int number);
     std::array<std::unique_ptr<OpenFile>, 2> slots_;
 };
 

@@ -1,0 +1,124 @@
+#include "runtime/file_stream.h"
+#include "runtime/file_faults.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+
+namespace velmora::runtime {
+namespace {
+
+constexpr std::size_t chunk = 256 * 1024;
+
+std::error_code last_fault() {
+    return {errno, std::generic_category()};
+}
+
+FileHandle system_open(const std::filesystem::path& path, const char* mode) {
+    errno = 0;
+#ifdef _WIN32
+    const std::wstring wide_mode(mode, mode + std::char_traits<char>::length(mode));
+    return FileHandle(_wfopen(path.c_str(), wide_mode.c_str()));
+#else
+    return FileHandle(std::fopen(path.c_str(), mode));
+#endif
+}
+
+/// The buffers here are the only ones: the library's would copy every byte once more.
+FileHandle unbuffered(FileHandle file) {
+    std::setvbuf(file.get(), nullptr, _IONBF, 0);
+    return file;
+}
+
+// Some systems open a folder for reading and fail at the first read alone.
+void refuse_folder(const std::filesystem::path& path) {
+    std::error_code ignored;
+    if (std::filesystem::is_directory(path, ignored))
+        raise(error::path_access);
+}
+
+FileHandle open_or_raise(const std::filesystem::path& path, const char* mode, FileNeed need) {
+    refuse_folder(path);
+    FileHandle file = system_open(path, mode);
+    if (!file)
+        raise(fault_number(last_fault(), need));
+    return unbuffered(std::move(file));
+}
+
+bool is_present(const std::filesystem::path& path) {
+    std::error_code ignored;
+    return std::filesystem::exists(path, ignored);
+}
+
+} // namespace
+
+FileHandle open_present(const std::filesystem::path& path) {
+    return open_or_raise(path, "rb", FileNeed::present);
+}
+
+FileHandle open_anew(const std::filesystem::path& path) {
+    return open_or_raise(path, "wb", FileNeed::made);
+}
+
+FileHandle open_to_update(const std::filesystem::path& path) {
+    if (!is_present(path))
+        return open_or_raise(path, "w+b", FileNeed::made);
+    refuse_folder(path);
+    if (FileHandle file = system_open(path, "r+b"))
+        return unbuffered(std::move(file));
+    return open_present(path);
+}
+
+void ReadBuffer::make_room() {
+    if (start_ > 0) {
+        std::copy(bytes_.data() + start_, bytes_.data() + end_, bytes_.data());
+        end_ -= start_;
+        start_ = 0;
+    }
+    if (bytes_.size() - end_ < chunk / 2)
+        bytes_.resize(std::max(chunk, bytes_.size() * 2));
+}
+
+bool ReadBuffer::more(std::FILE* file) {
+    make_room();
+    errno = 0;
+    const std::size_t got = std::fread(bytes_.data() + end_, 1, bytes_.size() - end_, file);
+    if (got == 0 && std::ferror(file) != 0)
+        raise(fault_number(last_fault(), FileNeed::present));
+    end_ += got;
+    return got > 0;
+}
+
+void WriteBuffer::add(std::FILE* file, std::string_view bytes) {
+    if (bytes_.size() + bytes.size() > chunk)
+        flush(file);
+    bytes_ += bytes;
+}
+
+void WriteBuffer::flush(std::FILE* file) {
+    if (bytes_.empty())
+        return;
+    errno = 0;
+    const bool whole = std::fwrite(bytes_.data(), 1, bytes_.size(), file) == bytes_.size();
+    bytes_.clear();
+    if (!whole)
+        raise(fault_number(last_fault(), FileNeed::made));
+}
+
+void seek(std::FILE* file, std::uint64_t position) {
+#ifdef _WIN32
+    const int failed = _fseeki64(file, static_cast<long long>(position), SEEK_SET);
+#else
+    const int failed = std::fseek(file, static_cast<long>(position), SEEK_SET);
+#endif
+    if (failed != 0)
+        raise(error::device_io);
+}
+
+void close_checked(FileHandle file) {
+    errno = 0;
+    if (std::fclose(file.release()) != 0)
+        raise(fault_number(last_fault(), FileNeed::made));
+}
+
+} // namespace velmora::runtime
