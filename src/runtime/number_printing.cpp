@@ -6,7 +6,9 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <span>
+#include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace velmora::runtime {
 namespace {
@@ -79,6 +81,19 @@ Decimal decimal_15(double value) {
 
 enum class Tie { to_even, away };
 
+/// One unit more in the last digit; of no digit, the unit of the place before the first.
+void count_up(Decimal& number) {
+    while (number.count > 0 && number.digits[static_cast<std::size_t>(number.count) - 1] == '9')
+        --number.count;
+    if (number.count > 0) {
+        ++number.digits[static_cast<std::size_t>(number.count) - 1];
+        return;
+    }
+    number.digits[0] = '1';
+    number.count = 1;
+    ++number.point;
+}
+
 /// Cuts the digits behind `decimals` places.
 void round_at(Decimal& number, int decimals, Tie tie) {
     const int kept = number.point + decimals;
@@ -88,26 +103,15 @@ void round_at(Decimal& number, int decimals, Tie tie) {
         number.count = 0;
         return;
     }
-    auto digits = std::span(number.digits);
     const auto index = static_cast<std::size_t>(kept);
-    const bool half = digits[index] == '5' && kept + 1 == number.count;
-    const bool odd = kept > 0 && (digits[index - 1] - '0') % 2 != 0;
-    const bool up = half ? tie == Tie::away || odd : digits[index] >= '5';
+    const char next = number.digits[index];
+    const bool half = next == '5' && kept + 1 == number.count;
+    const bool odd = kept > 0 && (number.digits[index - 1] - '0') % 2 != 0;
     number.count = kept;
-    if (up) {
-        int last = kept;
-        while (last > 0 && digits[static_cast<std::size_t>(last) - 1] == '9')
-            --last;
-        if (last == 0) {
-            digits[0] = '1';
-            ++number.point;
-            number.count = 1;
-            return;
-        }
-        ++digits[static_cast<std::size_t>(last) - 1];
-        number.count = last;
-    }
-    drop_zeros(number);
+    if (half ? tie == Tie::away || odd : next >= '5')
+        count_up(number);
+    else
+        drop_zeros(number);
 }
 
 /// Digits in their places, at least one before the separator and `decimals` behind it.
