@@ -1,10 +1,79 @@
 #include "document/coord_list.h"
+
+#include "document/number_text.h"
 #include "document/refresh.h"
+#include "document/session.h"
+#include "platform/platform.h"
+#include "platform/windows.h"
+#include "runtime/numbers.h"
 
 namespace velmora {
-std::string row_text(const CoordRow&) {
-    return {};
+
+namespace {
+
+CoordRow row_of(std::int32_t index) {
+    const Pto& point = Forma.Pto[index];
+    return {index, point.X, point.Y};
 }
-void Lst_Coords_Click(std::string_view) {}
-void Carga_List_Coords(std::string_view) {}
+
+/// The list as an array of `size` rows would check a position.
+auto position(std::int32_t index, std::size_t size) {
+    if (index < 0 || static_cast<std::size_t>(index) >= size)
+        raise(error::invalid_call);
+    return session.Velmora.Lst_Coords.begin() + index;
+}
+
+void rebuild() {
+    auto& rows = session.Velmora.Lst_Coords;
+    const auto points = Forma.Pto.all();
+    rows.resize(points.size());
+    std::int32_t index = 0;
+    for (const Pto& point : points) {
+        rows[static_cast<std::size_t>(index)] = {index, point.X, point.Y};
+        ++index;
+    }
+}
+
+void insert_row() {
+    auto& rows = session.Velmora.Lst_Coords;
+    const CoordRow row = row_of(session.PtoSel);
+    rows.insert(position(session.PtoSel, rows.size() + 1), row);
+}
+
+// The row at the new PtoSel goes, not the one at the old, on purpose.
+void remove_row() {
+    auto& rows = session.Velmora.Lst_Coords;
+    session.PtoSel = session.PtoSel == Forma.Pto.upper() ? 0 : session.PtoSel + 1;
+    rows.erase(position(session.PtoSel, rows.size()));
+}
+
+} // namespace
+
+std::string row_text(const CoordRow& row) {
+    return CStr(row.index) + ": " + CStr(row.X) + "  " + CStr(row.Y);
+}
+
+void Lst_Coords_Click(std::string_view text) {
+    if (text.empty())
+        return;
+    const auto index = runtime::CLng(text.substr(0, text.find(':')), session.SepDecimal);
+    if (index > Forma.Pto.upper())
+        return Carga_List_Coords("UPDATE");
+    session.PtoSel = index;
+    Dibuja();
+    platform().windows.set_focus("Velmora", "pic");
+}
+
+void Carga_List_Coords(std::string_view key) {
+    if (key == "NEWFILE" || key == "UPDATE")
+        rebuild();
+    else if (key == "INSERT")
+        insert_row();
+    else if (key == "DELETE")
+        remove_row();
+    else
+        return;
+    ++session.Velmora.Lst_Coords_fill;
+}
+
 } // namespace velmora

@@ -1,19 +1,75 @@
 #include "document/extents.h"
 
+#include "document/feedback.h"
+#include "document/session.h"
+
 namespace velmora {
-double GetMinX(std::string_view) {
-    return 0;
+
+namespace {
+
+constexpr double kMinimumStart = 100000.0;
+constexpr double kMaximumStart = 0.0;
+
+/// Goes through the field of all points of the selected array from the start value on, and takes
+/// over what `replaces` the running value.
+template <class Replaces>
+double extent(std::string_view prefix, std::string_view selector, double Pto::*field, double start,
+              Replaces replaces) {
+    double running = start;
+    trap(
+        [&] {
+            const Array<Pto>* array = array_of(selector);
+            if (array == nullptr)
+                return;
+            (void)array->upper(); // raises 9 where the array has no dimensions
+            for (const Pto& point : array->all())
+                if (replaces(point.*field, running))
+                    running = point.*field;
+        },
+        [&](const RuntimeError& failure) {
+            show_trap(prefix, failure);
+            running = 0;
+        });
+    return running;
 }
-double GetMaxX(std::string_view) {
-    return 0;
+
+constexpr auto below = [](double value, double running) {
+    return value < running;
+};
+constexpr auto above = [](double value, double running) {
+    return value > running;
+};
+
+} // namespace
+
+double GetMinX(std::string_view selector) {
+    return extent("Error GetMinX nº: ", selector, &Pto::X, kMinimumStart, below);
 }
-double GetMinY(std::string_view) {
-    return 0;
+
+double GetMaxX(std::string_view selector) {
+    return extent("Error GetMaxX nº: ", selector, &Pto::X, kMaximumStart, above);
 }
-double GetMaxY(std::string_view) {
-    return 0;
+
+double GetMinY(std::string_view selector) {
+    return extent("Error GetMinY nº: ", selector, &Pto::Y, kMinimumStart, below);
 }
-const Array<Pto>* array_of(std::string_view) {
+
+double GetMaxY(std::string_view selector) {
+    return extent("Error GetMaxY nº: ", selector, &Pto::Y, kMaximumStart, above);
+}
+
+const Array<Pto>* array_of(std::string_view selector) {
+    if (selector == "0")
+        return &Forma.Pto;
+    if (selector == "A")
+        return &session.PtosA;
+    if (selector == "B")
+        return &session.PtosB;
+    if (selector == "A2")
+        return &session.PtosA2;
+    if (selector == "B2")
+        return &session.PtosB2;
     return nullptr;
 }
+
 } // namespace velmora

@@ -6,8 +6,11 @@
 
 namespace velmora {
 
-/// Sets TxtPrecision; on a change, once the first activation is past, Apply_Precision runs when the
-/// text's value is above 0. The text is not read into Precision, on purpose.
+/// The text of TxtPrecision changed: once the first activation is past, Apply_Precision runs when
+/// its value is above 0. The text is not read into Precision, on purpose.
+void TxtPrecision_Change();
+
+/// Sets TxtPrecision; another text than before is a change.
 void set_TxtPrecision(std::string_view text);
 
 /// The boxes TxtPutArc, TxtPutCircle, TxtPrecision, Txt_zoom and their working copies from the

@@ -101,6 +101,12 @@ struct Session {
 
 extern Session session;
 
+/// A point is selected. An index beyond the array, as a recent file or Close can leave it, counts
+/// as no selection.
+[[nodiscard]] inline bool hay_seleccion() {
+    return session.PtoSel >= 0 && session.PtoSel <= Forma.Pto.upper();
+}
+
 /// A file of the program's folder, "\velmora.chm" or "velmora.chm".
 [[nodiscard]] std::string program_file(std::string_view name);
 

@@ -1,0 +1,19 @@
+// A text box that the program fills.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+/// Puts a text into a box; `changed` runs when it differs from what stood there, as it does when
+/// the user types.
+template <class Changed>
+void put_text(std::string& box, std::string_view text, Changed&& changed) {
+    if (box == text)
+        return;
+    box = text;
+    changed();
+}
+
+} // namespace velmora

@@ -1,0 +1,42 @@
+// Outlines for tests, short to write down and short to compare.
+#pragma once
+
+#include "document/forma.h"
+
+#include <initializer_list>
+#include <ostream>
+#include <vector>
+
+namespace velmora {
+
+inline void PrintTo(const Pto& point, std::ostream* out) {
+    *out << "(" << point.X << ", " << point.Y << ", Sinc " << point.Sinc << ", Marca "
+         << point.Marca << ")";
+}
+
+} // namespace velmora
+
+namespace velmora::test {
+
+using Points = std::vector<Pto>;
+
+inline void fill(Array<Pto>& array, const Points& points) {
+    array.redim(static_cast<std::int32_t>(points.size()) - 1);
+    std::int32_t index = 0;
+    for (const Pto& point : points)
+        array[index++] = point;
+}
+
+inline void set_shape(const Points& points) {
+    fill(Forma.Pto, points);
+}
+
+inline Points points_of(const Array<Pto>& array) {
+    return {array.all().begin(), array.all().end()};
+}
+
+inline Points shape() {
+    return points_of(Forma.Pto);
+}
+
+} // namespace velmora::test
