@@ -1,0 +1,41 @@
+// What the controls of winoptions do to the session, and how the two side windows roll up.
+#pragma once
+
+namespace velmora {
+
+/// Heights in twips: activated, and rolled up to the title.
+inline constexpr int kSideWindowHeight = 4245;
+inline constexpr int kWinoptionsRolledUp = 300;
+inline constexpr int kWininfoRolledUp = 180;
+
+/// A window got the activation: it rolls down. It lost it: it rolls up unless pinned.
+void winoptions_Activate();
+void winoptions_Deactivate();
+void wininfo_Activate();
+void wininfo_Deactivate();
+/// The heights that follow from it, in twips.
+[[nodiscard]] int winoptions_height();
+[[nodiscard]] int wininfo_height();
+
+/// The three output types exclude each other. The file's name takes the type's extension, FileName
+/// the name as it stands in TxtDat_File.
+void ChkDATSinc_Click();
+void ChkSCR_Click();
+void Chk_DATPerfil_Click();
+
+/// A check box was ticked or cleared (it stands in session.winoptions).
+void ChkPtos_Click();
+void ChkPtosCtrl_Click();
+void ChkCoords_Click();
+void chk_optimize_Click();
+void chk_Redim_Capture_Click();
+
+/// A key of a numeric box: the key to take, 0 to swallow it.
+[[nodiscard]] int TxtPutArc_KeyPress(int key);
+[[nodiscard]] int TxtPutCircle_KeyPress(int key);
+[[nodiscard]] int TxtPrecision_KeyPress(int key);
+/// Enter takes the zoom from the text, with either separator. Raises 13 for a text that is no
+/// number, 6 beyond the decimal type.
+[[nodiscard]] int Txt_zoom_KeyPress(int key);
+
+} // namespace velmora
