@@ -55,31 +55,10 @@ void mnu_loadimg() {
 void mnu_delimg() {
     not_available();
 }
-void mnu_positiva() {
-    not_available();
-}
-void mnu_scale() {
-    not_available();
-}
-void mnu_scale_xy() {
-    not_available();
-}
-void mnu_invert() {
-    not_available();
-}
-void mnu_mirrorh() {
-    not_available();
-}
-void mnu_mirrorv() {
-    not_available();
-}
 void mnu_zoom_up() {
     not_available();
 }
 void mnu_zoom_down() {
-    not_available();
-}
-void mnu_update_coords() {
     not_available();
 }
 void mnu_seltexto() {
@@ -151,31 +130,10 @@ void Pts_To_Next_Sinc() {
 void Set_CutStart() {
     not_available();
 }
-void Set_00() {
-    not_available();
-}
-void set_10() {
-    not_available();
-}
-void set_x0() {
-    not_available();
-}
-void Move_Shape() {
-    not_available();
-}
-void Rotate() {
-    not_available();
-}
 void K_EXIT() {
     not_available();
 }
 void K_PRINT() {
-    not_available();
-}
-void K_INVERT() {
-    not_available();
-}
-void K_SCALE() {
     not_available();
 }
 

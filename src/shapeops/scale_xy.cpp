@@ -1,13 +1,104 @@
 #include "shapeops/scale_xy.h"
 
+#include "document/number_text.h"
+#include "document/refresh.h"
+#include "document/session.h"
+#include "document/text_box.h"
+#include "platform/platform.h"
+#include "platform/windows.h"
+#include "runtime/numbers.h"
+#include "services/numeric_box.h"
+#include "services/window_literals.h"
+#include "shapeops/transforms.h"
+
 namespace velmora {
-void Scale_xy_Load() {}
-void Opt_fixed_Click() {}
-void Opt_percent_Click() {}
-void Scale_xy_Change(ScaleBox) {}
-int Scale_xy_KeyPress(ScaleBox, int key) {
-    return key;
+
+namespace {
+
+constexpr std::string_view kWindow = "Scale_xy";
+
+bool reads_non_zero(const std::string& text) {
+    return runtime::Val(text) != 0;
 }
-void Scale_xy_cmd_ok_Click() {}
-void Scale_xy_cmd_cancel_Click() {}
+
+void enable_ok_by(const std::string& x, const std::string& y) {
+    session.Scale_xy.cmd_ok_enabled = reads_non_zero(x) && reads_non_zero(y);
+}
+
+void fixed_changed() {
+    enable_ok_by(session.Scale_xy.txt_fixed_x, session.Scale_xy.txt_fixed_y);
+}
+
+void percent_changed() {
+    enable_ok_by(session.Scale_xy.txt_percent_x, session.Scale_xy.txt_percent_y);
+}
+
+NumericBox box_of(ScaleBox box) {
+    ScaleXyWindow& window = session.Scale_xy;
+    switch (box) {
+    case ScaleBox::fixed_x:
+        return {kWindow, "txt_fixed_x", window.txt_fixed_x, ".", "0", fixed_changed};
+    case ScaleBox::fixed_y:
+        return {kWindow, "txt_fixed_y", window.txt_fixed_y, ".", "0", fixed_changed};
+    case ScaleBox::percent_x:
+        return {kWindow, "txt_percent_x", window.txt_percent_x, ".", "0", percent_changed};
+    case ScaleBox::percent_y:
+        break;
+    }
+    return {kWindow, "txt_percent_y", window.txt_percent_y, ".", "0", percent_changed};
+}
+
+void choose(bool fixed) {
+    session.Scale_xy.Opt_fixed = fixed;
+    session.Scale_xy.frm_fixed_enabled = fixed;
+    session.Scale_xy.frm_percent_enabled = !fixed;
+}
+
+} // namespace
+
+void Scale_xy_Load() {
+    session.Scale_xy = {};
+    load_literals(kWindow);
+    ScaleXyWindow& window = session.Scale_xy;
+    put_text(window.txt_fixed_x, CStr(session.Longitud), fixed_changed);
+    put_text(window.txt_fixed_y, CStr(session.Altura), fixed_changed);
+    put_text(window.txt_percent_x, "100", percent_changed);
+    put_text(window.txt_percent_y, "100", percent_changed);
+}
+
+void Opt_fixed_Click() {
+    choose(true);
+    fixed_changed();
+}
+
+void Opt_percent_Click() {
+    choose(false);
+    percent_changed();
+}
+
+void Scale_xy_Change(ScaleBox box) {
+    box_of(box).changed();
+}
+
+int Scale_xy_KeyPress(ScaleBox box, int key) {
+    return numeric_key(box_of(box), key == ',' ? '.' : key);
+}
+
+// The window stays open, so that a scale can be applied again to its own result.
+void Scale_xy_cmd_ok_Click() {
+    const ScaleXyWindow& window = session.Scale_xy;
+    if (window.Opt_fixed)
+        ScaleXY(runtime::Val(window.txt_fixed_x), runtime::Val(window.txt_fixed_y), 1);
+    else
+        ScaleXY(runtime::Val(window.txt_percent_x), runtime::Val(window.txt_percent_y), 0);
+    Apply_Precision();
+    Carga_List_Coords("UPDATE");
+    Define_Layout();
+    Dibuja();
+}
+
+void Scale_xy_cmd_cancel_Click() {
+    platform().windows.unload(kWindow);
+}
+
 } // namespace velmora

@@ -1,14 +1,77 @@
 #include "shapeops/transforms.h"
+
+#include "document/extents.h"
 #include "document/refresh.h"
+#include "document/session.h"
+#include "runtime/numbers.h"
+#include "services/message_codes.h"
+#include "shapeops/framed.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace velmora {
-void PositivaX(double) {}
-void PositivaY(double) {}
-void Positivarfrma() {}
-void ScaleToUnit() {}
-void ScaleXY(double, double, std::int16_t) {}
-void MirrorHorDat() {}
-void MirrorVerDat() {}
-void InvertDat() {}
-void Apply_Precision() {}
+
+namespace {
+
+void shift(double Pto::*field, double offset) {
+    const double distance = std::fabs(offset);
+    for (Pto& point : Forma.Pto.all())
+        point.*field = runtime::checked(point.*field + distance);
+}
+
+void negate(double Pto::*field) {
+    for (Pto& point : Forma.Pto.all())
+        point.*field = -(point.*field);
+}
+
+} // namespace
+
+void PositivaX(double offset) {
+    trap([&] { shift(&Pto::X, offset); },
+         [](const RuntimeError& failure) { show_trap("Error PositivaX nº: ", failure); });
+}
+
+void PositivaY(double offset) {
+    trap([&] { shift(&Pto::Y, offset); },
+         [](const RuntimeError& failure) { show_trap("Error PositivaY nº: ", failure); });
+}
+
+void Positivarfrma() {
+    framed("Error Positivarfrma nº: ", mensaje::making_positive, mensaje::made_positive, [] {
+        const double min_y = GetMinY("0");
+        const double min_x = GetMinX("0");
+        if (min_y < 0)
+            PositivaY(min_y);
+        if (min_x < 0)
+            PositivaX(min_x);
+    });
+}
+
+void MirrorHorDat() {
+    framed("Error MirrorHorDat nº: ", mensaje::mirroring_horizontal, mensaje::mirrored_horizontal,
+           [] { negate(&Pto::X); });
+}
+
+void MirrorVerDat() {
+    framed("Error MirrorVerDat nº: ", mensaje::mirroring_vertical, mensaje::mirrored_vertical,
+           [] { negate(&Pto::Y); });
+}
+
+void InvertDat() {
+    framed("Error InvertDat nº: ", mensaje::inverting, mensaje::inverted,
+           [] { std::ranges::reverse(Forma.Pto.all().subspan(1)); });
+}
+
+void Apply_Precision() {
+    framed("Error Apply_Precision nº: ", mensaje::applying_precision, mensaje::precision_applied,
+           [] {
+               const int decimals = runtime::to_int16(session.Precision);
+               for (Pto& point : Forma.Pto.all()) {
+                   point.X = runtime::Round(point.X, decimals);
+                   point.Y = runtime::Round(point.Y, decimals);
+               }
+           });
+}
+
 } // namespace velmora

@@ -1,0 +1,81 @@
+#include "document/handlers.h"
+#include "document/session.h"
+#include "support/outline.h"
+#include "support/recording_platform.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora {
+namespace {
+
+using test::Points;
+using test::RecordingPlatform;
+using test::set_shape;
+using test::shape;
+
+struct CommandCase {
+    const char* name;
+    void (*command)();
+    Points after; ///< of kBefore, with Precision 1
+};
+
+const Points kBefore = {{-1.26, 2, 1}, {4, -2.04}, {2, 3}};
+
+const CommandCase kCommands[] = {
+    {"mnu_positiva", mnu_positiva, {{0, 4, 1}, {5.3, 0}, {3.3, 5}}},
+    {"mnu_scale", mnu_scale, {{-0.3, 0.5, 1}, {1, -0.5}, {0.5, 0.8}}}, // -2.04 / 4 first
+    {"K_SCALE", K_SCALE, {{-0.3, 0.5, 1}, {1, -0.5}, {0.5, 0.8}}},
+    {"mnu_invert", mnu_invert, {{-1.3, 2, 1}, {2, 3}, {4, -2}}},
+    {"K_INVERT", K_INVERT, {{-1.3, 2, 1}, {2, 3}, {4, -2}}},
+    {"mnu_mirrorh", mnu_mirrorh, {{1.3, 2, 1}, {-4, -2}, {-2, 3}}},
+    {"mnu_mirrorv", mnu_mirrorv, {{-1.3, -2, 1}, {4, 2}, {2, -3}}},
+};
+
+TEST(ShapeCommands, transform_round_and_refresh_the_list) {
+    RecordingPlatform platform;
+    session.Precision = 1;
+    session.PtoSel = 2;
+    for (const CommandCase& c : kCommands) {
+        SCOPED_TRACE(c.name);
+        set_shape(kBefore);
+        c.command();
+        EXPECT_EQ(shape(), c.after);
+        ASSERT_EQ(session.Velmora.Lst_Coords.size(), 3U);
+        EXPECT_EQ(session.Velmora.Lst_Coords[1].X, c.after[1].X);
+        EXPECT_EQ(session.PtoSel, 2);
+    }
+}
+
+// The scale comes before the rounding: rounded first, 0.04 would be gone.
+TEST(ShapeCommands, mnu_scale_rounds_last) {
+    RecordingPlatform platform;
+    session.Precision = 1;
+    for (void (*command)() : {mnu_scale, K_SCALE}) {
+        set_shape({{0.04, 0}, {0, 0.02}});
+        command();
+        EXPECT_EQ(shape(), (Points{{1, 0}, {0, 0.5}}));
+    }
+}
+
+TEST(ShapeCommands, mnu_scale_xy_opens_its_window) {
+    RecordingPlatform platform;
+    set_shape(kBefore);
+    mnu_scale_xy();
+    EXPECT_EQ(platform.windows.calls, std::vector<std::string>{"show_modal Scale_xy"});
+    EXPECT_EQ(shape(), kBefore);
+}
+
+TEST(ShapeCommands, a_single_point_is_no_shape) {
+    RecordingPlatform platform;
+    const Points before = {{-1.23456789, -1}};
+    set_shape(before);
+    for (const CommandCase& c : kCommands)
+        c.command();
+    mnu_scale_xy();
+    EXPECT_EQ(shape(), before);
+    EXPECT_TRUE(platform.windows.calls.empty());
+    EXPECT_TRUE(session.Velmora.Lst_Coords.empty());
+}
+
+} // namespace
+} // namespace velmora
