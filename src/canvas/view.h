@@ -1,21 +1,34 @@
-// World and canvas: the mapping, and the painters that follow the pointer.
+// World and canvas: the mapping, and the painters that follow the pointer. Canvas positions are
+// pixels, y growing downward; session.CanvasX0 and CanvasY0 are the world's origin there,
+// session.ZoomFactor the pixels of one unit.
 #pragma once
+
+#include "canvas/surface.h"
+#include "document/forma.h"
+
+#include <cstdint>
 
 namespace velmora {
 
 /// Pixel position of a world point, unrounded; raises 6 beyond f64.
 [[nodiscard]] double canvas_x(double x);
 [[nodiscard]] double canvas_y(double y);
-/// World position of a pixel.
+/// World position of a pixel. Raises 11 with a zoom of 0, 6 beyond f64.
 [[nodiscard]] double world_x(double px);
 [[nodiscard]] double world_y(double py);
 
-/// Moves the selected point to a world position, rounded to Precision, repainting its two segments.
-void DibujaDrag(double x, double y);
-/// The rubber band of the insertion mode, from the selected point to a world position.
-void DibujaCreate(double x, double y);
+/// A pixel position to nearest, ties to even. Raises 6 beyond 32 bits, for what is no number too.
+[[nodiscard]] std::int32_t to_pixel(double position);
+/// Pixel of a point. Raises 6 as to_pixel does.
+[[nodiscard]] PixelPoint pixel_of(const Pto& point);
+/// A pixel position for the operations that take floats. Raises 6 beyond them.
+[[nodiscard]] float to_single(double position);
 
-/// The open dialog for a background picture.
-void CargaImagen();
+/// Moves the selected point to a world position, rounded to Precision, repainting its two segments.
+/// The error route is Dibuja's without the case of 9, and an overflow ends it without a message.
+void DibujaDrag(double x, double y);
+/// The rubber band of the insertion mode, from the selected point to a world position, rounded to
+/// Precision. Error route as DibujaDrag's.
+void DibujaCreate(double x, double y);
 
 } // namespace velmora

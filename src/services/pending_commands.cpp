@@ -49,18 +49,6 @@ void Insert_All_Pto_Sinc() {
 void Mult_Points_Shape() {
     not_available();
 }
-void mnu_loadimg() {
-    not_available();
-}
-void mnu_delimg() {
-    not_available();
-}
-void mnu_zoom_up() {
-    not_available();
-}
-void mnu_zoom_down() {
-    not_available();
-}
 void mnu_seltexto() {
     not_available();
 }

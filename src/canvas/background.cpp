@@ -1,0 +1,24 @@
+#include "canvas/background.h"
+
+#include "canvas/surface.h"
+#include "document/session.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+
+namespace velmora {
+
+void CargaImagen() {
+    FileRequest request;
+    request.title = GetMensaje(mensaje::open_title);
+    request.filter = GetMensaje(mensaje::picture_filter);
+    request.folder = session.LastDir.empty() ? session.program_folder : session.LastDir;
+    const std::string file = platform().dialogs.open_file(request);
+    if (file.empty())
+        return;
+    platform().pic.set_picture(file);
+    platform().pic.present();
+}
+
+} // namespace velmora

@@ -1,0 +1,50 @@
+#include "canvas/view.h"
+
+#include "document/session.h"
+#include "runtime/numbers.h"
+
+#include <cmath>
+#include <limits>
+
+namespace velmora {
+
+double canvas_x(double x) {
+    return runtime::checked(session.ZoomFactor * x + session.CanvasX0);
+}
+
+double canvas_y(double y) {
+    return runtime::checked(session.CanvasY0 - session.ZoomFactor * y);
+}
+
+double world_x(double px) {
+    return runtime::divide(px - session.CanvasX0, session.ZoomFactor);
+}
+
+double world_y(double py) {
+    return -runtime::divide(py - session.CanvasY0, session.ZoomFactor);
+}
+
+std::int32_t to_pixel(double position) {
+    // Half a pixel more than the largest number is a tie that goes up, beyond 32 bits.
+    constexpr double least = std::numeric_limits<std::int32_t>::min() - 0.5;
+    constexpr double most = std::numeric_limits<std::int32_t>::max() + 0.5;
+    if (!(position >= least && position < most))
+        raise(error::overflow);
+    // At this size an f64 holds whole numbers alone: the addition itself rounds, ties to even.
+    constexpr double whole_numbers = 6755399441055744.0;
+    return static_cast<std::int32_t>((position + whole_numbers) - whole_numbers);
+}
+
+PixelPoint pixel_of(const Pto& point) {
+    return {to_pixel(session.ZoomFactor * point.X + session.CanvasX0),
+            to_pixel(session.CanvasY0 - session.ZoomFactor * point.Y)};
+}
+
+float to_single(double position) {
+    const auto single = static_cast<float>(position);
+    if (!std::isfinite(single))
+        raise(error::overflow);
+    return single;
+}
+
+} // namespace velmora
