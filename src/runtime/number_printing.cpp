@@ -1,11 +1,14 @@
 #include "runtime/error.h"
+#include "runtime/exact_scaling.h"
 #include "runtime/numbers.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <span>
+#include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace velmora::runtime {
 namespace {
@@ -20,10 +23,14 @@ struct Decimal {
     int point = 0;
     bool negative = false;
 
-    /// The digit at a place of the positional form: place 0 stands before the separator.
-    [[nodiscard]] char at(int place) const {
-        const int index = point - 1 - place;
-        return index >= 0 && index < count ? digits[static_cast<std::size_t>(index)] : '0';
+    /// The digits from one index up to another; zeros where there are none.
+    void append_to(std::string& text, int from, int to) const {
+        const int first = std::clamp(0, from, to);
+        const int last = std::clamp(count, first, to);
+        text.append(static_cast<std::size_t>(first - from), '0');
+        if (last > first)
+            text.append(digits.data() + first, static_cast<std::size_t>(last - first));
+        text.append(static_cast<std::size_t>(to - last), '0');
     }
 };
 
@@ -50,26 +57,42 @@ Decimal parts_of(std::string_view scientific) {
     return number;
 }
 
-/// A number with 15 significant digits. The shortest text that gives the same f64 back is much
-/// cheaper than an exact one; where it has 15 digits or fewer it is the answer too, as any decimal
-/// of 15 digits comes back from the nearest normal f64 unchanged. Below the normal f64 that does
-/// not hold.
+Decimal parts_of(const FifteenDigits& scaled) {
+    Decimal number;
+    number.negative = scaled.whole < 0;
+    const auto magnitude = static_cast<std::uint64_t>(std::abs(scaled.whole));
+    char* const start = number.digits.data();
+    const auto end = std::to_chars(start, start + number.digits.size(), magnitude);
+    number.count = static_cast<int>(end.ptr - start);
+    number.point = number.count - scaled.decimals;
+    drop_zeros(number);
+    return number;
+}
+
+/// A number with 15 significant digits.
 Decimal decimal_15(double value) {
+    if (const auto scaled = fifteen_digits(value))
+        return parts_of(*scaled);
     std::array<char, 40> text;
-    const auto end = text.data() + text.size();
-    constexpr double smallest_normal = 2.2250738585072014e-308;
-    if (std::abs(checked(value)) >= smallest_normal) {
-        const auto shortest = std::to_chars(text.data(), end, value, std::chars_format::scientific);
-        const Decimal number = parts_of({text.data(), shortest.ptr});
-        if (number.count <= significant_digits)
-            return number;
-    }
-    const auto exact = std::to_chars(text.data(), end, value, std::chars_format::scientific,
-                                     significant_digits - 1);
-    return parts_of({text.data(), exact.ptr});
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), checked(value),
+                                   std::chars_format::scientific, significant_digits - 1);
+    return parts_of({text.data(), end.ptr});
 }
 
 enum class Tie { to_even, away };
+
+/// One unit more in the last digit; of no digit, the unit of the place before the first.
+void count_up(Decimal& number) {
+    while (number.count > 0 && number.digits[static_cast<std::size_t>(number.count) - 1] == '9')
+        --number.count;
+    if (number.count > 0) {
+        ++number.digits[static_cast<std::size_t>(number.count) - 1];
+        return;
+    }
+    number.digits[0] = '1';
+    number.count = 1;
+    ++number.point;
+}
 
 /// Cuts the digits behind `decimals` places.
 void round_at(Decimal& number, int decimals, Tie tie) {
@@ -80,26 +103,15 @@ void round_at(Decimal& number, int decimals, Tie tie) {
         number.count = 0;
         return;
     }
-    auto digits = std::span(number.digits);
     const auto index = static_cast<std::size_t>(kept);
-    const bool half = digits[index] == '5' && kept + 1 == number.count;
-    const bool odd = kept > 0 && (digits[index - 1] - '0') % 2 != 0;
-    const bool up = half ? tie == Tie::away || odd : digits[index] >= '5';
+    const char next = number.digits[index];
+    const bool half = next == '5' && kept + 1 == number.count;
+    const bool odd = kept > 0 && (number.digits[index - 1] - '0') % 2 != 0;
     number.count = kept;
-    if (up) {
-        int last = kept;
-        while (last > 0 && digits[static_cast<std::size_t>(last) - 1] == '9')
-            --last;
-        if (last == 0) {
-            digits[0] = '1';
-            ++number.point;
-            number.count = 1;
-            return;
-        }
-        ++digits[static_cast<std::size_t>(last) - 1];
-        number.count = last;
-    }
-    drop_zeros(number);
+    if (half ? tie == Tie::away || odd : next >= '5')
+        count_up(number);
+    else
+        drop_zeros(number);
 }
 
 /// Digits in their places, at least one before the separator and `decimals` behind it.
@@ -107,12 +119,11 @@ std::string positional(const Decimal& number, int decimals, char separator) {
     std::string text;
     if (number.negative && number.count > 0)
         text += '-';
-    for (int place = std::max(number.point, 1) - 1; place >= 0; --place)
-        text += number.at(place);
-    if (decimals > 0)
-        text += separator;
-    for (int place = -1; place >= -decimals; --place)
-        text += number.at(place);
+    number.append_to(text, std::min(number.point - 1, 0), number.point);
+    if (decimals == 0)
+        return text;
+    text += separator;
+    number.append_to(text, number.point, number.point + decimals);
     return text;
 }
 
@@ -175,24 +186,6 @@ std::string Format5(double value, char separator) {
         number = decimal_15(value);
     round_at(number, decimals, Tie::away);
     return positional(number, decimals, separator);
-}
-
-double normalized_15(double value) {
-    if (value == 0)
-        return 0;
-    const Decimal number = as_decimal_type(value);
-    std::array<char, 40> text;
-    char* end = text.data();
-    if (number.negative && number.count > 0)
-        *end++ = '-';
-    *end++ = '0';
-    *end++ = '.';
-    end = std::copy_n(number.digits.data(), number.count, end);
-    *end++ = 'e';
-    end = std::to_chars(end, text.data() + text.size(), number.point).ptr;
-    double result = 0;
-    std::from_chars(text.data(), end, result);
-    return result;
 }
 
 } // namespace velmora::runtime

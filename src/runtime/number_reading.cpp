@@ -1,4 +1,5 @@
 #include "runtime/error.h"
+#include "runtime/exact_scaling.h"
 #include "runtime/numbers.h"
 
 #include <algorithm>
@@ -6,6 +7,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace velmora::runtime {
 namespace {
@@ -15,10 +17,14 @@ bool is_digit(char c) {
 }
 
 std::string_view without_margins(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+    const auto is_margin = [](char c) {
+        return c == ' ' || c == '\t';
+    };
+    while (!text.empty() && is_margin(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && is_margin(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 /// The decimal exponent as written, held within what can still be added to.
@@ -68,6 +74,34 @@ Reading read_number(std::string_view text) {
     return reading;
 }
 
+/// Most coordinates: a sign, up to 15 digits, a separator. Digits and power of ten are exact in f64
+/// then, so the one division gives the nearest f64.
+std::optional<double> plain_number(std::string_view text, char separator) {
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+'))
+        text.remove_prefix(1);
+    std::uint64_t digits = 0;
+    std::size_t count = 0;
+    std::size_t decimals = 0;
+    bool separated = false;
+    for (const char c : text) {
+        if (is_digit(c)) {
+            digits = digits * 10 + static_cast<std::uint64_t>(c - '0');
+            ++count;
+            decimals += separated ? 1 : 0;
+        } else if (c == separator && !separated) {
+            separated = true;
+        } else {
+            return std::nullopt;
+        }
+    }
+    constexpr std::size_t most_digits = 15;
+    if (count == 0 || count > most_digits)
+        return std::nullopt;
+    const double value = static_cast<double>(digits) / powers_of_ten[decimals];
+    return negative ? -value : value;
+}
+
 double whole_text(std::string_view text) {
     const Reading reading = read_number(text);
     if (reading.used == 0 || reading.used != text.size())
@@ -102,6 +136,8 @@ Integer to_whole(double value) {
 
 double CDbl(std::string_view text, char separator) {
     const auto number = without_margins(text);
+    if (const auto plain = plain_number(number, separator))
+        return *plain;
     return separator == '.' ? whole_text(number) : with_point(number);
 }
 

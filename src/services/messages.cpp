@@ -1,11 +1,75 @@
 #include "services/messages.h"
 
+#include "document/feedback.h"
+#include "platform/database.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "services/hourglass.h"
+
+#include <optional>
+
 namespace velmora {
-std::string GetMensaje(int) {
-    return {};
+
+namespace {
+
+// The table stays open from the first message to the end of the program.
+std::unique_ptr<Recordset>& mensajes() {
+    static std::unique_ptr<Recordset> table;
+    return table;
 }
-int MuestraMensaje(int) {
-    return 1;
+
+struct Message {
+    std::string text;
+    std::string title;
+    int buttons = 0;
+};
+
+std::string trimmed_field(std::string_view field) {
+    const Value value = mensajes()->field(field);
+    return is_null(value) ? std::string{} : std::string(runtime::Trim(text_of(value)));
 }
-void close_messages() noexcept {}
+
+void open_table() {
+    if (mensajes())
+        return;
+    const Hourglass hourglass;
+    mensajes() = platform().database.open_recordset("Mensajes", Access::read_only);
+}
+
+// Stands on the row of the code; false when there is none, a Null text counts as none.
+bool find(int codigo) {
+    mensajes()->seek({std::to_string(codigo), session.Idioma});
+    return !mensajes()->no_match() && !is_null(mensajes()->field("Descripcion"));
+}
+
+Message look_up(int codigo) {
+    open_table();
+    const Hourglass hourglass;
+    if (!find(codigo))
+        return {};
+    return {trimmed_field("Descripcion"), trimmed_field("Titulo"),
+            runtime::to_int32(runtime::Val(trimmed_field("Botones")))};
+}
+
+} // namespace
+
+std::string GetMensaje(int codigo) {
+    return look_up(codigo).text;
+}
+
+int MuestraMensaje(int codigo) {
+    Message message = look_up(codigo);
+    if (message.text.empty()) {
+        message.text = "Error de Tabla de Idiomas";
+        message.buttons = buttons::exclamation;
+    }
+    return MsgBox(message.text, message.buttons, message.title);
+}
+
+void close_messages() noexcept {
+    mensajes().reset();
+}
+
 } // namespace velmora

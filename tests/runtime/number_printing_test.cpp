@@ -6,6 +6,7 @@
 #include <bit>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <random>
 
@@ -109,16 +110,45 @@ TEST(NumACadena, raises_6_beyond_28_whole_digits) {
         EXPECT_EQ(number_of([&] { (void)runtime::NumACadena(value, '.'); }), 6) << value;
 }
 
-TEST(Normalized15, is_the_value_that_the_text_names) {
+double through_c_library(double value) {
+    char text[64];
+    std::snprintf(text, sizeof text, "%.14e", value);
+    return std::strtod(text, nullptr);
+}
+
+TEST(Normalized15, is_the_f64_nearest_to_15_digits) {
     for (const double value : numbers_of_all_kinds(200000)) {
-        if (std::abs(value) >= 7.9e28)
+        if (std::abs(value) >= 7.9e28 || std::abs(value) < 1e-13)
             continue;
-        const double by_text = runtime::CDbl(runtime::NumACadena(value, '.'), '.');
         ASSERT_EQ(std::bit_cast<std::uint64_t>(runtime::normalized_15(value)),
+                  std::bit_cast<std::uint64_t>(through_c_library(value)))
+            << value;
+    }
+}
+
+TEST(Normalized15, holds_next_to_the_powers_of_ten) {
+    for (int exponent = -13; exponent <= 27; ++exponent) {
+        double value = std::pow(10.0, exponent);
+        for (int step = 0; step < 40; ++step)
+            value = std::nextafter(value, 0);
+        for (int step = 0; step < 80; ++step) {
+            value = std::nextafter(value, 1e300);
+            ASSERT_EQ(runtime::normalized_15(value), through_c_library(value)) << value;
+            ASSERT_EQ(runtime::normalized_15(-value), through_c_library(-value)) << value;
+            ASSERT_EQ(runtime::CStr(value, '.'), printed(value));
+        }
+    }
+}
+
+TEST(Normalized15, is_the_value_that_the_text_names) {
+    for (const double value : {1.5e-28, 6.123233995736766e-16, -4e-29, -1.0 / 3, 0.1 + 0.2, -0.0}) {
+        const double by_text = runtime::CDbl(runtime::NumACadena(value, '.'), '.');
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(runtime::normalized_15(value)),
                   std::bit_cast<std::uint64_t>(by_text))
             << value;
     }
     EXPECT_EQ(number_of([] { (void)runtime::normalized_15(1e29); }), 6);
+    EXPECT_EQ(number_of([] { (void)runtime::normalized_15(infinity); }), 6);
 }
 
 TEST(Format5, rounds_the_15_digit_text_away_from_zero) {

@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
+#include <charconv>
 #include <cmath>
+#include <random>
 
 namespace velmora {
 namespace {
@@ -43,6 +46,22 @@ TEST(CDbl, reads_the_comma_where_it_is_the_separator) {
     EXPECT_EQ(runtime::CDbl(" 1,5E-03 ", ','), 0.0015);
     EXPECT_EQ(runtime::CDbl("12", ','), 12);
     EXPECT_EQ(runtime::CDbl(std::string(100, '0') + "1,5", ','), 1.5);
+}
+
+TEST(CDbl, gives_the_bits_of_the_library_for_short_and_long_texts) {
+    std::mt19937_64 random(3);
+    for (int i = 0; i < 200000; ++i) {
+        std::string text = std::to_string(random() >> (random() % 64));
+        if (random() % 8 != 0)
+            text.insert(random() % (text.size() + 1), 1, '.');
+        if (random() % 2 != 0)
+            text.insert(0, 1, '-');
+        double expected = 0;
+        std::from_chars(text.data(), text.data() + text.size(), expected);
+        ASSERT_EQ(std::bit_cast<std::uint64_t>(runtime::CDbl(text, '.')),
+                  std::bit_cast<std::uint64_t>(expected))
+            << text;
+    }
 }
 
 TEST(CDbl, refuses_what_is_no_number) {

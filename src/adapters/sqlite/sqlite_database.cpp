@@ -1,18 +1,123 @@
 #include "adapters/sqlite/sqlite_database.h"
 
+#include "adapters/sqlite/sqlite_recordsets.h"
+#include "runtime/paths.h"
+#include "runtime/text.h"
+
+#include <sqlite3.h>
+
 namespace velmora {
 
 namespace {
+
+using sqlite::Connection;
+using sqlite::Statement;
+
+// A file that another program has locked must never hold up the start.
+constexpr int kBusyMilliseconds = 200;
+
+// An empty file passes for a database without tables as long as nobody looks.
+void refuse_empty(const Connection& connection) {
+    Statement pages(connection, "PRAGMA page_count");
+    if (pages.step() && pages.column(0) == Value{std::int64_t{0}})
+        raise(error::not_a_database, "file is empty");
+}
+
+Connection connect(std::string_view path) {
+    if (!runtime::file_exists(path))
+        raise(error::invalid_database_path);
+    const std::string file = runtime::path_text(runtime::native_path(path));
+    sqlite3* handle = nullptr;
+    // A write-protected file is opened for reading by the same flags.
+    const int code = sqlite3_open_v2(file.c_str(), &handle,
+                                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE, nullptr);
+    if (handle == nullptr)
+        raise(error::out_of_memory);
+    Connection connection(handle, sqlite3_close_v2);
+    if (code != SQLITE_OK)
+        throw sqlite::fault_of(handle);
+    sqlite3_busy_timeout(handle, kBusyMilliseconds);
+    // A file that is no database, or is locked, shows here and not at the first text.
+    Statement(connection, "SELECT count(*) FROM sqlite_master").step();
+    refuse_empty(connection);
+    return connection;
+}
+
+bool is_select(std::string_view text) {
+    return runtime::UCase(text.substr(0, 7)) == "SELECT ";
+}
+
+bool is_blank(std::string_view text) {
+    return text.find_first_not_of("; \t\r\n") == std::string_view::npos;
+}
+
+// A comment outside the quotes. Texts are put into statements as they stand, and one with an
+// apostrophe must not make the rest of its statement a comment.
+bool has_comment(std::string_view statement) {
+    bool in_text = false;
+    for (std::size_t at = 0; at < statement.size(); ++at) {
+        const std::string_view pair = statement.substr(at, 2);
+        if (statement[at] == '\'')
+            in_text = !in_text;
+        else if (!in_text && (pair == "--" || pair == "/*"))
+            return true;
+    }
+    return false;
+}
+
 class SqliteDatabase : public Database {
   public:
-    void open(std::string_view) override {}
-    void close() noexcept override {}
-    bool is_open() const override { return false; }
-    std::unique_ptr<Recordset> open_recordset(std::string_view, Access) override { return nullptr; }
-    void execute(std::string_view) override {}
-    void begin() override {}
-    void commit() override {}
+    void open(std::string_view path) override {
+        close();
+        connection_ = connect(path);
+    }
+    void close() noexcept override {
+        if (connection_ && in_transaction())
+            sqlite3_exec(connection_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+        connection_.reset();
+    }
+    bool is_open() const override { return connection_ != nullptr; }
+
+    std::unique_ptr<Recordset> open_recordset(std::string_view table_or_select,
+                                              Access access) override {
+        require_open();
+        if (is_select(table_or_select))
+            return sqlite::open_select(connection_, table_or_select);
+        return sqlite::open_table(connection_, table_or_select, access);
+    }
+    void execute(std::string_view statement) override {
+        require_open();
+        if (is_blank(statement) || has_comment(statement))
+            raise(error::statement_fault, "no statement, or a comment in it");
+        std::string_view rest;
+        Statement prepared(connection_, statement, &rest);
+        if (!is_blank(rest))
+            raise(error::statement_fault, "characters found after the end of the statement");
+        prepared.step();
+    }
+    void begin() override {
+        require_open();
+        if (!in_transaction())
+            execute("BEGIN");
+    }
+    void commit() override {
+        require_open();
+        if (in_transaction())
+            execute("COMMIT");
+    }
+
+  private:
+    [[nodiscard]] bool in_transaction() const {
+        return sqlite3_get_autocommit(connection_.get()) == 0;
+    }
+    void require_open() const {
+        if (!connection_)
+            raise(error::object_not_set);
+    }
+
+    Connection connection_;
 };
+
 } // namespace
 
 std::unique_ptr<Database> make_sqlite_database() {
