@@ -1,0 +1,113 @@
+#include "canvas/keys.h"
+
+#include "document/feedback.h"
+#include "document/handlers.h"
+#include "document/refresh.h"
+#include "document/session.h"
+#include "document/shown_counts.h"
+#include "runtime/numbers.h"
+
+namespace velmora {
+
+namespace {
+
+constexpr int kCtrl = 2;
+constexpr double kNudges = 100; ///< arrow presses that cross the shape
+
+void flip_sync() {
+    std::int16_t& sync = Forma.Pto[session.PtoSel].Sinc;
+    const bool was_sync = sync != 0;
+    sync = was_sync ? 0 : 1;
+    step_TotalSinc(was_sync ? -1 : 1);
+}
+
+void nudge(double Pto::*axis, double extent) {
+    double& value = Forma.Pto[session.PtoSel].*axis;
+    value = runtime::checked(value + extent / kNudges);
+}
+
+std::int32_t first_marked() {
+    std::int32_t index = 0;
+    while (index < Forma.Pto.upper() && Forma.Pto[index].Marca != 1)
+        ++index;
+    return index;
+}
+
+/// Turns the array back, so that the points put in stand before the one selected then.
+void end_insertion() {
+    session.PtosToInsertMode = False;
+    if (session.PtoSelAnt < 0) {
+        session.PtoSel = 0;
+        return;
+    }
+    session.PtoSel = first_marked();
+    Set_CutStart();
+    session.PtoSel = session.PtoSelAnt == 0 ? Forma.Pto.upper() : session.PtoSelAnt - 1;
+    session.PtoSelAnt = -1;
+}
+
+void leave_modes() {
+    session.MoveShapeMode = False;
+    session.Velmora.pic_MousePointer = 0;
+    set_status("");
+    if (session.PtosToInsertMode)
+        end_insertion();
+}
+
+/// The keys that need the point itself.
+void change_selected(int KeyCode) {
+    switch (KeyCode) {
+    case key::Insert:
+        return Insert_Pto();
+    case key::S:
+        return flip_sync();
+    case key::Up:
+        return nudge(&Pto::Y, session.Altura);
+    case key::Down:
+        return nudge(&Pto::Y, -session.Altura);
+    case key::Right:
+        return nudge(&Pto::X, session.Longitud);
+    case key::Left:
+        return nudge(&Pto::X, -session.Longitud);
+    default:
+        return;
+    }
+}
+
+void carry_out(int KeyCode) {
+    switch (KeyCode) {
+    case key::Delete:
+        return Delete_Pto();
+    case key::M:
+        session.PtoSel = session.PtoSel < 1 ? Forma.Pto.upper() : session.PtoSel - 1;
+        return;
+    case key::N:
+        session.PtoSel = session.PtoSel >= Forma.Pto.upper() ? 0 : session.PtoSel + 1;
+        return;
+    case key::Esc:
+        return leave_modes();
+    default:
+        if (hay_seleccion())
+            change_selected(KeyCode);
+    }
+}
+
+void note_ctrl(int Shift) {
+    session.CtrlDown = flag((Shift & kCtrl) != 0);
+}
+
+} // namespace
+
+void pic_KeyDown(int KeyCode, int Shift) {
+    if (session.PtoSel > -1) {
+        carry_out(KeyCode);
+        Dibuja_unless_NoRedraw();
+    }
+    note_ctrl(Shift);
+}
+
+void pic_KeyUp(int, int Shift) {
+    note_ctrl(Shift);
+}
+
+} // namespace velmora

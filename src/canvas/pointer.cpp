@@ -1,0 +1,192 @@
+#include "canvas/pointer.h"
+
+#include "canvas/view.h"
+#include "document/feedback.h"
+#include "document/number_text.h"
+#include "document/refresh.h"
+#include "document/session.h"
+#include "document/shown_counts.h"
+#include "platform/platform.h"
+#include "platform/windows.h"
+#include "runtime/numbers.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+
+#include <cmath>
+#include <limits>
+#include <string>
+
+namespace velmora {
+
+namespace {
+
+constexpr double kReach = 2;
+constexpr float kLabelDistance = 10;
+constexpr int kCross = 2;
+
+std::string label_of(std::int32_t index) {
+    const Pto& point = Forma.Pto[index];
+    return "  " + CStr(index) + ": " + (point.Sinc == 1 ? " S " : "") + "(" + CStr(point.X) + " " +
+           CStr(point.Y) + ")";
+}
+
+void show_label(std::int32_t index, float X, float Y) {
+    VelmoraWindow& window = session.Velmora;
+    window.lbl_xyfloat = label_of(index);
+    window.lbl_xyfloat_Top = Y + kLabelDistance;
+    window.lbl_xyfloat_Left = X + kLabelDistance;
+    window.lbl_xyfloat_visible = true;
+}
+
+void hover(float X, float Y) {
+    session.HoverPto = HitPto(X, Y);
+    if (session.HoverPto < 0) {
+        set_pointer(0);
+        session.Velmora.lbl_xyfloat_visible = false;
+        return;
+    }
+    set_pointer(kCross);
+    if (session.ShowCoords)
+        show_label(session.HoverPto, X, Y);
+}
+
+void refresh_changed_shape() {
+    Apply_Precision();
+    Carga_List_Coords("UPDATE");
+    Define_Layout();
+    Dibuja();
+}
+
+/// How far the shape goes on one axis. The two additions of 1000 change the last bits, and stay.
+double distance(double target, double selected) {
+    return (target + 1000) - (selected + 1000);
+}
+
+void move_shape() {
+    const Pto selected = Forma.Pto[session.PtoSel];
+    const double dx = distance(session.DestX, selected.X);
+    const double dy = distance(session.DestY, selected.Y);
+    for (Pto& point : Forma.Pto.all()) {
+        point.X = runtime::checked(point.X + dx);
+        point.Y = runtime::checked(point.Y + dy);
+    }
+}
+
+void drop_shape(float X, float Y) {
+    session.DestX = world_x(X);
+    session.DestY = world_y(Y);
+    if (hay_seleccion())
+        move_shape();
+    session.MoveShapeMode = False;
+    session.Velmora.pic_MousePointer = 0;
+    if (!session.NoRedraw)
+        refresh_changed_shape();
+}
+
+void select_last_point() {
+    session.PtoSel = Forma.Pto.upper();
+    show_TotalPtos(Forma.Pto.upper() + 1);
+}
+
+void append_point(float X, float Y) {
+    Forma.Pto.append({world_x(X), world_y(Y)});
+    select_last_point();
+    if (!session.CtrlDown)
+        return;
+    step_TotalSinc(1);
+    Forma.Pto[Forma.Pto.upper()].Sinc = 1;
+}
+
+/// The shown number of sync points stays behind, on purpose.
+void remove_last_point() {
+    const std::int32_t U = Forma.Pto.upper();
+    if (Forma.Pto[U].Sinc == 1)
+        --session.TotalSinc;
+    Forma.Pto.redim_keep(U - 1);
+    select_last_point();
+}
+
+void edit_by_hand(int Button, float X, float Y) {
+    if (Button == kRightButton && Forma.Pto.upper() < 3) {
+        MuestraMensaje(mensaje::no_more_deletions);
+        return;
+    }
+    if (Button == kLeftButton)
+        append_point(X, Y);
+    if (Button == kRightButton)
+        remove_last_point();
+    refresh_changed_shape();
+}
+
+void end_drag() {
+    if (!session.DragPto)
+        return;
+    session.DragPto = False;
+    Dibuja();
+}
+
+void open_point_menu(float X, float Y) {
+    session.HoverPto = HitPto(X, Y);
+    if (session.HoverPto < 0)
+        return;
+    session.PtoSel = session.HoverPto;
+    session.Velmora.menus["Pts_To_Next_Sinc"].enabled = Forma.Pto[session.PtoSel].Sinc == 1;
+    platform().windows.popup_menu("OPT_PTO");
+}
+
+} // namespace
+
+std::int32_t HitPto(float X, float Y) {
+    constexpr double most = std::numeric_limits<double>::max();
+    const double zoom = session.ZoomFactor;
+    const double x0 = session.CanvasX0;
+    const double y0 = session.CanvasY0;
+    std::int32_t index = 0;
+    for (const Pto& point : Forma.Pto.all()) {
+        const double dx = std::abs(X - (zoom * point.X + x0));
+        const double dy = std::abs(Y - (y0 - zoom * point.Y));
+        if (!(dx <= most && dy <= most))
+            raise(error::overflow);
+        if (dx < kReach && dy < kReach)
+            return index;
+        ++index;
+    }
+    return -1;
+}
+
+void pic_MouseDown(int Button, int, float X, float Y) {
+    if (session.MoveShapeMode || session.PtosToInsertMode || session.NoRedraw)
+        return;
+    session.HoverPto = HitPto(X, Y);
+    if (session.HoverPto < 0)
+        return;
+    session.PtoSel = session.HoverPto;
+    if (Button == kLeftButton)
+        session.DragPto = True;
+}
+
+void pic_MouseMove(int, int, float X, float Y) {
+    if (session.MoveShapeMode)
+        return;
+    if (session.PtosToInsertMode)
+        DibujaCreate(world_x(X), world_y(Y));
+    else if (!session.NoRedraw)
+        hover(X, Y);
+    if (session.DragPto)
+        DibujaDrag(world_x(X), world_y(Y));
+}
+
+void pic_MouseUp(int Button, int, float X, float Y) {
+    if (session.MoveShapeMode)
+        drop_shape(X, Y);
+    else if (session.PtosToInsertMode)
+        edit_by_hand(Button, X, Y);
+    else if (session.NoRedraw)
+        return;
+    else if (Button == kRightButton)
+        open_point_menu(X, Y);
+    else
+        end_drag();
+}
+
+} // namespace velmora

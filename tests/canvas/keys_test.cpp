@@ -1,0 +1,176 @@
+#include "canvas/keys.h"
+
+#include "canvas/drawing.h"
+#include "document/feedback.h"
+#include "document/shown_counts.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace velmora {
+namespace {
+
+using test::Canvas;
+using test::set_shape;
+using testing::Contains;
+using testing::IsEmpty;
+using testing::Value;
+
+struct Keys : Canvas {
+    Keys() {
+        set_shape({{0, 0}, {10, 0, 1, 0}, {20, 10}, {10, 20}});
+        session.Longitud = 20;
+        session.Altura = 30;
+        show_TotalSinc(1);
+        session.PtoSel = 2;
+        set_status("Forma");
+    }
+    bool repainted() { return Value(operations(), Contains("cls")); }
+};
+
+TEST(Keys, ArrowsNudgeByAHundredthOfTheExtent) {
+    struct Case {
+        int key;
+        double x, y;
+    };
+    for (const Case& one :
+         {Case{38, 20, 10.3}, Case{40, 20, 9.7}, Case{39, 20.2, 10}, Case{37, 19.8, 10}}) {
+        Keys canvas;
+        session.Velmora.Lst_Coords = {{0, 7, 7}};
+        pic_KeyDown(one.key, 0);
+        EXPECT_EQ(Forma.Pto[2].X, one.x);
+        EXPECT_EQ(Forma.Pto[2].Y, one.y);
+        EXPECT_TRUE(canvas.repainted());
+        EXPECT_EQ(session.Velmora.Lst_Coords.size(), 1U);
+        EXPECT_EQ(session.Velmora.SSScroll_moves, 0U);
+    }
+}
+
+TEST(Keys, SFlipsTheSyncMark) {
+    Keys canvas;
+    pic_KeyDown(83, 0);
+    EXPECT_EQ(Forma.Pto[2].Sinc, 1);
+    EXPECT_EQ(session.TotalSinc, 2);
+    EXPECT_EQ(session.wininfo.TxtTotalCtrlPtos, "2");
+    pic_KeyDown(83, 0);
+    EXPECT_EQ(Forma.Pto[2].Sinc, 0);
+    EXPECT_EQ(session.TotalSinc, 1);
+    EXPECT_EQ(session.wininfo.TxtTotalCtrlPtos, "1");
+    Forma.Pto[2].Sinc = 5; // any mark is taken away
+    pic_KeyDown(83, 0);
+    EXPECT_EQ(Forma.Pto[2].Sinc, 0);
+    EXPECT_EQ(session.TotalSinc, 0);
+}
+
+TEST(Keys, MAndNGoRoundTheOutline) {
+    struct Case {
+        int key;
+        std::int32_t from, to;
+    };
+    for (const Case& one : {Case{77, 2, 1}, Case{77, 1, 0}, Case{77, 0, 3}, Case{78, 2, 3},
+                            Case{78, 3, 0}, Case{78, 0, 1}, Case{77, 9, 8}, Case{78, 9, 0}}) {
+        Keys canvas;
+        session.PtoSel = one.from;
+        pic_KeyDown(one.key, 0);
+        EXPECT_EQ(session.PtoSel, one.to) << one.key << ' ' << one.from;
+        EXPECT_TRUE(canvas.repainted());
+    }
+}
+
+TEST(Keys, WithoutASelectionNothingHappensButCtrlIsNoted) {
+    for (const int code : {27, 37, 38, 45, 46, 77, 78, 83, 65}) {
+        Keys canvas;
+        session.PtoSel = -1;
+        session.MoveShapeMode = True;
+        pic_KeyDown(code, 2);
+        EXPECT_EQ(session.PtoSel, -1);
+        EXPECT_EQ(session.MoveShapeMode, True);
+        EXPECT_EQ(session.CtrlDown, True);
+        EXPECT_EQ(Forma.Pto.upper(), 3);
+        EXPECT_THAT(canvas.operations(), IsEmpty());
+        EXPECT_EQ(session.Velmora.StatusBar1, "Forma");
+    }
+}
+
+TEST(Keys, WithASelectionBeyondTheArrayChangeNothingAndRepaint) {
+    for (const int code : {37, 38, 39, 40, 45, 46, 83}) {
+        Keys canvas;
+        session.PtoSel = 4;
+        const auto before = std::vector<Pto>(Forma.Pto.all().begin(), Forma.Pto.all().end());
+        pic_KeyDown(code, 0);
+        EXPECT_TRUE(std::ranges::equal(Forma.Pto.all(), before)) << code;
+        EXPECT_EQ(session.PtoSel, 4);
+        EXPECT_EQ(session.TotalSinc, 1);
+        EXPECT_TRUE(canvas.repainted()) << code;
+    }
+}
+
+TEST(Keys, AnyOtherKeyRepaints) {
+    for (const int code : {65, 17, 13}) {
+        Keys canvas;
+        pic_KeyDown(code, 0);
+        EXPECT_TRUE(canvas.repainted());
+        EXPECT_EQ(session.Velmora.StatusBar1, "Forma");
+    }
+}
+
+TEST(Keys, WithNoRedrawAreCarriedOutWithoutARepaint) {
+    Keys canvas;
+    session.NoRedraw = True;
+    pic_KeyDown(39, 0);
+    EXPECT_EQ(Forma.Pto[2].X, 20.2);
+    EXPECT_THAT(canvas.operations(), IsEmpty());
+}
+
+TEST(Keys, CtrlIsTheSecondBitOfTheShiftState) {
+    Keys canvas;
+    struct Case {
+        int shift;
+        Flag down;
+    };
+    for (const Case& one : {Case{2, True}, Case{0, False}, Case{3, True}, Case{5, False}}) {
+        pic_KeyDown(65, one.shift);
+        EXPECT_EQ(session.CtrlDown, one.down) << one.shift;
+        session.CtrlDown = flag(!one.down);
+        pic_KeyUp(65, one.shift);
+        EXPECT_EQ(session.CtrlDown, one.down) << one.shift;
+    }
+}
+
+TEST(Esc, WithNothingArmedEmptiesThePanelAndRepaints) {
+    Keys canvas;
+    session.PtoSelAnt = 1;
+    pic_KeyDown(27, 0);
+    EXPECT_EQ(session.Velmora.StatusBar1, "");
+    EXPECT_EQ(session.PtoSel, 2);
+    EXPECT_EQ(session.PtoSelAnt, 1);
+    EXPECT_TRUE(canvas.repainted());
+}
+
+TEST(Esc, CallsOffTheMoveOfTheShape) {
+    Keys canvas;
+    session.MoveShapeMode = True;
+    session.Velmora.pic_MousePointer = 10;
+    pic_KeyDown(27, 0);
+    EXPECT_EQ(session.MoveShapeMode, False);
+    EXPECT_EQ(session.Velmora.pic_MousePointer, 0);
+    EXPECT_EQ(session.Velmora.StatusBar1, "");
+    EXPECT_EQ(Forma.Pto[2].X, 20);
+}
+
+TEST(Esc, EndsTheInsertionOfANewShapeAtPoint0) {
+    Keys canvas;
+    session.PtosToInsertMode = True;
+    session.PtoSelAnt = -1;
+    session.PtoSel = 3;
+    pic_KeyDown(27, 0);
+    EXPECT_EQ(session.PtosToInsertMode, False);
+    EXPECT_EQ(session.PtoSel, 0);
+    EXPECT_EQ(Forma.Pto[0].X, 0);
+}
+
+} // namespace
+} // namespace velmora
