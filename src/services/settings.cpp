@@ -1,6 +1,103 @@
 #include "services/settings.h"
 
+#include "document/feedback.h"
+#include "document/session.h"
+#include "platform/platform.h"
+#include "platform/settings_store.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+
+#include <array>
+
 namespace velmora {
-void LeeSettings() {}
-void GuardaSettings() {}
+
+namespace {
+
+constexpr std::string_view kColors = "Colors";
+constexpr std::string_view kValues = "Values";
+
+struct Colour {
+    std::string_view key;
+    std::uint32_t Session::*value;
+    std::uint32_t preset;
+};
+
+constexpr auto kColours = std::to_array<Colour>({
+    {"cl_fondo", &Session::cl_fondo, 0x80000000},
+    {"cl_ejes", &Session::cl_ejes, 0xFFFFFF},
+    {"cl_lineas", &Session::cl_lineas, 0},
+    {"cl_linea1", &Session::cl_linea1, 255},
+    {"cl_linea2", &Session::cl_linea2, 0xFF0000},
+    {"cl_punto", &Session::cl_punto, 0},
+    {"cl_puntosinc", &Session::cl_puntosinc, 0},
+    {"cl_puntosel", &Session::cl_puntosel, 0},
+    {"cl_coords", &Session::cl_coords, 0},
+});
+
+struct WholeNumber {
+    std::string_view key;
+    std::int32_t Session::*value;
+    std::int32_t preset;
+};
+
+constexpr auto kWholeNumbers = std::to_array<WholeNumber>({
+    {"Def_Dec", &Session::Def_Dec, 6},
+    {"Def_Arc", &Session::Def_Arc, 25},
+    {"Def_ACircle", &Session::Def_ACircle, 50},
+});
+
+// Reads a number by `read`, with either separator; a fault's description names the key.
+template <class Number, class Read>
+Number number(std::string_view section, std::string_view key, Number preset, Read&& read) {
+    const auto stored = platform().settings.get(section, key);
+    if (!stored)
+        return preset;
+    try {
+        return read(runtime::replaced(*stored, ',', '.'), '.');
+    } catch (const RuntimeError& failure) {
+        raise(failure.number, description_of(failure) + ": " + std::string(key));
+    }
+}
+
+std::int32_t whole_number(std::string_view section, std::string_view key, std::int32_t preset) {
+    return number(section, key, preset, runtime::CLng);
+}
+
+void save(std::string_view section, std::string_view key, std::string_view value) {
+    platform().settings.save(section, key, value);
+}
+
+} // namespace
+
+std::int16_t read_sound() {
+    return number<std::int16_t>(kValues, "sound", 1, runtime::CInt);
+}
+
+void LeeSettings() {
+    // A colour is a signed number in the store: the system colours from 0x80000000 on are below 0.
+    for (const auto& [key, value, preset] : kColours)
+        session.*value = static_cast<std::uint32_t>(
+            whole_number(kColors, key, static_cast<std::int32_t>(preset)));
+    for (const auto& [key, value, preset] : kWholeNumbers)
+        session.*value = whole_number(kValues, key, preset);
+    session.Idioma = platform().settings.get(kValues, "Idioma").value_or("E");
+    session.Def_Zoom = number<double>(kValues, "Def_Zoom", 30000, runtime::CDbl);
+    session.Sound = read_sound();
+}
+
+void GuardaSettings() {
+    for (const auto& [key, value, preset] : kColours)
+        save(kColors, key, runtime::CStr(static_cast<std::int32_t>(session.*value)));
+    for (const auto& [key, value, preset] : kWholeNumbers)
+        save(kValues, key, runtime::CStr(session.*value));
+    save(kValues, "Idioma", session.Idioma);
+    save(kValues, "Def_Zoom", runtime::CStr(session.Def_Zoom, '.'));
+    save(kValues, "sound", runtime::CStr(std::int32_t{session.Sound}));
+}
+
+void save_version() {
+    save(kValues, "Ver", session.Ver);
+    save(kValues, "SubVer", runtime::CStr(std::int32_t{session.SubVer}));
+}
+
 } // namespace velmora

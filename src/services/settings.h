@@ -1,12 +1,20 @@
-// The stored settings: colours, defaults, language, sound.
+// The stored settings: colours, defaults, language, sound. Numbers are stored as text with "." and
+// read with either separator.
 #pragma once
+
+#include <cstdint>
 
 namespace velmora {
 
-/// Reads all settings into the session, with their defaults. A stored value that is no number
-/// raises 13, and the error's description names its key.
+/// Reads all settings into the session, with their defaults; nothing is validated. A stored value
+/// that is no number raises 13, one that does not fit 6, and the error's description names its key.
 void LeeSettings();
 /// Writes all of them.
 void GuardaSettings();
+
+/// The setting "sound" alone: 1 = play the sound files. Raises as LeeSettings does.
+[[nodiscard]] std::int16_t read_sound();
+/// Stores Ver and SubVer.
+void save_version();
 
 } // namespace velmora

@@ -1,0 +1,163 @@
+#include "services/settings.h"
+
+#include "document/session.h"
+#include "support/error_number.h"
+#include "support/recording_platform.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace velmora {
+namespace {
+
+using test::number_of;
+using test::RecordingPlatform;
+
+struct SettingsTest : testing::Test {
+    RecordingPlatform machine{true};
+
+    void store(const std::string& key, const std::string& value) {
+        machine.settings.save(key.starts_with("cl_") ? "Colors" : "Values", key, value);
+    }
+    std::string stored(const std::string& section, const std::string& key) {
+        return machine.settings.get(section, key).value_or("absent");
+    }
+    RuntimeError failure_of_reading() {
+        try {
+            LeeSettings();
+        } catch (const RuntimeError& failure) {
+            return failure;
+        }
+        return RuntimeError(0);
+    }
+};
+
+TEST_F(SettingsTest, without_stored_values_the_defaults_hold) {
+    Session& s = session;
+    s.cl_fondo = s.cl_ejes = s.cl_lineas = s.cl_linea1 = s.cl_linea2 = s.cl_punto = 12345;
+    s.cl_puntosinc = s.cl_puntosel = s.cl_coords = 12345;
+    s.Def_Dec = s.Def_Arc = s.Def_ACircle = 12345;
+    s.Def_Zoom = 1;
+    s.Sound = 0;
+    s.Idioma = "X";
+    LeeSettings();
+    EXPECT_EQ(s.cl_fondo, 0x80000000U);
+    EXPECT_EQ(s.cl_ejes, 0xFFFFFFU);
+    EXPECT_EQ(s.cl_lineas, 0U);
+    EXPECT_EQ(s.cl_linea1, 255U);
+    EXPECT_EQ(s.cl_linea2, 0xFF0000U);
+    EXPECT_EQ(s.cl_punto, 0U);
+    EXPECT_EQ(s.cl_puntosinc, 0U);
+    EXPECT_EQ(s.cl_puntosel, 0U);
+    EXPECT_EQ(s.cl_coords, 0U);
+    EXPECT_EQ(s.Def_Dec, 6);
+    EXPECT_EQ(s.Def_Arc, 25);
+    EXPECT_EQ(s.Def_ACircle, 50);
+    EXPECT_EQ(s.Def_Zoom, 30000);
+    EXPECT_EQ(s.Sound, 1);
+    EXPECT_EQ(s.Idioma, "E");
+    EXPECT_TRUE(machine.settings.values.empty());
+}
+
+TEST_F(SettingsTest, stores_text_with_a_point_and_signed_colours) {
+    session.SepDecimal = ',';
+    session.Def_Zoom = 1234.5;
+    session.cl_coords = 0xFFFFFFFF;
+    session.Sound = 0;
+    session.Idioma = "T";
+    GuardaSettings();
+    EXPECT_EQ(stored("Colors", "cl_fondo"), "-2147483648");
+    EXPECT_EQ(stored("Colors", "cl_ejes"), "16777215");
+    EXPECT_EQ(stored("Colors", "cl_coords"), "-1");
+    EXPECT_EQ(stored("Values", "Def_Zoom"), "1234.5");
+    EXPECT_EQ(stored("Values", "Def_Dec"), "6");
+    EXPECT_EQ(stored("Values", "Idioma"), "T");
+    EXPECT_EQ(stored("Values", "sound"), "0");
+    EXPECT_EQ(machine.settings.values.size(), 15U);
+}
+
+TEST_F(SettingsTest, what_was_stored_is_read_back) {
+    const auto colours = {&Session::cl_fondo,  &Session::cl_ejes,      &Session::cl_lineas,
+                          &Session::cl_linea1, &Session::cl_linea2,    &Session::cl_punto,
+                          &Session::cl_coords, &Session::cl_puntosinc, &Session::cl_puntosel};
+    std::uint32_t value = 0x80000010;
+    for (const auto colour : colours)
+        session.*colour = value++;
+    session.Def_Dec = 1;
+    session.Def_Arc = 2;
+    session.Def_ACircle = 3;
+    session.Def_Zoom = 0.1;
+    session.Sound = -5;
+    session.Idioma = "F";
+    GuardaSettings();
+    reset_session();
+    LeeSettings();
+    value = 0x80000010;
+    for (const auto colour : colours)
+        EXPECT_EQ(session.*colour, value++);
+    EXPECT_EQ(session.Def_Dec, 1);
+    EXPECT_EQ(session.Def_Arc, 2);
+    EXPECT_EQ(session.Def_ACircle, 3);
+    EXPECT_EQ(session.Def_Zoom, 0.1);
+    EXPECT_EQ(session.Sound, -5);
+    EXPECT_EQ(session.Idioma, "F");
+}
+
+TEST_F(SettingsTest, numbers_are_read_with_either_separator_whatever_the_machine_has) {
+    for (const char separator : {'.', ','}) {
+        session.SepDecimal = separator;
+        for (const char* text : {"1500,25", "1500.25"}) {
+            store("Def_Zoom", text);
+            session.Def_Zoom = 0;
+            LeeSettings();
+            EXPECT_EQ(session.Def_Zoom, 1500.25) << text << separator;
+        }
+    }
+    store("Def_Dec", "2,5");
+    LeeSettings();
+    EXPECT_EQ(session.Def_Dec, 2);
+}
+
+TEST_F(SettingsTest, nothing_is_validated) {
+    store("Def_Arc", "-3");
+    store("Idioma", "Klingon");
+    LeeSettings();
+    EXPECT_EQ(session.Def_Arc, -3);
+    EXPECT_EQ(session.Idioma, "Klingon");
+}
+
+TEST_F(SettingsTest, a_value_that_is_no_number_raises_13_and_names_its_key) {
+    for (const char* key : {"cl_puntosel", "Def_ACircle", "Def_Zoom", "sound"}) {
+        machine.settings.values.clear();
+        store(key, "doce");
+        const RuntimeError failure = failure_of_reading();
+        EXPECT_EQ(failure.number, 13) << key;
+        EXPECT_THAT(failure.description, testing::EndsWith(std::string(": ") + key));
+        EXPECT_GT(failure.description.size(), std::string(key).size() + 5);
+    }
+    machine.settings.values.clear();
+    store("Def_Dec", "");
+    EXPECT_EQ(failure_of_reading().number, 13);
+}
+
+TEST_F(SettingsTest, a_number_that_does_not_fit_raises_6_and_names_its_key) {
+    store("cl_ejes", "2147483648");
+    const RuntimeError failure = failure_of_reading();
+    EXPECT_EQ(failure.number, 6);
+    EXPECT_THAT(failure.description, testing::EndsWith(": cl_ejes"));
+    machine.settings.values.clear();
+    store("sound", "40000");
+    EXPECT_EQ(failure_of_reading().number, 6);
+}
+
+TEST_F(SettingsTest, the_sound_and_the_version_have_ways_of_their_own) {
+    EXPECT_EQ(read_sound(), 1);
+    store("sound", "0");
+    EXPECT_EQ(read_sound(), 0);
+    save_version();
+    EXPECT_EQ(stored("Values", "Ver"), "1.0");
+    EXPECT_EQ(stored("Values", "SubVer"), "1011");
+}
+
+} // namespace
+} // namespace velmora
