@@ -1,49 +1,67 @@
 #include "document/feedback.h"
+
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 
 namespace velmora {
+
+namespace {
+constexpr int kDefaultPointer = 0;
+constexpr int kHourglass = 11;
+} // namespace
+
 void set_status(std::string_view text) {
     if (session.Velmora.StatusBar1 == text)
         return;
     session.Velmora.StatusBar1 = text;
     platform().windows.status_changed();
 }
+
 void set_pointer(int pointer) {
     if (session.Velmora.MousePointer == pointer)
         return;
     session.Velmora.MousePointer = pointer;
     platform().windows.pointer_changed();
 }
+
 void DoEvents() {
     platform().windows.yield();
 }
+
 int MsgBox(std::string_view text, int buttons, std::string_view title) {
-    return platform().dialogs.message(text, buttons, title.empty() ? "Velmora" : title);
+    const int chosen = platform().dialogs.message(text, buttons, title.empty() ? "Velmora" : title);
+    session.Respuesta = static_cast<std::int16_t>(chosen);
+    return chosen;
 }
+
 std::string InputBox(std::string_view prompt, std::string_view title, std::string_view preset) {
     return platform().dialogs.input(prompt, title, preset).value_or("");
 }
+
 std::string description_of(const RuntimeError& failure) {
     if (!failure.description.empty())
         return failure.description;
     return error_description(failure.number, session.Idioma.empty() ? 'E' : session.Idioma[0]);
 }
+
 void show_trap(std::string_view prefix, const RuntimeError& failure, std::string_view tail) {
     std::string text(prefix);
     text += std::to_string(failure.number) + "  - Desc: " + description_of(failure);
     text += tail;
     MsgBox(text);
 }
+
 LongOperation::LongOperation(std::string_view start_message) {
     set_status(start_message);
-    set_pointer(11);
+    set_pointer(kHourglass);
     DoEvents();
 }
+
 void LongOperation::finish(std::string_view end_message) {
     set_status(end_message);
-    set_pointer(0);
+    set_pointer(kDefaultPointer);
     DoEvents();
 }
+
 } // namespace velmora

@@ -16,7 +16,7 @@ void set_pointer(int pointer);
 /// Lets the windows run. Cheap enough for every step of a long loop.
 void DoEvents();
 
-/// A message box; an empty title is "Velmora". Returns and keeps in Respuesta nothing by itself.
+/// A message box; an empty title is "Velmora". The answer is returned, and stays in Respuesta.
 int MsgBox(std::string_view text, int buttons = 0, std::string_view title = {});
 /// An input box; the empty text when cancelled.
 std::string InputBox(std::string_view prompt, std::string_view title, std::string_view preset);
@@ -27,8 +27,8 @@ std::string InputBox(std::string_view prompt, std::string_view title, std::strin
 /// and `tail`.
 void show_trap(std::string_view prefix, const RuntimeError& failure, std::string_view tail = {});
 
-/// Sets the pointer to the hourglass with a start message, and back with an end message when
-/// `finish` is called. On an error route neither is restored, on purpose.
+/// Start message, then the hourglass; at the end the end message, then the default pointer. What
+/// leaves without `finish` leaves both as they are, on purpose.
 class LongOperation {
   public:
     explicit LongOperation(std::string_view start_message);
