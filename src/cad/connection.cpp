@@ -1,9 +1,98 @@
 #include "cad/connection.h"
 
+#include "document/handlers.h"
+#include "document/session.h"
+#include "platform/platform.h"
+#include "runtime/error.h"
+#include "runtime/text.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+
 namespace velmora {
+
+namespace {
+
+constexpr std::uint32_t kConnected = 65280;
+constexpr std::uint32_t kNotConnected = 255;
+
+void enable(std::string_view entry, bool enabled) {
+    session.Velmora.menus[std::string(entry)].enabled = enabled;
+}
+
+void enable_document_commands(bool enabled) {
+    enable("mnu_capture", enabled);
+    enable("menu_select_orig", enabled);
+}
+
+void forget_document() {
+    session.AcadDocLoaded = False;
+    acad().AcadDoc.reset();
+}
+
+// The errors of the look-up are ignored, and those of its message with them: without a language
+// database the program starts all the same.
+void look_for_application() {
+    acad().AcadApp.reset();
+    trap([] { acad().AcadApp = platform().cad.GetObject(); }, [](const RuntimeError&) {});
+    if (!acad().AcadApp)
+        trap([] { MuestraMensaje(mensaje::cad_not_open); }, [](const RuntimeError&) {});
+}
+
+// What was shown of a document stays, on purpose: only the application's state changes.
+void show_not_connected() {
+    session.AcadOpen = False;
+    session.wininfo.ShpAcadOpen = kNotConnected;
+    session.wininfo.TxtOpensw.clear();
+    session.wininfo.txtAcadVer.clear();
+    enable_document_commands(false);
+    enable("mnu_SendToCad", false);
+}
+
+void show_connected() {
+    session.wininfo.TxtOpensw = acad().AcadApp->Name();
+    session.wininfo.txtAcadVer = acad().AcadApp->Version();
+    session.wininfo.ShpAcadOpen = kConnected;
+    session.AcadOpen = True;
+    enable("mnu_SendToCad", true);
+}
+
+void take_document() {
+    acad().AcadDoc = acad().AcadApp->ActiveDocument();
+    session.AcadDocLoaded = True;
+    session.wininfo.ShpAcadDocLoaded = kConnected;
+    enable_document_commands(true);
+    session.wininfo.TxtAcadFile = runtime::UCase(runtime::Trim(acad().AcadDoc->Name()));
+}
+
+void show_no_document() {
+    enable_document_commands(false);
+    session.wininfo.ShpAcadDocLoaded = kNotConnected;
+    session.wininfo.TxtAcadFile.clear();
+}
+
+} // namespace
+
 AcadConnection& acad() {
     static AcadConnection connection;
     return connection;
 }
-void ReconectaAcad() {}
+
+void ReconectaAcad() {
+    forget_document();
+    look_for_application();
+    if (!acad().AcadApp) {
+        show_not_connected();
+        return;
+    }
+    show_connected();
+    if (acad().AcadApp->Documents_Count() >= 1)
+        take_document();
+    else
+        show_no_document();
+}
+
+void mnu_Reconect() {
+    ReconectaAcad();
+}
+
 } // namespace velmora

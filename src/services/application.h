@@ -7,21 +7,25 @@
 namespace velmora {
 
 /// Load of the start window `intro`: version, settings, session flags, language database, literals.
+/// A database that can't be opened leaves the design texts, without a box. Raises what LeeSettings
+/// does.
 void intro_Load();
 /// Load of the main window: session values, separator, caption, literals, recent files.
 void Velmora_Load();
-/// Load of the side windows.
+/// Load of the side windows. Raises what LeeSettings does.
 void wininfo_Load();
 void winoptions_Load();
 /// First activation: connects to the CAD, shows the side windows. Later ones do nothing.
 void Velmora_Activate();
-/// The main window's close box was used: the side windows go, no question.
+/// The main window's close box was used: the side windows go and the program ends, no question.
 void Velmora_QueryUnload();
 
-/// Asks whether to leave; `cancel` becomes -1 when not. Silent while ExitConfirmed is set.
+/// Asks whether to leave, and leaves; `cancel` becomes -1 when not. Silent while ExitConfirmed is
+/// set. Raises what MuestraMensaje does.
 void SalVelmora(std::int16_t& cancel);
 
-/// Opens TxtDat_File with the platform's program for it; message 84 when it is not there.
+/// Opens TxtDat_File with the platform's program for it; message 84 when it is not there. An empty
+/// name does nothing.
 void AbreEdicion();
 
 } // namespace velmora

@@ -25,16 +25,10 @@ void mnu_savefileas() {
 void mnu_closefile() {
     not_available();
 }
-void mnu_edit() {
-    not_available();
-}
 void mnu_print() {
     not_available();
 }
 void mnuRecentFile(int) {
-    not_available();
-}
-void mnu_exit() {
     not_available();
 }
 void mnu_paramgenerales() {
@@ -61,19 +55,10 @@ void mnu_paralela() {
 void mnu_capture() {
     not_available();
 }
-void mnu_Reconect() {
-    not_available();
-}
 void menu_select_orig() {
     not_available();
 }
 void mnu_SendToCad() {
-    not_available();
-}
-void mnu_wininfo() {
-    not_available();
-}
-void mnu_winoptgen() {
     not_available();
 }
 void mnu_contenido() {
@@ -116,9 +101,6 @@ void Pts_To_Next_Sinc() {
     not_available();
 }
 void Set_CutStart() {
-    not_available();
-}
-void K_EXIT() {
     not_available();
 }
 void K_PRINT() {

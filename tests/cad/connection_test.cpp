@@ -1,0 +1,120 @@
+#include "cad/connection.h"
+
+#include "document/handlers.h"
+#include "document/session.h"
+#include "services/messages.h"
+#include "support/error_number.h"
+#include "support/fake_cad.h"
+#include "support/recording_platform.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora {
+namespace {
+
+using test::FakeApplication;
+using test::FakeCad;
+using test::FakeDocument;
+using test::number_of;
+using test::RecordingPlatform;
+
+struct ConnectionTest : testing::Test {
+    explicit ConnectionTest(bool without_database = false) : machine(without_database) {
+        set_platform({machine.dialogs, machine.windows, machine.shell, machine.settings,
+                      *machine.database, machine.clock, machine.machine, machine.pic, cad});
+    }
+    ~ConnectionTest() override { acad() = {}; }
+
+    RecordingPlatform machine;
+    FakeCad cad;
+
+    void run_application(bool with_document) {
+        cad.application = std::make_shared<FakeApplication>();
+        if (with_document)
+            cad.application->document = std::make_shared<FakeDocument>();
+    }
+    static bool enabled(const char* entry) {
+        const auto found = session.Velmora.menus.find(entry);
+        return found == session.Velmora.menus.end() || found->second.enabled;
+    }
+    static void expect_commands(bool capture, bool origin, bool send) {
+        EXPECT_EQ(enabled("mnu_capture"), capture);
+        EXPECT_EQ(enabled("menu_select_orig"), origin);
+        EXPECT_EQ(enabled("mnu_SendToCad"), send);
+    }
+};
+
+struct ConnectionWithoutDatabaseTest : ConnectionTest {
+    ConnectionWithoutDatabaseTest() : ConnectionTest(true) {}
+};
+
+TEST_F(ConnectionTest, with_none_running_message_31_and_everything_off) {
+    ReconectaAcad();
+    ASSERT_EQ(machine.dialogs.boxes.size(), 1U);
+    EXPECT_EQ(machine.dialogs.boxes[0].text,
+              "Autocad no está abierto en este momento! Abrelo y pulsa Reconectar Acad");
+    EXPECT_EQ(session.AcadOpen, False);
+    EXPECT_EQ(session.AcadDocLoaded, False);
+    EXPECT_EQ(session.wininfo.ShpAcadOpen, 255U);
+    expect_commands(false, false, false);
+}
+
+TEST_F(ConnectionTest, with_a_document_everything_is_on) {
+    run_application(true);
+    mnu_Reconect();
+    EXPECT_EQ(session.AcadOpen, True);
+    EXPECT_EQ(session.AcadDocLoaded, True);
+    EXPECT_EQ(session.wininfo.TxtOpensw, "AutoCAD");
+    EXPECT_EQ(session.wininfo.txtAcadVer, "15.0");
+    EXPECT_EQ(session.wininfo.TxtAcadFile, "DIBUJO1.DWG");
+    EXPECT_EQ(session.wininfo.ShpAcadOpen, 65280U);
+    EXPECT_EQ(session.wininfo.ShpAcadDocLoaded, 65280U);
+    EXPECT_EQ(acad().AcadDoc, cad.application->document);
+    expect_commands(true, true, true);
+    EXPECT_TRUE(machine.dialogs.boxes.empty());
+}
+
+TEST_F(ConnectionTest, without_a_document_only_sending_is_on) {
+    run_application(true);
+    ReconectaAcad();
+    run_application(false);
+    ReconectaAcad();
+    EXPECT_EQ(session.AcadOpen, True);
+    EXPECT_EQ(session.AcadDocLoaded, False);
+    EXPECT_EQ(session.wininfo.TxtAcadFile, "");
+    EXPECT_EQ(session.wininfo.ShpAcadDocLoaded, 255U);
+    EXPECT_EQ(acad().AcadDoc, nullptr);
+    expect_commands(false, false, true);
+}
+
+TEST_F(ConnectionTest, an_application_that_went_clears_its_own_fields_alone) {
+    run_application(true);
+    ReconectaAcad();
+    cad.application.reset();
+    ReconectaAcad();
+    EXPECT_EQ(session.wininfo.TxtOpensw, "");
+    EXPECT_EQ(session.wininfo.txtAcadVer, "");
+    EXPECT_EQ(session.wininfo.ShpAcadOpen, 255U);
+    EXPECT_EQ(session.wininfo.TxtAcadFile, "DIBUJO1.DWG");
+    EXPECT_EQ(session.wininfo.ShpAcadDocLoaded, 65280U);
+    EXPECT_EQ(session.AcadDocLoaded, False);
+    EXPECT_EQ(acad().AcadApp, nullptr);
+    expect_commands(false, false, false);
+}
+
+TEST_F(ConnectionTest, a_connected_application_that_fails_is_not_passed_over) {
+    run_application(true);
+    cad.application->name_error = 462;
+    EXPECT_EQ(number_of([] { ReconectaAcad(); }), 462);
+}
+
+TEST_F(ConnectionWithoutDatabaseTest, the_failing_message_is_passed_over_here_alone) {
+    EXPECT_EQ(number_of([] { ReconectaAcad(); }), 0);
+    EXPECT_TRUE(machine.dialogs.boxes.empty());
+    EXPECT_EQ(session.Velmora.MousePointer, 0);
+    expect_commands(false, false, false);
+    EXPECT_EQ(number_of([] { (void)MuestraMensaje(37); }), 91);
+}
+
+} // namespace
+} // namespace velmora
