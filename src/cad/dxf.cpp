@@ -1,7 +1,102 @@
 #include "cad/dxf.h"
 
+#include "cad/assembly.h"
+#include "cad/chain_walk.h"
+#include "cad/dxf_entities.h"
+#include "cad/dxf_text.h"
+#include "document/feedback.h"
+#include "document/number_text.h"
+#include "document/session.h"
+#include "platform/dialogs.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+
 namespace velmora {
-std::int16_t CargaDXF(std::string_view) {
-    return 0;
+
+namespace {
+
+bool holds(std::string_view line, std::string_view word) {
+    return line.find(word) != std::string_view::npos;
 }
+
+void skip_to(DxfText& text, std::string_view word) {
+    while (!holds(text.counted_line(), word)) {
+    }
+}
+
+void reset_counters() {
+    session.TotalObjs = 0;
+    session.NLines = 0;
+    session.NSplines = 0;
+    session.NLWPolylines = 0;
+    session.NArcs = 0;
+    session.NCircles = 0;
+}
+
+bool has_known_version(DxfText& text) {
+    skip_to(text, "ACADVER");
+    text.counted_line();
+    const std::string_view version = text.counted_line();
+    return holds(version, "14") || holds(version, "15");
+}
+
+void report_version(std::string_view fichero) {
+    std::string box = GetMensaje(mensaje::file_version);
+    box.append(" ").append(fichero).append(" ");
+    box += GetMensaje(mensaje::version_not_supported);
+    session.Respuesta = static_cast<std::int16_t>(MsgBox(box, buttons::critical, box_title()));
+}
+
+void read_section(DxfText& text) {
+    skip_to(text, "ENTITIES");
+    DxfEntities entities(text);
+    bool ended = false;
+    while (!ended) {
+        if (const auto read = DxfEntities::reader_of(text.counted_line()))
+            ended = (entities.*read)();
+        else
+            ended = text.at_section_end();
+    }
+}
+
+/// A refused version takes the same way out as a good file, on purpose: OBJS2PTS then reports its
+/// error on the empty list.
+void load(std::string_view fichero, DxfText& text) {
+    session.EscalaCarga = 1;
+    reset_counters();
+    session.files.open_input(1, fichero);
+    Forma.Pto.redim(0);
+    if (has_known_version(text))
+        read_section(text);
+    else
+        report_version(fichero);
+    session.files.close(1);
+    set_status(GetMensaje(mensaje::reorganising_1));
+    set_pointer(11);
+    session.Velmora.pbar2.Value = session.Velmora.pbar2.Max;
+    walk_dxf();
+    set_pointer(0);
+    OBJS2PTS();
+}
+
+Flag ask_cancel(const RuntimeError& failure, std::int32_t lines) {
+    session.files.abandon(1);
+    show_trap("Error CargaDXF  nº: ", failure, "  -  En Linea: " + CStr(lines));
+    if (MsgBox("Cancel Load?", buttons::yes_no + buttons::critical) != answer::yes)
+        return True;
+    Forma.Pto.redim(0);
+    session.UltimoPto = 0;
+    return False;
+}
+
+} // namespace
+
+std::int16_t CargaDXF(std::string_view fichero) {
+    DxfText text;
+    Flag result = True;
+    trap([&] { load(fichero, text); },
+         [&](const RuntimeError& failure) { result = ask_cancel(failure, text.counted()); });
+    return result;
+}
+
 } // namespace velmora

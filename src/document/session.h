@@ -2,6 +2,7 @@
 #pragma once
 
 #include "document/forma.h"
+#include "document/obj_cad.h"
 #include "document/window_state.h"
 #include "runtime/files.h"
 
@@ -85,6 +86,7 @@ struct Session {
     // CAD
     Flag AcadOpen = False, AcadDocLoaded = False, SelOrigenActivo = False;
     double CadOrigX = 0, CadOrigY = 0;
+    Array<ObjCad> ObjsCad = empty_entity_list(); ///< lives for one capture or one DXF load
     std::int32_t TotalObjs = 0, NLines = 0, NSplines = 0, NLWPolylines = 0, NArcs = 0, NCircles = 0;
 
     // Two-sided adjustment; selectors "A", "B", "A2", "B2"

@@ -1,0 +1,134 @@
+#include "cad/assembly.h"
+
+#include "cad/entities.h"
+#include "document/feedback.h"
+#include "document/number_text.h"
+#include "document/session.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+
+#include <utility>
+#include <vector>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::int32_t nothing = -1;
+
+/// The elements by chain position. A list that is scanned from its start over and over, each
+/// position from where the one before it was found, finds them in this order.
+class ByPosition {
+  public:
+    explicit ByPosition(const Array<ObjCad>& objects)
+        : first_(objects.size(), nothing), next_(objects.size(), nothing) {
+        for (std::int32_t i = objects.upper(); i >= 0; --i) {
+            const std::int32_t position = objects[i].Orden;
+            if (position < 0 || position > objects.upper())
+                continue;
+            next_[index(i)] = std::exchange(first_[index(position)], i);
+        }
+    }
+
+    /// The first element at `position` that a scan meets which goes on behind `from`.
+    [[nodiscard]] std::int32_t find(std::int32_t position, std::int32_t from) const {
+        if (index(position) >= first_.size())
+            return nothing;
+        const std::int32_t first = first_[index(position)];
+        for (std::int32_t i = first; i != nothing; i = next_[index(i)]) {
+            if (i > from)
+                return i;
+        }
+        return first;
+    }
+
+  private:
+    static std::size_t index(std::int32_t i) { return static_cast<std::size_t>(i); }
+
+    std::vector<std::int32_t> first_; ///< by position
+    std::vector<std::int32_t> next_;  ///< by element, rising
+};
+
+void put_point(const Pto& point, std::int32_t& write_index) {
+    Forma.Pto.redim_keep(write_index);
+    Forma.Pto[write_index] = {.X = point.X, .Y = point.Y};
+    ++write_index;
+    session.UltimoPto = write_index;
+}
+
+void start_figures() {
+    session.UltimoPto = 0;
+    session.TotalPtos = 0;
+    session.PtosSuprimidos = 0;
+    session.wininfo.TxtTotalPtos = CStr(session.TotalPtos);
+    session.wininfo.TxtPtosSupr = CStr(session.PtosSuprimidos);
+    DoEvents();
+    set_status(GetMensaje(mensaje::reorganising_2));
+    session.Velmora.Pbar1 = {.Min = 0, .Max = session.ObjsCad.upper() + 1.0, .Value = 0};
+}
+
+void copy_only_entity(const ObjCad& object) {
+    Forma.Pto.redim(object.NPtos);
+    for (std::int32_t j = 0; j <= object.NPtos; ++j)
+        Forma.Pto[j] = {.X = object.Ptos[j].X, .Y = object.Ptos[j].Y};
+    session.UltimoPto = object.NPtos + 1;
+}
+
+/// An entity's first point is the last one of the entity before it.
+void copy_entity(const ObjCad& object, bool with_first_point, std::int32_t& write_index) {
+    if (with_first_point)
+        put_point(object.Ptos[0], write_index);
+    for (std::int32_t j = 1; j <= object.NPtos; ++j)
+        put_point(object.Ptos[j], write_index);
+}
+
+void copy_chain(std::int32_t& write_index) {
+    IniciaUsados();
+    std::int32_t waiting = ContarNoUsados();
+    const ByPosition entities(session.ObjsCad);
+    std::int32_t at = nothing;
+    for (std::int32_t position = 0; waiting > 0; ++position) {
+        at = entities.find(position, at);
+        // A scan that places nothing would go on for ever.
+        if (at == nothing)
+            raise(error::invalid_call);
+        copy_entity(session.ObjsCad[at], position == 0, write_index);
+        session.ObjsCad[at].Usado = True;
+        --waiting;
+        session.Velmora.Pbar1.Value = position + 1.0;
+        DoEvents();
+    }
+}
+
+void finish_figures() {
+    session.TotalPtos = session.UltimoPto - 1;
+    session.wininfo.TxtTotalPtos = CStr(session.TotalPtos);
+    set_pointer(0);
+    session.TotalSinc = 0;
+    session.wininfo.TxtTotalCtrlPtos = CStr(session.TotalSinc);
+    session.ObjsCad.redim(0);
+    DoEvents();
+}
+
+void assemble(std::int32_t& write_index) {
+    start_figures();
+    if (session.ObjsCad.upper() == 0)
+        copy_only_entity(session.ObjsCad[0]);
+    else
+        copy_chain(write_index);
+    Forma.Pto.redim_keep(Forma.Pto.upper() - 1);
+    finish_figures();
+}
+
+} // namespace
+
+void OBJS2PTS() {
+    std::int32_t write_index = 0;
+    trap([&] { assemble(write_index); },
+         [&](const RuntimeError& failure) {
+             session.files.abandon(1);
+             show_trap("Error OBJS2PTS nº: ", failure, "  -  En punto: " + CStr(write_index));
+         });
+}
+
+} // namespace velmora

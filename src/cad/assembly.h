@@ -1,0 +1,11 @@
+// The end of the road from a drawing: the chained entities become the outline.
+#pragma once
+
+namespace velmora {
+
+/// Copies the points of session.ObjsCad in chain order to Forma.Pto, drops the last one, whether
+/// the shape closes or not, and empties the list. Own error route: the points placed so far and the
+/// list stay. A chain position without an element raises 5 in it.
+void OBJS2PTS();
+
+} // namespace velmora

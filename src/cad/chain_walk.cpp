@@ -1,0 +1,120 @@
+#include "cad/chain_walk.h"
+
+#include "cad/chain_finder.h"
+#include "cad/entities.h"
+#include "document/feedback.h"
+#include "document/session.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+
+#include <utility>
+#include <vector>
+
+namespace velmora {
+
+namespace {
+
+std::vector<std::int32_t> unused_indices(const Array<ObjCad>& objects) {
+    std::vector<std::int32_t> unused;
+    for (std::int32_t i = 0; i <= objects.upper(); ++i) {
+        if (objects[i].Usado == 0)
+            unused.push_back(i);
+    }
+    return unused;
+}
+
+/// Goes over the unused elements by index, again and again, until none is left: each either finds
+/// a continuation of the chain, which need not be itself and goes to `place`, or is given up.
+template <class Place, class GiveUp>
+void walk(ChainFinder& finder, Pto current, const Place& place, const GiveUp& give_up) {
+    Array<ObjCad>& objects = session.ObjsCad;
+    std::vector<std::int32_t> round = unused_indices(objects);
+    while (finder.unused() > 0) {
+        std::vector<std::int32_t> left;
+        for (const std::int32_t i : round) {
+            if (objects[i].Usado != 0)
+                continue;
+            const std::int32_t found = finder.BuscaSiguiente(current.X, current.Y, false);
+            finder.take(found > -1 ? found : i);
+            if (found > -1) {
+                current = last_point(objects[found]);
+                place(found);
+            } else {
+                give_up(i);
+            }
+            if (objects[i].Usado == 0)
+                left.push_back(i);
+        }
+        round = std::move(left);
+    }
+}
+
+/// A list at rest: its one element was never filled.
+bool holds_no_entity(const Array<ObjCad>& objects) {
+    return objects.upper() == 0 && !objects[0].Ptos.dimensioned();
+}
+
+std::optional<std::int32_t> origin_not_on_shape() {
+    MuestraMensaje(mensaje::origin_not_on_shape);
+    return std::nullopt;
+}
+
+void show_progress(double placed) {
+    session.Velmora.Pbar1.Value = placed;
+    DoEvents();
+}
+
+} // namespace
+
+void walk_dxf() {
+    Array<ObjCad>& objects = session.ObjsCad;
+    if (objects.upper() == 0)
+        return;
+    session.Velmora.Pbar1 = {.Min = 0, .Max = static_cast<double>(objects.upper()), .Value = 0};
+    ChainFinder finder(objects);
+    finder.take(0);
+    objects[0].Orden = 0;
+    std::int32_t position = 0;
+    const auto place = [&](std::int32_t found) {
+        objects[found].Orden = ++position;
+        show_progress(position);
+    };
+    walk(finder, last_point(objects[0]), place, [](std::int32_t) {});
+}
+
+std::optional<std::int32_t>
+walk_capture(std::int32_t model_space_count,
+             const std::function<void(std::int32_t)>& colour_incoherent) {
+    set_status(GetMensaje(mensaje::reorganising_1));
+    Array<ObjCad>& objects = session.ObjsCad;
+    if (holds_no_entity(objects))
+        return origin_not_on_shape();
+    ChainFinder finder(objects);
+    const std::int32_t start = finder.BuscaSiguiente(session.CadOrigX, session.CadOrigY, true);
+    if (start == -1)
+        return origin_not_on_shape();
+    // The only entity of a drawing is left to the walk, which places it at 0.
+    const bool several = model_space_count > 1;
+    std::int32_t position = 0;
+    std::int32_t placed = 0;
+    if (several) {
+        finder.take(start);
+        objects[start].Orden = position;
+        ++placed;
+    }
+    std::int32_t incoherent = 0;
+    const auto place = [&](std::int32_t found) {
+        if (several)
+            ++position;
+        objects[found].Orden = position;
+        show_progress(++placed);
+    };
+    const auto give_up = [&](std::int32_t index) {
+        colour_incoherent(index);
+        ++incoherent;
+    };
+    walk(finder, last_point(objects[start]), place, give_up);
+    return incoherent;
+}
+
+} // namespace velmora
