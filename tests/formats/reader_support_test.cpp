@@ -3,6 +3,7 @@
 #include "document/feedback.h"
 #include "document/session.h"
 #include "formats/box_text.h"
+#include "formats/sample_files.h"
 #include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
@@ -10,17 +11,9 @@
 namespace velmora {
 namespace {
 
+using test::number_of;
 using test::RecordingPlatform;
 using test::ShownBox;
-
-int number_of(auto&& body) {
-    try {
-        body();
-    } catch (const RuntimeError& failure) {
-        return failure.number;
-    }
-    return 0;
-}
 
 void three_points() {
     Forma.Pto.redim(2);

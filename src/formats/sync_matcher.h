@@ -1,0 +1,34 @@
+// Matching sync records with the points of an outline, by exact coordinates.
+#pragma once
+
+#include "document/forma.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace velmora {
+
+/// Marks points by place. It gives what a scan of all points for each record gives, in time that
+/// grows with points and records, not with their product. The outline must keep its points while
+/// the matcher lives; should the windows' turn have cut it, marking raises 9.
+class SyncMatcher {
+  public:
+    explicit SyncMatcher(Array<Pto>& points);
+
+    /// Sets Sinc of every point whose coordinates equal these, and tells how many there are; all of
+    /// them again when the place comes again.
+    std::int32_t mark(double x, double y);
+
+  private:
+    [[nodiscard]] std::size_t slot_of(double x, double y) const;
+    std::int32_t mark_chain(std::int32_t first);
+
+    Array<Pto>& points_;
+    std::vector<std::int32_t> first_at_; ///< by hash: the first point of a place, -1 for none
+    /// The next point of the same place, -1 at the end; for a first point that was marked before,
+    /// -1 less the number of points at its place.
+    std::vector<std::int32_t> next_;
+};
+
+} // namespace velmora

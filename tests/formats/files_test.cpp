@@ -1,0 +1,258 @@
+#include "formats/files.h"
+
+#include "document/session.h"
+#include "formats/sample_files.h"
+#include "runtime/paths.h"
+#include "runtime/text.h"
+#include "support/recording_platform.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace velmora {
+namespace {
+
+using test::number_of;
+using test::RecordingPlatform;
+
+/// Lines "line 1" to "line n", with one of them replaced.
+std::string lines(int count, int at = 0, const std::string& text = "") {
+    std::string all;
+    for (int i = 1; i <= count; ++i)
+        all += (i == at ? text : "line " + std::to_string(i)) + "\r\n";
+    return all;
+}
+
+TEST(FormatPaths, QuitaNombre_cuts_at_the_last_separator_with_four_characters_behind_it) {
+    struct Case {
+        const char* path;
+        const char* folder;
+    };
+    for (const Case& c : std::vector<Case>{{"C:\\alas\\wing.dat", "C:\\alas"},
+                                           {"/home/ana/wing.dat", "/home/ana"},
+                                           {"C:\\alas/x.dat", "C:\\alas"},
+                                           {"/a/x.da", "/a"},
+                                           {"/a/xda", ""},
+                                           {"/aaa/b/xy", "/aaa"},
+                                           {"C:\\alas\\x.d", "C:"},
+                                           {"/alas/ña.d", "/alas"},
+                                           {"/alas/ñ.d", ""},
+                                           {"/wing.dat", ""},
+                                           {"wing.dat", ""},
+                                           {"", ""},
+                                           {"/", ""},
+                                           {"/////", ""}})
+        EXPECT_EQ(QuitaNombre(c.path), c.folder) << c.path;
+}
+
+TEST(FormatPaths, SoloNombre_takes_what_stands_behind_the_last_separator) {
+    EXPECT_EQ(SoloNombre("C:\\alas\\wing.dat"), "wing.dat");
+    EXPECT_EQ(SoloNombre("/home/ana/wing.dat"), "wing.dat");
+    EXPECT_EQ(SoloNombre("C:\\a/b"), "b");
+    EXPECT_EQ(SoloNombre("wing.dat"), "wing.dat");
+    EXPECT_EQ(SoloNombre("/home/"), "");
+    EXPECT_EQ(SoloNombre(""), "");
+}
+
+TEST(FormatPaths, a_description_is_cut_at_the_backslash_alone) {
+    EXPECT_EQ(after_last_backslash("ala 1/2"), "ala 1/2");
+    EXPECT_EQ(after_last_backslash("ala\\punta\\izq"), "izq");
+    EXPECT_EQ(after_last_backslash("ala\\"), "");
+    EXPECT_EQ(after_last_backslash(""), "");
+}
+
+TEST(BorraFichero, goes_to_the_recycle_bin_and_tells_whether_the_file_is_gone) {
+    RecordingPlatform platform;
+    const std::string path = platform.write("a.dat", "x");
+    EXPECT_TRUE(BorraFichero(path));
+    EXPECT_FALSE(runtime::file_exists(path));
+    const std::string kept = platform.write("b.dat", "x");
+    platform.shell.recycle_fails = true;
+    EXPECT_FALSE(BorraFichero(kept));
+    EXPECT_EQ(platform.shell.recycled, (std::vector{path, kept}));
+}
+
+TEST(SetDecimalSep, fourteen_lines_with_commas_are_rewritten_on_a_machine_with_a_point) {
+    RecordingPlatform platform;
+    std::string text = lines(14, 5, "1,5 2,5");
+    text += "a,b\tc";
+    const std::string path = platform.write("wing.dat", text);
+    SetDecimalSep(path);
+    EXPECT_EQ(RecordingPlatform::read(path), runtime::replaced(text, ',', '.'));
+}
+
+TEST(SetDecimalSep, a_comma_machine_turns_points_into_commas) {
+    RecordingPlatform platform;
+    session.SepDecimal = ',';
+    const std::string text = lines(14, 5, "1.5 2.5") + "x.y";
+    const std::string path = platform.write("wing.dat", text);
+    SetDecimalSep(path);
+    EXPECT_EQ(RecordingPlatform::read(path), runtime::replaced(text, '.', ','));
+}
+
+TEST(SetDecimalSep, the_file_is_left_alone) {
+    struct Case {
+        const char* why;
+        std::string text;
+    };
+    for (const Case& c :
+         std::vector<Case>{{"13 lines", lines(13, 5, "1,5")},
+                           {"13 lines, the last without its end", lines(12, 5, "1,5") + "2,5"},
+                           {"4 lines", lines(4, 4, "1,5")},
+                           {"3 lines", lines(3, 3, "1,5")},
+                           {"the separator in line 4", lines(20, 4, "1.5,2")},
+                           {"the separator in line 13", lines(20, 13, "1.5,2")},
+                           {"byte 26 behind line 13", lines(13, 5, "1,5") + "\x1A" + lines(9)}}) {
+        RecordingPlatform platform;
+        const std::string path = platform.write("wing.dat", c.text);
+        SetDecimalSep(path);
+        EXPECT_EQ(RecordingPlatform::read(path), c.text) << c.why;
+        EXPECT_TRUE(platform.shell.recycled.empty()) << c.why;
+    }
+}
+
+TEST(SetDecimalSep, a_separator_in_lines_1_to_3_or_from_14_on_does_not_count) {
+    for (const int line : {1, 2, 3, 14, 15}) {
+        RecordingPlatform platform;
+        const std::string text = lines(15, line, "1.5,2");
+        const std::string path = platform.write("wing.dat", text);
+        SetDecimalSep(path);
+        EXPECT_EQ(RecordingPlatform::read(path), runtime::replaced(text, ',', '.')) << line;
+    }
+}
+
+TEST(SetDecimalSep, lines_end_at_cr_lf_at_lf_or_at_cr) {
+    for (const std::string end : {"\r\n", "\n", "\r"}) {
+        RecordingPlatform platform;
+        std::string text;
+        for (int i = 0; i < 14; ++i)
+            text += "1,5 2" + end;
+        const std::string path = platform.write("wing.dat", text);
+        SetDecimalSep(path);
+        EXPECT_EQ(RecordingPlatform::read(path), runtime::replaced(text, ',', '.'));
+    }
+}
+
+TEST(SetDecimalSep, whole_numbers_alone_send_the_file_through_the_pass_unchanged) {
+    RecordingPlatform platform;
+    const std::string path = platform.write("wing.dat", lines(14));
+    SetDecimalSep(path);
+    EXPECT_EQ(RecordingPlatform::read(path), lines(14));
+    const std::string temp = program_file("\\temp.dat");
+    EXPECT_EQ(platform.shell.recycled, (std::vector{path, temp}));
+    EXPECT_FALSE(runtime::file_exists(temp));
+}
+
+TEST(SetDecimalSep, a_temp_file_left_from_before_is_deleted_first) {
+    RecordingPlatform platform;
+    const std::string temp = platform.write("temp.dat", std::string(100000, 'z'));
+    const std::string path = platform.write("wing.dat", lines(14));
+    SetDecimalSep(path);
+    EXPECT_EQ(RecordingPlatform::read(path), lines(14));
+    EXPECT_EQ(platform.shell.recycled.size(), 3U);
+    EXPECT_EQ(platform.shell.recycled.front(), program_file("\\temp.dat"));
+    EXPECT_FALSE(runtime::file_exists(temp));
+}
+
+TEST(SetDecimalSep, a_large_file_keeps_every_byte) {
+    RecordingPlatform platform;
+    std::string text = lines(14);
+    for (int i = 0; i < 1'000'000; ++i)
+        text += static_cast<char>(i * 7 % 256);
+    const std::string path = platform.write("wing.dat", text);
+    SetDecimalSep(path);
+    EXPECT_EQ(RecordingPlatform::read(path), runtime::replaced(text, ',', '.'));
+}
+
+TEST(SetDecimalSep, where_the_recycle_bin_fails_the_file_is_written_over) {
+    RecordingPlatform platform;
+    platform.shell.recycle_fails = true;
+    const std::string path = platform.write("wing.dat", lines(14, 6, "1,5"));
+    SetDecimalSep(path);
+    EXPECT_EQ(RecordingPlatform::read(path), lines(14, 6, "1.5"));
+}
+
+TEST(SetDecimalSep, faults_rise_and_leave_no_number_open) {
+    RecordingPlatform platform;
+    EXPECT_EQ(number_of([&] { SetDecimalSep(platform.path("none.dat")); }), 53);
+    EXPECT_EQ(number_of([&] { SetDecimalSep(platform.folder.string()); }), 75);
+    const std::string two = platform.write("two.dat", lines(2));
+    EXPECT_EQ(number_of([&] { SetDecimalSep(two); }), 62);
+    EXPECT_FALSE(session.files.is_open(1));
+    EXPECT_FALSE(session.files.is_open(2));
+}
+
+TEST(SetDecimalSep, a_file_1_left_open_by_another_reader_raises_55_and_stays_open) {
+    RecordingPlatform platform;
+    const std::string path = platform.write("wing.dat", lines(14));
+    session.files.open_input(1, path);
+    EXPECT_EQ(number_of([&] { SetDecimalSep(path); }), 55);
+    EXPECT_TRUE(session.files.is_open(1));
+}
+
+TEST(SetDecimalSep, a_full_disk_under_the_temp_file_leaves_the_source) {
+    RecordingPlatform platform;
+    // The link is not deleted, so the copy is written to the device.
+    platform.shell.recycle_fails = true;
+    std::filesystem::create_symlink("/dev/full", platform.folder / "temp.dat");
+    const std::string path = platform.write("wing.dat", lines(14, 6, "1,5"));
+    EXPECT_EQ(number_of([&] { SetDecimalSep(path); }), 61);
+    EXPECT_EQ(RecordingPlatform::read(path), lines(14, 6, "1,5"));
+    EXPECT_EQ(platform.shell.recycled, std::vector{program_file("\\temp.dat")});
+    EXPECT_FALSE(session.files.is_open(1));
+    EXPECT_FALSE(session.files.is_open(2));
+}
+
+TEST(SetDecimalSep, the_temp_file_itself_is_not_copied_over_itself) {
+    RecordingPlatform platform;
+    const std::string path = platform.write("temp.dat", lines(14, 6, "1,5"));
+    EXPECT_EQ(number_of([&] { SetDecimalSep(path); }), 55);
+    EXPECT_EQ(RecordingPlatform::read(path), lines(14, 6, "1,5"));
+    EXPECT_TRUE(platform.shell.recycled.empty());
+}
+
+TEST(TabToSpace, a_tab_in_lines_4_to_13_turns_all_tabs_into_blanks) {
+    for (const int line : {4, 13}) {
+        RecordingPlatform platform;
+        const std::string text = lines(14, line, "1\t2") + "\t\t";
+        const std::string path = platform.write("wing.dat", text);
+        TabToSpace(path);
+        EXPECT_EQ(RecordingPlatform::read(path), runtime::replaced(text, '\t', ' ')) << line;
+    }
+}
+
+TEST(TabToSpace, the_file_is_left_alone) {
+    for (const std::string& text : {lines(13, 5, "1\t2"), lines(4, 4, "1\t2"), lines(14),
+                                    lines(14, 14, "1\t2"), lines(14, 3, "1\t2")}) {
+        RecordingPlatform platform;
+        const std::string path = platform.write("wing.dat", text);
+        TabToSpace(path);
+        EXPECT_EQ(RecordingPlatform::read(path), text);
+        EXPECT_TRUE(platform.shell.recycled.empty());
+    }
+}
+
+TEST(SetDotDecimals, a_comma_starts_the_pass_and_the_last_two_bytes_are_lost) {
+    for (const int count : {4, 8, 13, 14, 30}) {
+        RecordingPlatform platform;
+        const std::string text = lines(count, 4, "1,5 2,5");
+        const std::string path = platform.write("wing.dat", text);
+        SetDotDecimals(path);
+        const std::string expected = runtime::replaced(text, ',', '.');
+        EXPECT_EQ(RecordingPlatform::read(path), expected.substr(0, expected.size() - 2));
+    }
+}
+
+TEST(SetDotDecimals, without_a_comma_in_lines_4_to_13_the_file_is_left_alone) {
+    for (const std::string& text :
+         {lines(14), lines(3, 3, "1,5"), lines(14, 1, "1,5"), lines(14, 14, "1,5")}) {
+        RecordingPlatform platform;
+        const std::string path = platform.write("wing.dat", text);
+        SetDotDecimals(path);
+        EXPECT_EQ(RecordingPlatform::read(path), text);
+        EXPECT_TRUE(platform.shell.recycled.empty());
+    }
+}
+
+} // namespace
+} // namespace velmora
