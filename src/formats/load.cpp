@@ -1,17 +1,266 @@
 #include "formats/load.h"
 
+#include "cad/dxf.h"
+#include "document/feedback.h"
+#include "document/number_text.h"
+#include "document/refresh.h"
+#include "document/session.h"
+#include "formats/box_text.h"
+#include "formats/files.h"
+#include "formats/reader_support.h"
+#include "formats/readers.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+#include "platform/windows.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+
+#include <array>
+
 namespace velmora {
-FileFormat GetFileFormat(std::string_view) {
-    return FileFormat::undecided;
+
+namespace {
+
+using Reader = std::int16_t (*)(std::string_view);
+
+/// A format that its extension alone decides.
+struct PlainFormat {
+    std::string_view extension;
+    Reader reader;
+    int text; ///< message
+};
+
+constexpr auto kPlainFormats = std::to_array<PlainFormat>({
+    {"SCR", CargaSCR, mensaje::format_scr},
+    {"CUT", CargaCUT, mensaje::format_cut},
+    {"DXF", CargaDXF, mensaje::format_dxf},
+});
+
+/// The texts of the dialects, by their code.
+constexpr std::array<int, 6> kDialectTexts = {0,
+                                              mensaje::format_slws,
+                                              mensaje::format_slwsinc,
+                                              mensaje::format_noslw,
+                                              mensaje::format_slwmd,
+                                              mensaje::format_profili};
+
+bool holds(std::string_view text, std::string_view wanted) {
+    return text.find(wanted) != std::string_view::npos;
 }
-void CargaFichero(std::int16_t, std::int16_t& result) {
-    result = 0;
+
+std::string next_line() {
+    return std::string(session.files.line_input(1));
 }
-std::int16_t CargaDAT(std::string_view, FileFormat) {
-    return 0;
+
+FileFormat dialect_of(const std::string& line1, const std::string& line2,
+                      const std::string& line3) {
+    constexpr std::size_t record_text = 42;
+    if (line1.size() == line2.size() && line2.size() == line3.size() && line3.size() == record_text)
+        return FileFormat::SLWSINC;
+    if (line1.starts_with("SLW - "))
+        return FileFormat::SLWS;
+    if (line2.starts_with("SLATEWORKS"))
+        return FileFormat::SLWSINC;
+    if (holds(line1, "KORDLINE") || holds(line1, "MERIDOL"))
+        return FileFormat::SLWMD;
+    if (holds(line3, "Upper X"))
+        return FileFormat::PROFILI;
+    return FileFormat::NOSLW;
 }
-void Check00() {}
+
+FileFormat read_dialect(std::string_view path) {
+    session.files.open_input(1, path);
+    const std::string line1 = next_line();
+    const std::string line2 = next_line();
+    const std::string line3 = next_line();
+    session.files.close(1);
+    return dialect_of(line1, line2, line3);
+}
+
+void report_undecided(std::string_view shown_path, const RuntimeError& failure) {
+    session.files.abandon(1);
+    MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), shown_path,
+                             GetMensaje(mensaje::too_few_lines),
+                             "Error GetFileFormat  nº:" + std::to_string(failure.number),
+                             "Desc: " + description_of(failure)}));
+}
+
+std::string ask_for_path() {
+    if (session.LastDir.empty())
+        session.LastDir = session.program_folder;
+    return platform().dialogs.open_file({.title = GetMensaje(mensaje::open_title),
+                                         .filter = GetMensaje(mensaje::open_filter),
+                                         .folder = session.LastDir,
+                                         .name = {}});
+}
+
+void show_reading(std::string_view path) {
+    set_status(GetMensaje(mensaje::loading) + " " + runtime::UCase(path));
+}
+
+/// Reads the file by the reader of its kind and gives the format's text. Where the kind is not
+/// found there is no text, and LoadOk keeps the value of the load before, on purpose.
+std::string read_by_kind(const std::string& path) {
+    const std::string extension = runtime::UCase(runtime::Right(path, 3));
+    if (extension == "DAT") {
+        const FileFormat format = GetFileFormat(path);
+        if (format == FileFormat::undecided)
+            return {};
+        session.LoadOk = CargaDAT(path, format);
+        return GetMensaje(kDialectTexts[static_cast<std::size_t>(format)]);
+    }
+    for (const PlainFormat& format : kPlainFormats) {
+        if (format.extension != extension)
+            continue;
+        session.LoadOk = format.reader(path);
+        return GetMensaje(format.text);
+    }
+    return {};
+}
+
+void clear_object_counts() {
+    WinInfo& box = session.wininfo;
+    session.PtosSuprimidos = session.NLines = session.NSplines = 0;
+    session.NCircles = session.NArcs = session.NLWPolylines = 0;
+    for (std::string* text : {&box.TxtPtosSupr, &box.TxtNlines, &box.TxtNSplines, &box.TxtNCircles,
+                              &box.TxtNArcs, &box.TxtNLWPolylines})
+        show_count(*text, 0);
+}
+
+void show_figures() {
+    session.OrigX = Forma.Pto[0].X;
+    session.OrigY = Forma.Pto[0].Y;
+    session.wininfo.TxtOrigX = CStr(session.OrigX);
+    session.wininfo.TxtOrigY = CStr(session.OrigY);
+    // Not the count, on purpose: Define_Layout puts that there right after.
+    session.TotalPtos = Forma.Pto.upper() - 1;
+    show_count(session.wininfo.TxtTotalPtos, session.TotalPtos);
+    clear_object_counts();
+}
+
+void take_in(const std::string& path, const std::string& format_text) {
+    set_status(GetMensaje(mensaje::loaded) + " " + runtime::UCase(SoloNombre(path)) +
+               GetMensaje(mensaje::type) + " " + format_text);
+    session.FileName = path;
+    show_figures();
+    session.Velmora.TxtDat_File = session.FileName;
+    Check00();
+}
+
+void refuse(const std::string& path, const std::string& format_text) {
+    MsgBox(joined_by_blanks(
+               {GetMensaje(mensaje::the_file), path, GetMensaje(mensaje::not_loaded), format_text}),
+           buttons::critical, box_title());
+    set_pointer(0);
+}
+
+std::int16_t read_dialect_file(std::string_view path, FileFormat format) {
+    switch (format) {
+    case FileFormat::SLWS:
+        return CargaSLWS(path);
+    case FileFormat::SLWSINC:
+        return CargaSLWSINC(path);
+    case FileFormat::NOSLW:
+        TabToSpace(path);
+        return CargaNOSLW(path);
+    case FileFormat::SLWMD:
+        return CargaSLWMD(path);
+    case FileFormat::PROFILI:
+        TabToSpace(path);
+        return CargaPROFILI(path);
+    case FileFormat::undecided:
+        break;
+    }
+    return False;
+}
+
+bool has_origin() {
+    for (const Pto& point : Forma.Pto.all())
+        if (point.X == 0 && point.Y == 0)
+            return true;
+    return false;
+}
+
+void move_to_origin(std::int32_t index) {
+    const Pto origin = Forma.Pto[index];
+    for (Pto& point : Forma.Pto.all()) {
+        point.X = runtime::checked(point.X - origin.X);
+        point.Y = runtime::checked(point.Y - origin.Y);
+    }
+}
+
+std::int32_t leftmost() {
+    double smallest = 100000.0;
+    std::int32_t position = 0;
+    for (std::int32_t i = 0; i <= Forma.Pto.upper(); ++i) {
+        if (Forma.Pto[i].X < smallest) {
+            smallest = Forma.Pto[i].X;
+            position = i;
+        }
+    }
+    return position;
+}
+
+} // namespace
+
+FileFormat GetFileFormat(std::string_view path) {
+    return GetFileFormat(path, path);
+}
+
+FileFormat GetFileFormat(std::string_view path, std::string_view shown_path) {
+    FileFormat format = FileFormat::undecided;
+    trap([&] { format = read_dialect(path); },
+         [&](const RuntimeError& failure) { report_undecided(shown_path, failure); });
+    return format;
+}
+
+void CargaFichero(std::int16_t mode, std::int16_t& result) {
+    result = False;
+    clear_canvas();
+    const std::string path = mode == 1 ? ask_for_path() : session.Velmora.TxtDat_File;
+    if (path.empty())
+        return;
+    platform().windows.show("wininfo");
+    session.wininfo.chk_wininfo = true;
+    DoEvents();
+    session.LastDir = QuitaNombre(path);
+    show_reading(path);
+    const std::string format_text = read_by_kind(path);
+    if (session.LoadOk == False) {
+        refuse(path, format_text);
+        return;
+    }
+    take_in(path, format_text);
+    result = True;
+}
+
+std::int16_t CargaDAT(std::string_view path, FileFormat format) {
+    show_reading(path);
+    DoEvents();
+    SetDecimalSep(path);
+    const std::int16_t result = read_dialect_file(path, format);
+    set_status("");
+    DoEvents();
+    return result;
+}
+
+void Check00() {
+    if (has_origin())
+        return;
+    const int reply = MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), session.FileName,
+                                               GetMensaje(mensaje::no_origin)}),
+                             buttons::yes_no + buttons::question, box_title());
+    if (reply == answer::yes)
+        move_to_origin(GetMinXPos());
+}
+
 std::int32_t GetMinXPos() {
-    return 0;
+    std::int32_t position = 0;
+    trap([&] { position = leftmost(); },
+         [](const RuntimeError& failure) { show_trap("Error GetMinXPos nº: ", failure); });
+    return position;
 }
+
 } // namespace velmora

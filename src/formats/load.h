@@ -17,6 +17,9 @@ enum class FileFormat : std::int16_t {
 
 /// The dialect of a DAT file by its first three lines; `undecided` after the box of its own trap.
 FileFormat GetFileFormat(std::string_view path);
+/// The same where the box is to name the file in another way: the sides of the workbench show
+/// capitals.
+FileFormat GetFileFormat(std::string_view path, std::string_view shown_path);
 
 /// Loads a file into Forma: `mode` 1 asks for it, any other takes TxtDat_File. `result` is -1 when
 /// it was taken in, else 0.
