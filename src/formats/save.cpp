@@ -1,13 +1,133 @@
 #include "formats/save.h"
 
+#include "document/feedback.h"
+#include "document/options.h"
+#include "document/recent_files.h"
+#include "document/refresh.h"
+#include "document/session.h"
+#include "formats/box_text.h"
+#include "formats/files.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+#include "platform/shell.h"
+#include "platform/windows.h"
+#include "runtime/paths.h"
+#include "runtime/text.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+
 namespace velmora {
-void DialogoGuardar() {}
-void GeneraFichero() {}
-std::int16_t EscribeFichero() {
-    return 0;
+
+namespace {
+
+constexpr int kHourglass = 11;
+constexpr int kDefaultPointer = 0;
+
+/// The name that the dialog offers: the last one without its extension, whatever its last four
+/// characters are. Raises 5 for a shorter name.
+std::string offered_name() {
+    if (session.FileName.find('.') == std::string::npos)
+        return {};
+    const auto length = static_cast<int>(runtime::Len(session.FileName));
+    return runtime::Left(session.FileName, length - 4);
 }
-void OptimizaPtos() {}
-bool HayPuntosSinc() {
-    return false;
+
+std::string ask_for_path() {
+    return platform().dialogs.save_file({.title = GetMensaje(mensaje::save_title),
+                                         .filter = session.DefExt + " | *" + session.DefExt,
+                                         .folder = session.program_folder,
+                                         .name = offered_name()});
 }
+
+int ask_to_overwrite() {
+    return MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), session.FileName,
+                                    GetMensaje(mensaje::overwrite)}),
+                  buttons::yes_no_cancel + buttons::question, box_title());
+}
+
+/// Puts the chosen path into FileName; false when the user gave up. Given up at the overwrite
+/// question, FileName keeps the path.
+bool choose_path() {
+    for (;;) {
+        const std::string path = ask_for_path();
+        if (path.empty())
+            return false;
+        session.FileName = path;
+        if (!runtime::file_exists(path))
+            return true;
+        const int reply = ask_to_overwrite();
+        if (reply == answer::cancel)
+            return false;
+        if (reply != answer::no)
+            return true;
+    }
+}
+
+void ask_for_description() {
+    std::string& description = session.Velmora.TxtDescDat;
+    description = InputBox(GetMensaje(mensaje::ask_description), box_title(), description);
+    if (description.empty())
+        description = SoloNombre(session.FileName);
+}
+
+void run_save_dialog() {
+    if (!hay_forma()) {
+        MuestraMensaje(mensaje::no_shape);
+        return;
+    }
+    if (!choose_path())
+        return;
+    session.Velmora.TxtDat_File = session.FileName;
+    if (session.DefExt != ".scr")
+        ask_for_description();
+    session.Velmora.TxtDescDat = after_last_backslash(session.Velmora.TxtDescDat);
+}
+
+/// A precision below 1 is only put right by this press; nothing is written.
+void reset_precision() {
+    MuestraMensaje(mensaje::precision_too_low);
+    platform().windows.set_focus("winoptions", "TxtPrecision");
+    set_TxtPrecision("1");
+    session.Precision = 1;
+}
+
+void report_created() {
+    if (!runtime::file_exists(session.FileName))
+        return;
+    const bool script = runtime::UCase(session.FileName).find(".SCR") != std::string::npos;
+    const int praise = script ? mensaje::created_script : mensaje::created_dat;
+    MsgBox(joined_by_blanks({GetMensaje(mensaje::file), session.FileName, GetMensaje(praise)}),
+           buttons::information, box_title());
+}
+
+} // namespace
+
+void DialogoGuardar() {
+    // Cancel is an error to the dialog; it and all others end the routine without a word.
+    trap(run_save_dialog, [](const RuntimeError&) {});
+}
+
+void GeneraFichero() {
+    if (runtime::Trim(session.Velmora.TxtDat_File).empty())
+        return;
+    if (session.Precision < 1) {
+        reset_precision();
+        return;
+    }
+    Apply_Precision();
+    if (session.OptimizeOnGen)
+        OptimizaPtos();
+    set_pointer(kHourglass);
+    const std::int16_t written = EscribeFichero();
+    set_pointer(kDefaultPointer);
+    if (written == False)
+        return;
+    set_status(GetMensaje(mensaje::file) + " " + runtime::UCase(session.FileName) + " " +
+               GetMensaje(mensaje::created));
+    if (session.Sound == 1)
+        platform().shell.play(program_file("\\mdbwav1.wav"));
+    UpdateFileMenu(session.Velmora.TxtDat_File);
+    report_created();
+}
+
 } // namespace velmora

@@ -13,22 +13,7 @@ void not_available() {
 void mnu_newfile() {
     not_available();
 }
-void mnu_openfile() {
-    not_available();
-}
-void mnu_savefile() {
-    not_available();
-}
-void mnu_savefileas() {
-    not_available();
-}
-void mnu_closefile() {
-    not_available();
-}
 void mnu_print() {
-    not_available();
-}
-void mnuRecentFile(int) {
     not_available();
 }
 void mnu_paramgenerales() {

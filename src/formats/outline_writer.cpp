@@ -1,0 +1,165 @@
+#include "formats/save.h"
+
+#include "document/feedback.h"
+#include "document/number_text.h"
+#include "document/refresh.h"
+#include "document/session.h"
+#include "formats/files.h"
+#include "formats/fixed_record.h"
+#include "platform/dialogs.h"
+#include "runtime/paths.h"
+#include "runtime/text.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+/// The bar of the main window, one step a point; what is written past the points leaves it full.
+void step_progress() {
+    ProgressBar& bar = session.Velmora.Pbar1;
+    bar.Value = std::min(bar.Value + 1, bar.Max);
+    DoEvents();
+}
+
+void write_record(std::string_view field1, std::string_view field2) {
+    session.files.write(1, FixedRecord(field1, field2).bytes());
+}
+
+void write_point_record(const Pto& point) {
+    write_record(CStr(point.X), CStr(point.Y));
+    step_progress();
+}
+
+/// All points, then the first once more: the outline is open in memory and closed in a file.
+template <class Write>
+void write_closed_outline(Write&& write) {
+    const std::int32_t upper = Forma.Pto.upper();
+    for (std::int32_t i = 0; i <= upper; ++i)
+        write(Forma.Pto[i]);
+    write(Forma.Pto[0]);
+}
+
+/// Opens the file for records. Records are written over what stands there, so a file that could
+/// not be deleted is emptied first: the new one is whole and nothing but itself.
+void open_records() {
+    if (runtime::file_exists(session.FileName)) {
+        session.files.open_output(1, session.FileName);
+        session.files.close(1);
+    }
+    session.files.open_random(1, session.FileName, FixedRecord::length);
+}
+
+void write_sync_head() {
+    write_record("Fichero DAT(KMR)2002",
+                 runtime::to_1252(runtime::Trim(session.Velmora.TxtDescDat)));
+    write_record("SLATEWORKS", "");
+}
+
+/// Sync points are needed: without one, point 0 becomes it or the form is refused.
+bool ensure_sync_point() {
+    if (HayPuntosSinc())
+        return true;
+    if (MuestraMensaje(mensaje::add_origin_sync) != answer::ok)
+        return false;
+    Forma.Pto[0].Sinc = 1;
+    return true;
+}
+
+void write_sync_points() {
+    const std::int32_t upper = Forma.Pto.upper();
+    for (std::int32_t i = 0; i <= upper; ++i)
+        if (Forma.Pto[i].Sinc == 1)
+            write_point_record(Forma.Pto[i]);
+}
+
+/// The sync DAT. Refused, it stays as far as it was written, on purpose.
+std::int16_t write_sync_dat() {
+    open_records();
+    write_sync_head();
+    write_closed_outline(write_point_record);
+    write_record(sync_section_title, "");
+    write_record("", "");
+    if (!ensure_sync_point()) {
+        session.files.close(1);
+        return False;
+    }
+    write_sync_points();
+    session.files.close(1);
+    SetDotDecimals(session.FileName);
+    return True;
+}
+
+/// "0.00000" with a point on every machine.
+std::string fixed_text(double value) {
+    const std::string text = Format5(value);
+    return session.SepDecimal == '.' ? text : runtime::replaced(text, ',', '.');
+}
+
+void write_line(std::string line) {
+    session.files.write(1, line.append(kLineEnd));
+}
+
+void write_point_lines(char between) {
+    write_closed_outline([between](const Pto& point) {
+        write_line(fixed_text(point.X) + between + fixed_text(point.Y));
+        step_progress();
+    });
+}
+
+/// The forms that can't hold sync points ask first.
+bool may_lose_sync_points() {
+    return !HayPuntosSinc() || MuestraMensaje(mensaje::sync_points_lost) != answer::no;
+}
+
+std::int16_t write_script() {
+    if (!may_lose_sync_points())
+        return False;
+    session.files.open_output(1, session.FileName);
+    write_line("pline");
+    write_point_lines(',');
+    write_line("");
+    session.files.close(1);
+    return True;
+}
+
+std::int16_t write_profile_dat() {
+    if (!may_lose_sync_points())
+        return False;
+    session.files.open_output(1, session.FileName);
+    write_line(runtime::to_1252(runtime::UCase(SoloNombre(session.FileName))));
+    write_point_lines(' ');
+    session.files.close(1);
+    return True;
+}
+
+} // namespace
+
+bool HayPuntosSinc() {
+    const auto points = Forma.Pto.all();
+    return std::any_of(points.begin(), points.end(), [](const Pto& p) { return p.Sinc == 1; });
+}
+
+std::int16_t EscribeFichero() {
+    session.FileName = session.Velmora.TxtDat_File;
+    if (runtime::file_exists(session.FileName))
+        BorraFichero(session.FileName);
+    session.Velmora.Pbar1.Max = Forma.Pto.upper() + 1;
+    session.Velmora.Pbar1.Value = 0;
+    if (session.GenDATSinc && write_sync_dat() == False)
+        return False;
+    if (session.GenSCR && write_script() == False)
+        return False;
+    if (session.GenDATPerfil && write_profile_dat() == False)
+        return False;
+    Dibuja();
+    session.Velmora.Pbar1.Value = 0;
+    return True;
+}
+
+} // namespace velmora
