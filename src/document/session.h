@@ -99,6 +99,9 @@ struct Session {
     WinInfo wininfo;
     WinOptions winoptions;
     ScaleXyWindow Scale_xy;
+    DelNptoWindow del_Npto;
+    MultPtosWindow Mult_Ptos;
+    CompensaWindow Compensa;
 };
 
 extern Session session;

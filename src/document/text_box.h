@@ -6,14 +6,15 @@
 
 namespace velmora {
 
+/// Puts a text into a box; true when another one stood there.
+[[nodiscard]] bool replace_text(std::string& box, std::string_view text);
+
 /// Puts a text into a box; `changed` runs when it differs from what stood there, as it does when
 /// the user types.
 template <class Changed>
 void put_text(std::string& box, std::string_view text, Changed&& changed) {
-    if (box == text)
-        return;
-    box = text;
-    changed();
+    if (replace_text(box, text))
+        changed();
 }
 
 } // namespace velmora

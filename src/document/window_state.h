@@ -100,4 +100,21 @@ struct ScaleXyWindow {
     bool cmd_ok_enabled = false;
 };
 
+struct DelNptoWindow {
+    std::int32_t MaxDel = 0; ///< points that may go
+    std::string Txt_Numpoints2del, Txt_JumpPoints;
+    std::string Lbl_Maxpoints;
+};
+
+struct MultPtosWindow {
+    std::string Combo1; ///< the factor
+    std::string Lbl_NPoints, lbl_New_NPoints;
+    bool cmd_ok_enabled = false;
+};
+
+struct CompensaWindow {
+    std::string Txt_merma;
+    bool cmd_ok_enabled = false;
+};
+
 } // namespace velmora

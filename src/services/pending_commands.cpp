@@ -19,15 +19,6 @@ void mnu_print() {
 void mnu_paramgenerales() {
     not_available();
 }
-void Delete_All_Pto_Sinc() {
-    not_available();
-}
-void Insert_All_Pto_Sinc() {
-    not_available();
-}
-void Mult_Points_Shape() {
-    not_available();
-}
 void mnu_seltexto() {
     not_available();
 }
@@ -59,33 +50,6 @@ void mnu_web() {
     not_available();
 }
 void mnu_about() {
-    not_available();
-}
-void Delete_Pto() {
-    not_available();
-}
-void Delete_N_Ptos() {
-    not_available();
-}
-void Insert_Pto() {
-    not_available();
-}
-void insert_ini() {
-    not_available();
-}
-void Insert_N_Ptos() {
-    not_available();
-}
-void Delete_Pto_Sinc() {
-    not_available();
-}
-void Insert_Pto_Sinc() {
-    not_available();
-}
-void Pts_To_Next_Sinc() {
-    not_available();
-}
-void Set_CutStart() {
     not_available();
 }
 void K_PRINT() {

@@ -11,4 +11,14 @@ void load_literals(std::string_view window) {
         AplicaLiterales(*form, window);
 }
 
+std::string caption_of(std::string_view window, std::string_view control) {
+    Form* form = platform().windows.form(window);
+    if (form == nullptr)
+        return {};
+    for (int i = 0; i < form->control_count(); ++i)
+        if (form->control(i).name() == control)
+            return form->control(i).text(0);
+    return {};
+}
+
 } // namespace velmora

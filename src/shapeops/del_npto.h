@@ -1,0 +1,19 @@
+// The logic of the window del_Npto: takes points out of the shape at a regular interval.
+#pragma once
+
+namespace velmora {
+
+void del_Npto_Load();
+/// The text of Txt_JumpPoints changed (it stands in session.del_Npto).
+void Txt_JumpPoints_Change();
+/// A key of a box: the key to take, 0 to swallow it.
+[[nodiscard]] int Txt_JumpPoints_KeyPress(int key);
+[[nodiscard]] int Txt_Numpoints2del_KeyPress(int key);
+/// Another control took the focus from Txt_Numpoints2del.
+void Txt_Numpoints2del_LostFocus();
+/// Removes the points, the selected one first. Raises 9 where the one wrap does not bring a
+/// position back into the array.
+void del_Npto_cmd_ok_Click();
+void del_Npto_cmd_cancel_Click();
+
+} // namespace velmora

@@ -1,0 +1,163 @@
+// The point menu's commands that change the number of points or the start of cutting. None has an
+// error route of its own.
+#include "document/handlers.h"
+#include "document/refresh.h"
+#include "document/session.h"
+#include "document/shown_counts.h"
+#include "runtime/error.h"
+#include "runtime/numbers.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+using runtime::checked;
+
+/// Grows the array by `count` and moves the records from `first` on up by as many; copies of them
+/// stay below, to be written over.
+void make_room(std::int32_t first, std::int32_t count) {
+    const std::int32_t upper = Forma.Pto.upper();
+    Forma.Pto.redim_keep(upper + count);
+    const auto points = Forma.Pto.all();
+    std::copy_backward(points.begin() + first, points.begin() + upper + 1, points.end());
+}
+
+void set_point(std::int32_t index, double x, double y, std::int16_t sinc) {
+    Pto& point = Forma.Pto[index];
+    point.X = x;
+    point.Y = y;
+    point.Sinc = sinc;
+}
+
+double midpoint(double a, double b) {
+    if (a > b)
+        return checked(a - b) / 2 + b;
+    if (a < b)
+        return checked(b - a) / 2 + a;
+    return a;
+}
+
+/// One axis of a point between the last point, a, and the first, b: half the other where one end is
+/// 0, else the last point again. `zero_end` is the value that the row for a < b tests.
+double before_first(double a, double b, double zero_end) {
+    if (a > b)
+        return b == 0 ? a / 2 + b : checked(a - b) + b;
+    if (a < b)
+        return zero_end == 0 ? b - b / 2 : b - checked(b - a);
+    return b;
+}
+
+// On purpose: for X the row a < b tests the Y of the last point.
+void place_before_first() {
+    const Pto last = Forma.Pto[Forma.Pto.upper()];
+    const Pto first = Forma.Pto[session.PtoSel + 1];
+    Forma.Pto[session.PtoSel].X = before_first(last.X, first.X, last.Y);
+    Forma.Pto[session.PtoSel].Y = before_first(last.Y, first.Y, last.Y);
+    session.PtoSel = 1;
+    Set_CutStart();
+    session.PtoSel = 0;
+}
+
+void place_between_neighbours() {
+    const Pto& before = Forma.Pto[session.PtoSel - 1];
+    const Pto& after = Forma.Pto[session.PtoSel + 1];
+    Forma.Pto[session.PtoSel].X = midpoint(before.X, after.X);
+    Forma.Pto[session.PtoSel].Y = midpoint(before.Y, after.Y);
+}
+
+void remove_selected() {
+    const auto points = Forma.Pto.all();
+    const std::int32_t new_upper = Forma.Pto.upper() - 1;
+    std::copy(points.begin() + session.PtoSel + 1, points.end(), points.begin() + session.PtoSel);
+    Forma.Pto.redim_keep(new_upper);
+    session.PtoSel = session.PtoSel == 0 ? new_upper : session.PtoSel - 1;
+}
+
+} // namespace
+
+// The point at PtoSel loses its sync mark. Before the first point that is the old first one, and
+// the sync total does not follow: on purpose. Raises 9 without a selection.
+void Insert_Pto() {
+    if (!hay_seleccion())
+        raise(error::subscript);
+    make_room(session.PtoSel, 1);
+    if (session.PtoSel > 0)
+        place_between_neighbours();
+    else
+        place_before_first();
+    Forma.Pto[session.PtoSel].Sinc = 0;
+    show_TotalPtos(Forma.Pto.upper() + 1);
+    Dibuja_unless_NoRedraw();
+}
+
+void Delete_Pto() {
+    if (!hay_forma()) {
+        MuestraMensaje(mensaje::no_shape);
+        return;
+    }
+    if (Forma.Pto.upper() <= 2) {
+        MuestraMensaje(mensaje::no_more_deletions);
+        return;
+    }
+    if (!hay_seleccion())
+        return;
+    if (Forma.Pto[session.PtoSel].Sinc == 1)
+        step_TotalSinc(-1);
+    remove_selected();
+    Dibuja_unless_NoRedraw();
+    show_TotalPtos(Forma.Pto.upper() + 1);
+}
+
+// Only the turn by one clears the old first point's mark, and only the longer turn refreshes: on
+// purpose. PtoSel does not follow its point.
+void Set_CutStart() {
+    if (!hay_seleccion() || session.PtoSel == 0)
+        return;
+    const auto points = Forma.Pto.all();
+    if (session.PtoSel == 1)
+        points.front().Sinc = 0;
+    std::ranges::rotate(points, points.begin() + session.PtoSel);
+    if (session.PtoSel == 1)
+        return;
+    Carga_List_Coords("UPDATE");
+    Dibuja_unless_NoRedraw();
+}
+
+// The shown count is the upper bound less one, and the sync total does not count the new start: on
+// purpose, the next Define_Layout and the sync commands put them right. Raises 9 without a
+// selection.
+void insert_ini() {
+    if (!hay_seleccion())
+        raise(error::subscript);
+    const std::int32_t s = session.PtoSel;
+    const Pto c = Forma.Pto[s];
+    make_room(s + 1, 4);
+    set_point(s + 1, c.X, 0, 0);
+    set_point(s + 2, 1, 0, 1);
+    set_point(s + 3, c.X, 0, 0);
+    set_point(s + 4, c.X, c.Y, 0);
+    session.PtoSel = s + 2;
+    Set_CutStart();
+    Carga_List_Coords("UPDATE");
+    show_TotalPtos(Forma.Pto.upper() - 1);
+    Dibuja_unless_NoRedraw();
+}
+
+// The mark on point 0 is how Esc finds the old first point again.
+void Insert_N_Ptos() {
+    if (!hay_seleccion())
+        return;
+    session.PtoSelAnt = session.PtoSel;
+    for (Pto& point : Forma.Pto.all())
+        point.Marca = 0;
+    Forma.Pto[0].Marca = 1;
+    Set_CutStart();
+    session.PtoSel = 0;
+    session.PtosToInsertMode = True;
+}
+
+} // namespace velmora
