@@ -25,9 +25,6 @@ void mnu_seltexto() {
 void mnu_corrpoltrap() {
     not_available();
 }
-void mnu_paralela() {
-    not_available();
-}
 void mnu_capture() {
     not_available();
 }
