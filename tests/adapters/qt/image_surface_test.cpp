@@ -1,0 +1,113 @@
+#include "adapters/qt/image_surface.h"
+
+#include "runtime/error.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace velmora {
+namespace {
+
+struct PictureFile : testing::Test {
+    QTemporaryDir folder;
+    ImageSurface pic;
+
+    std::string write(const char* name, const QByteArray& bytes) const {
+        const QString path = folder.filePath(name);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return path.toStdString();
+    }
+    std::string save(const char* name, const QImage& picture, const char* format) const {
+        const QString path = folder.filePath(name);
+        EXPECT_TRUE(picture.save(path, format, 100)) << name;
+        return path.toStdString();
+    }
+    int error_of(const std::string& file) {
+        int number = 0;
+        trap([&] { pic.set_picture(file); }, [&](const RuntimeError& e) { number = e.number; });
+        return number;
+    }
+};
+
+QImage blue(int width, int height) {
+    QImage picture(width, height, QImage::Format_RGB32);
+    picture.fill(QColor(0, 0, 254));
+    return picture;
+}
+
+TEST(ImageSurface, IsTwoThousandPixelsSquareAndShowsThemAsTheyAre) {
+    ImageSurface pic;
+    EXPECT_EQ(pic.Width(), 30000);
+    EXPECT_EQ(pic.Height(), 30000);
+    EXPECT_EQ(pic.image().size(), QSize(2000, 2000));
+    EXPECT_EQ(pic.image().pixel(1999, 1999), 0xFFC8C8C8);
+    pic.set_pen(0x0000FF);
+    pic.Line(10, 20, 10, 20);
+    EXPECT_EQ(pic.image().pixel(10, 20), 0xFFFF0000);
+    EXPECT_EQ(pic.pixel(10, 20), 0xFF0000U);
+}
+
+TEST(ImageSurface, TellsTheRectangleThatChanged) {
+    ImageSurface pic;
+    std::vector<QRect> told;
+    pic.changed = [&](const QRect& changed) {
+        told.push_back(changed);
+    };
+    pic.Line(10, 20, 14, 25);
+    EXPECT_TRUE(told.empty());
+    pic.present();
+    pic.present();
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told[0], QRect(10, 20, 5, 6));
+    pic.set_back_color(0);
+    EXPECT_EQ(told.back(), QRect(0, 0, 2000, 2000));
+}
+
+TEST_F(PictureFile, OfEachKindStandsAtTheCorner) {
+    const QByteArray gif =
+        QByteArray::fromBase64("R0lGODlhAQABAIAAAAAA/gAAACwAAAAAAQABAAACAkQBADs=");
+    for (const std::string& file :
+         {save("a.bmp", blue(30, 20), "BMP"), save("a.png", blue(30, 20), "PNG"),
+          save("a.jpg", blue(30, 20), "JPG"), save("a.ico", blue(32, 32), "ICO"),
+          write("a.gif", gif), save("misnamed.gif", blue(30, 20), "BMP")}) {
+        ASSERT_EQ(error_of(file), 0) << file;
+        EXPECT_NEAR(pic.pixel(0, 0) & 0xFF, 254, 2) << file;
+        EXPECT_EQ(pic.pixel(40, 0), 0xC8C8C8U) << file;
+    }
+    pic.set_picture("");
+    EXPECT_EQ(pic.pixel(0, 0), 0xC8C8C8U);
+}
+
+TEST_F(PictureFile, LargerThanTheCanvasIsCut) {
+    QImage picture = blue(2100, 2200);
+    picture.setPixel(1999, 1999, 0xFF00FF00);
+    pic.set_picture(save("large.bmp", picture, "BMP"));
+    EXPECT_EQ(pic.pixel(1999, 1999), 0x00FF00U);
+    EXPECT_EQ(pic.pixel(1998, 1999), 0x0000FEU);
+}
+
+TEST_F(PictureFile, ThatIsNotThereRaises53) {
+    EXPECT_EQ(error_of(folder.filePath("none.bmp").toStdString()), error::file_not_found);
+    EXPECT_EQ(error_of(folder.path().toStdString()), error::file_not_found);
+}
+
+TEST_F(PictureFile, ThatIsNoPictureRaises481AndTheOldOneStays) {
+    pic.set_picture(save("a.bmp", blue(30, 20), "BMP"));
+    EXPECT_EQ(error_of(write("text.bmp", "not a picture")), error::invalid_picture);
+    EXPECT_EQ(error_of(write("empty.jpg", "")), error::invalid_picture);
+    EXPECT_EQ(pic.pixel(0, 0), 0x0000FEU);
+}
+
+TEST_F(PictureFile, TooLargeForMemoryRaises7) {
+    // The head of a picture of 30000 by 30000 pixels.
+    const QByteArray png =
+        QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAAdTAAAHUwCAIAAADpRW/tAAAAAElEQVQ1rwYe");
+    EXPECT_EQ(error_of(write("huge.png", png)), error::out_of_memory);
+}
+
+} // namespace
+} // namespace velmora
