@@ -56,6 +56,20 @@ BENCHMARK(repaint)
     ->ArgNames({"waves", "glyphs"})
     ->Unit(benchmark::kMillisecond);
 
+/// Most of the shape lies outside the canvas, and many segments cross its edge.
+void zoomed_repaint(benchmark::State& state) {
+    const RingOnCanvas ring(static_cast<double>(state.range(0)));
+    session.ZoomFactor = 50;
+    for ([[maybe_unused]] auto _ : state)
+        Dibuja();
+}
+BENCHMARK(zoomed_repaint)
+    ->Name("Dibuja of 32000 points, zoomed in")
+    ->Arg(40)
+    ->Arg(4000)
+    ->ArgName("waves")
+    ->Unit(benchmark::kMillisecond);
+
 void bare_polyline(benchmark::State& state) {
     const RingOnCanvas ring(static_cast<double>(state.range(0)));
     QImage image(ring.pic().image().size(), QImage::Format_RGB32);

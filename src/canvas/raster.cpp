@@ -151,6 +151,8 @@ const Raster::Stamp& Raster::stamp_of(std::int32_t width, std::int32_t height) {
 }
 
 void Raster::ellipse(const PixelBox& box, Pixel pixel) {
+    if (std::max(box.left, box.right) <= 0 || std::min(box.left, box.right) >= width_)
+        return;
     const PixelPoint corner{box.left, box.top};
     const bool small = holds(corner) && box.right > box.left && box.bottom > box.top &&
                        box.right - box.left <= kStampSize && box.bottom - box.top <= kStampSize;

@@ -378,6 +378,20 @@ TEST(InsertionMode, TheRightButtonRemovesTheLastPoint) {
     EXPECT_TRUE(repainted(canvas));
 }
 
+TEST(InsertionMode, ARightClickOnThreePointsOrFewerRefuses) {
+    for (const std::int32_t upper : {0, 1, 2}) {
+        ByHand canvas;
+        Forma.Pto.redim_keep(upper);
+        session.PtoSel = upper;
+        pic_MouseUp(2, 0, 500, 500);
+        EXPECT_EQ(Forma.Pto.upper(), upper);
+        ASSERT_EQ(canvas.dialogs.boxes.size(), 1U);
+        EXPECT_EQ(canvas.dialogs.boxes[0].text, "No se pueden eliminar más puntos!");
+        EXPECT_THAT(canvas.operations(), IsEmpty());
+        EXPECT_EQ(session.Velmora.SSScroll_moves, 0U);
+    }
+}
+
 TEST(InsertionMode, AnyOtherButtonChangesNoPointButRefreshes) {
     ByHand canvas;
     pic_MouseUp(4, 0, 500, 500);

@@ -1,0 +1,123 @@
+#include "canvas/drawing.h"
+#include "canvas/zoom.h"
+#include "document/command_table.h"
+#include "document/handlers.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace velmora {
+namespace {
+
+using test::Canvas;
+using test::set_shape;
+using testing::ElementsAre;
+
+TEST(Zoom, StepsOnALadder) {
+    struct Case {
+        double zoom, above, below;
+    };
+    for (const Case& one : {
+             Case{-3, -2, -3},
+             Case{0.5, 1.5, 0.5},
+             Case{1, 2, 1},
+             Case{1.5, 2.5, 0.5},
+             Case{5, 6, 4},
+             Case{9, 10, 8},
+             Case{9.5, 10.5, 8.5},
+             Case{10, 20, 9},
+             Case{10.5, 20.5, 0.5},
+             Case{50, 60, 40},
+             Case{99, 109, 89},
+             Case{100, 200, 90},
+             Case{150, 250, 50},
+             Case{999, 1099, 899},
+             Case{1000, 2000, 900},
+             Case{1001, 2001, 1},
+             Case{30000, 31000, 29000},
+         }) {
+        EXPECT_EQ(zoom_above(one.zoom), one.above) << one.zoom;
+        EXPECT_EQ(zoom_below(one.zoom), one.below) << one.zoom;
+    }
+}
+
+TEST(ZoomCommands, ShowTheValueLayOutAndRepaint) {
+    Canvas canvas;
+    set_shape({{0, 0}, {10, 0}, {10, 20}});
+    session.ZoomFactor = 10;
+    mnu_zoom_up();
+    EXPECT_EQ(session.ZoomFactor, 20);
+    EXPECT_EQ(session.winoptions.Txt_zoom, "20");
+    EXPECT_EQ(session.Velmora.SSScroll_moves, 1U);
+    EXPECT_EQ(canvas.operations().front(), "cls");
+    session.ZoomFactor = 10;
+    mnu_zoom_down();
+    EXPECT_EQ(session.ZoomFactor, 9);
+    EXPECT_EQ(session.winoptions.Txt_zoom, "9");
+}
+
+TEST(ZoomCommands, DownFromOneOrBelowDoesNothing) {
+    Canvas canvas;
+    set_shape({{0, 0}, {10, 0}, {10, 20}});
+    for (const double zoom : {1.0, 0.25, -2.0}) {
+        session.ZoomFactor = zoom;
+        mnu_zoom_down();
+        EXPECT_EQ(session.ZoomFactor, zoom);
+    }
+    EXPECT_EQ(session.winoptions.Txt_zoom, "");
+    EXPECT_TRUE(canvas.operations().empty());
+}
+
+TEST(ZoomCommands, ToolbarKeysAreTheSame) {
+    EXPECT_EQ(find_tool_key("K_ZOOMUP")->handler, &mnu_zoom_up);
+    EXPECT_EQ(find_tool_key("K_ZOOMDWN")->handler, &mnu_zoom_down);
+    EXPECT_EQ(find_tool_key("K_LOADIMG")->handler, &mnu_loadimg);
+}
+
+TEST(BackgroundPicture, ComesFromTheDialogWithoutARepaint) {
+    Canvas canvas;
+    session.LastDir = "/shapes";
+    canvas.dialogs.paths = {"/shapes/wing.bmp"};
+    mnu_loadimg();
+    EXPECT_THAT(canvas.operations(), ElementsAre("picture /shapes/wing.bmp", "present"));
+    ASSERT_EQ(canvas.dialogs.open_calls.size(), 1U);
+    const FileRequest& request = canvas.dialogs.open_calls[0];
+    EXPECT_EQ(request.title, "Seleccione Fichero a Abrir");
+    EXPECT_EQ(request.filter,
+              "Archivos de Imágenes|*.bmp;*.gif;*.jpg| Mapas de Bits (*.bmp;*.dib)|*.bmp;*.dib|"
+              "Imágenes GIF (*.gif)|*.gif|Imágenes JPG (*.jpg)|*.jpg|Iconos (*.ico;*.cur)|"
+              "*.ico;*.cur");
+    EXPECT_EQ(request.folder, "/shapes");
+    EXPECT_EQ(request.name, "");
+}
+
+TEST(BackgroundPicture, WithoutALastFolderTheDialogOpensInThePrograms) {
+    Canvas canvas;
+    canvas.dialogs.paths = {"/wing.bmp"};
+    mnu_loadimg();
+    EXPECT_EQ(canvas.dialogs.open_calls.at(0).folder, session.program_folder);
+    EXPECT_EQ(session.LastDir, "");
+}
+
+TEST(BackgroundPicture, CancelledDialogChangesNothing) {
+    Canvas canvas;
+    mnu_loadimg();
+    EXPECT_EQ(canvas.dialogs.open_calls.size(), 1U);
+    EXPECT_TRUE(canvas.operations().empty());
+}
+
+TEST(BackgroundPicture, TakenAwayTheCanvasIsRepainted) {
+    Canvas canvas;
+    set_shape({{0, 0}, {10, 0}, {10, 20}});
+    mnu_delimg();
+    ASSERT_GT(canvas.operations().size(), 3U);
+    EXPECT_EQ(canvas.operations()[0], "picture ");
+    EXPECT_EQ(canvas.operations()[2], "cls");
+    canvas.operations().clear();
+    session.NoRedraw = True;
+    mnu_delimg();
+    EXPECT_THAT(canvas.operations(), ElementsAre("picture ", "present"));
+}
+
+} // namespace
+} // namespace velmora
