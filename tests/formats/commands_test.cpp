@@ -23,19 +23,6 @@ void load_triangle(RecordingPlatform& platform) {
     mnu_openfile();
 }
 
-TEST(mnu_openfile, takes_the_file_in_and_refreshes) {
-    RecordingPlatform platform;
-    session.Precision = 1;
-    session.PtoSel = 9;
-    session.ZoomFactor = 3;
-    load_triangle(platform);
-    EXPECT_EQ(session.PtoSel, 0);
-    EXPECT_EQ(Forma.Pto[1].X, 10.3);
-    EXPECT_EQ(session.TotalPtos, 3);
-    EXPECT_EQ(session.ZoomFactor, session.Def_Zoom);
-    EXPECT_EQ(session.Velmora.Lst_Coords.size(), 3U);
-}
-
 TEST(mnu_savefile, writes_under_the_name_that_stands_in_the_box) {
     RecordingPlatform platform;
     load_triangle(platform);

@@ -171,6 +171,7 @@ TEST(GeneraFichero, writes_reports_and_remembers) {
                    "Velmora 1.0"}}));
     EXPECT_TRUE(runtime::file_exists(path));
     EXPECT_EQ(session.Velmora.MousePointer, 0);
+    EXPECT_EQ(platform.settings.get("RecentFiles", "RecentFile1"), path);
 }
 
 TEST(GeneraFichero, a_script_has_praise_of_its_own_and_sound_can_be_off) {
@@ -264,6 +265,7 @@ TEST(GeneraFichero, refused_it_ends_with_the_normal_pointer_and_no_report) {
     EXPECT_EQ(platform.dialogs.boxes.size(), 1U);
     EXPECT_EQ(session.Velmora.MousePointer, 0);
     EXPECT_TRUE(platform.shell.played.empty());
+    EXPECT_FALSE(platform.settings.get("RecentFiles", "RecentFile1").has_value());
 }
 
 } // namespace

@@ -1,0 +1,90 @@
+#include "document/handlers.h"
+
+#include "document/session.h"
+#include "formats/sample_files.h"
+#include "platform/dialogs.h"
+#include "runtime/paths.h"
+#include "support/recording_platform.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora {
+namespace {
+
+using test::RecordingPlatform;
+using test::sync_file;
+
+std::string triangle_file() {
+    return sync_file({{"0", "0"}, {"10.26", "0"}, {"10.26", "5"}, {"0", "0"}}, {{"0", "0"}});
+}
+
+void load_triangle(RecordingPlatform& platform) {
+    platform.dialogs.paths = {platform.write("wing.dat", triangle_file())};
+    mnu_openfile();
+}
+
+TEST(mnu_openfile, takes_the_file_in_and_refreshes) {
+    RecordingPlatform platform;
+    platform.settings.values[{"Values", "Def_Zoom"}] = "1500.5";
+    session.Precision = 1;
+    session.PtoSel = 9;
+    session.ZoomFactor = 3;
+    load_triangle(platform);
+    EXPECT_EQ(session.PtoSel, 0);
+    EXPECT_EQ(Forma.Pto[1].X, 10.3);
+    EXPECT_EQ(session.TotalPtos, 3);
+    EXPECT_EQ(session.winoptions.Txt_zoom, "1500.5");
+    EXPECT_EQ(session.ZoomFactor, 1500.5);
+    EXPECT_EQ(session.Velmora.pic_BackColor, session.cl_fondo);
+    EXPECT_EQ(session.Velmora.lbl_xyfloat_ForeColor, session.cl_coords);
+    EXPECT_EQ(session.Velmora.Lst_Coords.size(), 3U);
+    EXPECT_EQ(platform.settings.get("RecentFiles", "RecentFile1"), platform.path("wing.dat"));
+}
+
+TEST(mnu_openfile, a_failed_load_leaves_the_selection_and_the_list) {
+    RecordingPlatform platform;
+    load_triangle(platform);
+    session.PtoSel = 2;
+    platform.dialogs.paths = {platform.write("bad.dat", sync_file({{"x", "0"}}, {}))};
+    mnu_openfile();
+    EXPECT_EQ(session.PtoSel, 2);
+    EXPECT_EQ(session.Velmora.Lst_Coords.size(), 3U);
+    EXPECT_EQ(platform.settings.get("RecentFiles", "RecentFile1"), platform.path("wing.dat"));
+}
+
+TEST(mnuRecentFile, opens_the_entry_with_all_defaults_and_moves_it_to_the_top) {
+    RecordingPlatform platform;
+    load_triangle(platform);
+    platform.dialogs.paths = {platform.write("tip.dat", triangle_file())};
+    mnu_openfile();
+    session.PtoSel = 2;
+    session.PutArc = session.PutCircle = 99;
+    session.Precision = 1;
+    session.ZoomFactor = 3;
+    mnuRecentFile(2);
+    EXPECT_EQ(session.FileName, platform.path("wing.dat"));
+    EXPECT_EQ(session.PtoSel, 2);
+    EXPECT_EQ(session.PutArc, session.Def_Arc);
+    EXPECT_EQ(session.PutCircle, session.Def_ACircle);
+    EXPECT_EQ(session.Precision, session.Def_Dec);
+    EXPECT_EQ(session.ZoomFactor, session.Def_Zoom);
+    EXPECT_EQ(session.winoptions.TxtPutArc, std::to_string(session.Def_Arc));
+    EXPECT_EQ(platform.settings.get("RecentFiles", "RecentFile1"), platform.path("wing.dat"));
+    EXPECT_EQ(platform.settings.get("RecentFiles", "RecentFile2"), platform.path("tip.dat"));
+    EXPECT_TRUE(platform.dialogs.open_calls.size() == 2U);
+}
+
+TEST(mnuRecentFile, a_path_that_is_gone_is_reported_and_stays_in_the_list) {
+    RecordingPlatform platform;
+    load_triangle(platform);
+    runtime::remove_file(platform.path("wing.dat"));
+    session.LoadOk = False;
+    mnuRecentFile(1);
+    ASSERT_EQ(platform.dialogs.boxes.size(), 2U);
+    EXPECT_NE(platform.dialogs.boxes[0].text.find("Error GetFileFormat  nº:53"), std::string::npos);
+    EXPECT_EQ(session.Velmora.TxtDat_File, platform.path("wing.dat"));
+    EXPECT_EQ(platform.settings.get("RecentFiles", "RecentFile1"), platform.path("wing.dat"));
+}
+
+} // namespace
+} // namespace velmora
