@@ -1,6 +1,7 @@
-// Texts of boxes that are put together from messages, paths and figures.
+// What boxes show: texts put together from messages and paths, and counts.
 #pragma once
 
+#include <cstdint>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -9,5 +10,8 @@ namespace velmora {
 
 /// The pieces with one blank between each two; an empty piece keeps its blank.
 [[nodiscard]] std::string joined_by_blanks(std::initializer_list<std::string_view> pieces);
+
+/// A count as its box shows it; no allocation, for use at every step.
+void show_count(std::string& box, std::int64_t count);
 
 } // namespace velmora

@@ -1,11 +1,11 @@
-#include "formats/fixed_record.h"
-#include "formats/reader_support.h"
 #include "formats/readers.h"
-#include "formats/sync_matcher.h"
 
 #include "document/feedback.h"
 #include "document/number_text.h"
 #include "document/session.h"
+#include "formats/fixed_record.h"
+#include "formats/reader_support.h"
+#include "formats/sync_matcher.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 

@@ -7,7 +7,6 @@
 #include "document/session.h"
 #include "formats/box_text.h"
 #include "formats/files.h"
-#include "formats/reader_support.h"
 #include "formats/readers.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
@@ -45,47 +44,6 @@ constexpr std::array<int, 6> kDialectTexts = {0,
                                               mensaje::format_noslw,
                                               mensaje::format_slwmd,
                                               mensaje::format_profili};
-
-bool holds(std::string_view text, std::string_view wanted) {
-    return text.find(wanted) != std::string_view::npos;
-}
-
-std::string next_line() {
-    return std::string(session.files.line_input(1));
-}
-
-FileFormat dialect_of(const std::string& line1, const std::string& line2,
-                      const std::string& line3) {
-    constexpr std::size_t record_text = 42;
-    if (line1.size() == line2.size() && line2.size() == line3.size() && line3.size() == record_text)
-        return FileFormat::SLWSINC;
-    if (line1.starts_with("SLW - "))
-        return FileFormat::SLWS;
-    if (line2.starts_with("SLATEWORKS"))
-        return FileFormat::SLWSINC;
-    if (holds(line1, "KORDLINE") || holds(line1, "MERIDOL"))
-        return FileFormat::SLWMD;
-    if (holds(line3, "Upper X"))
-        return FileFormat::PROFILI;
-    return FileFormat::NOSLW;
-}
-
-FileFormat read_dialect(std::string_view path) {
-    session.files.open_input(1, path);
-    const std::string line1 = next_line();
-    const std::string line2 = next_line();
-    const std::string line3 = next_line();
-    session.files.close(1);
-    return dialect_of(line1, line2, line3);
-}
-
-void report_undecided(std::string_view shown_path, const RuntimeError& failure) {
-    session.files.abandon(1);
-    MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), shown_path,
-                             GetMensaje(mensaje::too_few_lines),
-                             "Error GetFileFormat  nº:" + std::to_string(failure.number),
-                             "Desc: " + description_of(failure)}));
-}
 
 std::string ask_for_path() {
     if (session.LastDir.empty())
@@ -204,17 +162,6 @@ std::int32_t leftmost() {
 }
 
 } // namespace
-
-FileFormat GetFileFormat(std::string_view path) {
-    return GetFileFormat(path, path);
-}
-
-FileFormat GetFileFormat(std::string_view path, std::string_view shown_path) {
-    FileFormat format = FileFormat::undecided;
-    trap([&] { format = read_dialect(path); },
-         [&](const RuntimeError& failure) { report_undecided(shown_path, failure); });
-    return format;
-}
 
 void CargaFichero(std::int16_t mode, std::int16_t& result) {
     result = False;

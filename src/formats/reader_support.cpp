@@ -4,8 +4,7 @@
 #include "document/session.h"
 #include "platform/dialogs.h"
 
-#include <array>
-#include <charconv>
+#include <string>
 
 namespace velmora {
 
@@ -45,12 +44,6 @@ void drop_closing_point(Array<Pto>& points, std::int32_t& count) {
         return;
     points.redim_keep(points.upper() - 1);
     --count;
-}
-
-void show_count(std::string& box, std::int64_t count) {
-    std::array<char, 24> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), count).ptr;
-    box.assign(digits.data(), end);
 }
 
 void show_reader_error(const ReaderName& name, const RuntimeError& failure, std::int32_t lines) {

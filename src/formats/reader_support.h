@@ -3,10 +3,10 @@
 #pragma once
 
 #include "document/forma.h"
+#include "formats/box_text.h"
 #include "runtime/error.h"
 
 #include <cstdint>
-#include <string>
 #include <string_view>
 #include <utility>
 
@@ -33,9 +33,6 @@ std::string_view read_record(ReadCounts& counts);
 /// Cuts the last point off where it repeats the first exactly: the closing point is implied.
 /// Raises 9 without a point, and when the only point is compared with itself.
 void drop_closing_point(Array<Pto>& points, std::int32_t& count);
-
-/// A count as its box shows it; no allocation, for use at every step.
-void show_count(std::string& box, std::int64_t count);
 
 /// The error box of a reader: name, number, description, lines read so far.
 void show_reader_error(const ReaderName& name, const RuntimeError& failure, std::int32_t lines);

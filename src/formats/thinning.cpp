@@ -1,8 +1,8 @@
-#include "formats/reader_support.h"
 #include "formats/save.h"
 
 #include "document/feedback.h"
 #include "document/session.h"
+#include "formats/box_text.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 
