@@ -1,7 +1,9 @@
 #include "canvas/keys.h"
 
 #include "canvas/drawing.h"
+#include "canvas/pointer.h"
 #include "document/feedback.h"
+#include "document/handlers.h"
 #include "document/shown_counts.h"
 
 #include <gmock/gmock.h>
@@ -16,6 +18,7 @@ namespace {
 using test::Canvas;
 using test::set_shape;
 using testing::Contains;
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Value;
 
@@ -30,6 +33,13 @@ struct Keys : Canvas {
     }
     bool repainted() { return Value(operations(), Contains("cls")); }
 };
+
+std::vector<double> abscissas() {
+    std::vector<double> result;
+    for (const Pto& point : Forma.Pto.all())
+        result.push_back(point.X);
+    return result;
+}
 
 TEST(Keys, ArrowsNudgeByAHundredthOfTheExtent) {
     struct Case {
@@ -170,6 +180,58 @@ TEST(Esc, EndsTheInsertionOfANewShapeAtPoint0) {
     EXPECT_EQ(session.PtosToInsertMode, False);
     EXPECT_EQ(session.PtoSel, 0);
     EXPECT_EQ(Forma.Pto[0].X, 0);
+}
+
+TEST(Keys, DeleteAndInsertAreThePointCommands) {
+    Keys canvas;
+    pic_KeyDown(46, 0);
+    EXPECT_THAT(abscissas(), ElementsAre(0, 10, 10));
+    EXPECT_EQ(session.PtoSel, 1);
+    pic_KeyDown(45, 0);
+    EXPECT_THAT(abscissas(), ElementsAre(0, 5, 10, 10));
+    EXPECT_TRUE(canvas.repainted());
+}
+
+TEST(Keys, DeleteWithASelectionBeyondTheArrayStillShowsTheCommandsMessages) {
+    Keys canvas;
+    Forma.Pto.redim_keep(2);
+    session.PtoSel = 3;
+    pic_KeyDown(46, 0);
+    EXPECT_EQ(Forma.Pto.upper(), 2);
+    ASSERT_EQ(canvas.dialogs.boxes.size(), 1U);
+    EXPECT_EQ(canvas.dialogs.boxes[0].text, "No se pueden eliminar más puntos!");
+}
+
+TEST(Esc, PutsInsertedPointsBeforeTheOneThatWasSelected) {
+    Keys canvas;
+    Insert_N_Ptos();
+    EXPECT_EQ(session.PtosToInsertMode, True);
+    pic_MouseUp(1, 0, 205, 1970);
+    pic_MouseUp(1, 0, 210, 1970);
+    pic_KeyDown(27, 0);
+    EXPECT_THAT(abscissas(), ElementsAre(0, 10, 35, 36, 20, 10));
+    EXPECT_EQ(session.PtoSel, 1);
+    EXPECT_EQ(session.PtoSelAnt, -1);
+    EXPECT_EQ(session.PtosToInsertMode, False);
+}
+
+TEST(Esc, OfAnInsertionBeforeTheFirstPointSelectsTheLast) {
+    Keys canvas;
+    session.PtoSel = 0;
+    Insert_N_Ptos();
+    pic_MouseUp(1, 0, 205, 1970);
+    pic_KeyDown(27, 0);
+    EXPECT_THAT(abscissas(), ElementsAre(0, 10, 20, 10, 35));
+    EXPECT_EQ(session.PtoSel, 4);
+}
+
+TEST(Esc, WithoutAMarkedPointTakesTheLastForTheFirst) {
+    Keys canvas;
+    session.PtosToInsertMode = True;
+    session.PtoSelAnt = 2;
+    pic_KeyDown(27, 0);
+    EXPECT_THAT(abscissas(), ElementsAre(10, 0, 10, 20));
+    EXPECT_EQ(session.PtoSel, 1);
 }
 
 } // namespace
