@@ -1,39 +1,264 @@
 #include "ui/windows_host.h"
 
+#include "document/session.h"
+#include "ui/window_registry.h"
+#include "ui/windows_host_state.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QWindow>
+
 namespace velmora {
 
-struct WindowsHost::Private {};
-WindowsHost::WindowsHost() : d(std::make_unique<Private>()) {}
-WindowsHost::~WindowsHost() = default;
-void WindowsHost::start() {}
-QWidget* WindowsHost::window(std::string_view) const {
-    return nullptr;
+namespace {
+
+constexpr std::string_view kMain = "Velmora";
+
+/// Keeps a window in front of the one that it belongs to, without handing it over to that one.
+void attach(QWidget& widget, const QWidget* owner) {
+    if (owner == nullptr || owner == &widget || owner->windowHandle() == nullptr)
+        return;
+    (void)widget.winId(); // makes the native window
+    widget.windowHandle()->setTransientParent(owner->windowHandle());
 }
-QObject* WindowsHost::control(std::string_view, std::string_view) const {
-    return nullptr;
+
+Qt::CursorShape cursor_of(int pointer) {
+    switch (pointer) {
+    case 2:
+        return Qt::CrossCursor;
+    case 10:
+        return Qt::UpArrowCursor;
+    case 11:
+        return Qt::WaitCursor;
+    default:
+        return Qt::ArrowCursor;
+    }
 }
-bool WindowsHost::idle() const {
-    return true;
+
+} // namespace
+
+WindowsHost::WindowsHost() : d(std::make_unique<Private>(*this)) {
+    // Between the start window and the main one there is none.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
 }
-void WindowsHost::run(const std::function<void()>& handler) {
-    handler();
+
+WindowsHost::~WindowsHost() {
+    d->windows.clear();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
-void WindowsHost::activate(std::string_view) {}
-void WindowsHost::deactivate(std::string_view) {}
-void WindowsHost::refresh() {}
-void WindowsHost::show(std::string_view) {}
-void WindowsHost::show_modal(std::string_view) {}
-void WindowsHost::unload(std::string_view) {}
-void WindowsHost::minimize(std::string_view) {}
-void WindowsHost::set_focus(std::string_view, std::string_view) {}
-void WindowsHost::popup_menu(std::string_view) {}
-Form* WindowsHost::form(std::string_view) {
-    return nullptr;
+
+Window* WindowsHost::Private::find(std::string_view name) const {
+    const auto found = windows.find(name);
+    return found == windows.end() ? nullptr : found->second.get();
 }
-void WindowsHost::status_changed() {}
-void WindowsHost::pointer_changed() {}
-void WindowsHost::yield() {}
-void WindowsHost::wait(int) {}
-void WindowsHost::end_program() {}
+
+std::vector<QPointer<Window>> WindowsHost::Private::all() const {
+    std::vector<QPointer<Window>> result;
+    for (const auto& [name, window] : windows)
+        result.emplace_back(window.get());
+    return result;
+}
+
+Window& WindowsHost::Private::loaded(std::string_view name) {
+    if (Window* found = find(name))
+        return *found;
+    auto made = make_window(name, host);
+    if (made == nullptr)
+        raise(error::object_required);
+    Window& window = *made;
+    windows.emplace(name, std::move(made));
+    window.Load();
+    return window;
+}
+
+void WindowsHost::Private::present(Window& window) {
+    QWidget& widget = window.widget();
+    const bool appears = !widget.isVisible();
+    const QPointer<Window> alive(&window);
+    window.bindings().push();
+    presenting = true;
+    if (appears) {
+        if (window.name() != kMain)
+            attach(widget, active ? &active->widget() : host.window(kMain));
+        window.place();
+    }
+    if (widget.isMinimized())
+        widget.showNormal();
+    else
+        widget.show();
+    widget.raise();
+    widget.activateWindow();
+    presenting = false;
+    if (appears && host.events.opened)
+        host.events.opened(window.name());
+    if (alive)
+        set_active(&window);
+}
+
+void WindowsHost::Private::set_active(Window* window) {
+    const bool behind_modal =
+        window != nullptr && !modals.empty() && modals.back().window != window->name();
+    if (window == active || behind_modal)
+        return;
+    const QPointer<Window> before = active;
+    const QPointer<Window> now = window;
+    active = window;
+    if (before)
+        before->Deactivate();
+    if (now && active == now)
+        now->Activate();
+}
+
+void WindowsHost::start() {
+    run([this] { show("intro"); });
+}
+
+QWidget* WindowsHost::window(std::string_view name) const {
+    const Window* found = d->find(name);
+    return found == nullptr ? nullptr : &found->widget();
+}
+
+QObject* WindowsHost::control(std::string_view window, std::string_view name) const {
+    const Window* found = d->find(window);
+    return found == nullptr ? nullptr : found->control(name);
+}
+
+void WindowsHost::activate(std::string_view window) {
+    const QPointer<Window> found = d->find(window);
+    if (!found || found == d->active || d->presenting)
+        return;
+    run([&] { d->set_active(found); });
+}
+
+void WindowsHost::deactivate(std::string_view window) {
+    if (d->active && d->active == d->find(window))
+        run([&] { d->set_active(nullptr); });
+}
+
+void WindowsHost::close(std::string_view window) {
+    const std::string name(window);
+    run([&] {
+        if (Window* found = d->find(name))
+            found->QueryUnload();
+        unload(name);
+        if (d->windows.empty() || name == kMain)
+            end_program();
+    });
+}
+
+void WindowsHost::load(std::string_view window) {
+    (void)d->loaded(window);
+}
+
+void WindowsHost::show(std::string_view window) {
+    d->present(d->loaded(window));
+}
+
+void WindowsHost::show_modal(std::string_view window) {
+    const std::string name(window);
+    const QPointer<Window> before = d->active;
+    Window& shown = d->loaded(name);
+    shown.widget().setWindowModality(Qt::ApplicationModal);
+    QEventLoop loop;
+    d->modals.push_back({name, &loop, d->running});
+    try {
+        d->present(shown);
+        if (d->find(name) == &shown) {
+            refresh();
+            loop.exec(QEventLoop::DialogExec);
+        }
+    } catch (...) {
+        d->modals.pop_back();
+        throw;
+    }
+    d->modals.pop_back();
+    d->leave_if_ended();
+    if (before)
+        d->set_active(before);
+}
+
+void WindowsHost::Private::leave_modal(const std::string& window) {
+    for (const Modal& modal : modals)
+        if (modal.window == window)
+            modal.loop->quit();
+}
+
+void WindowsHost::unload(std::string_view window) {
+    const std::string name(window);
+    const QPointer<Window> leaving = d->find(name);
+    if (!leaving)
+        return;
+    leaving->Unload();
+    const auto found = d->windows.find(name);
+    if (found == d->windows.end())
+        return;
+    std::unique_ptr<Window> gone = std::move(found->second);
+    d->windows.erase(found);
+    if (d->active == gone.get())
+        d->active = nullptr;
+    const bool vanishes = gone->widget().isVisible();
+    gone->retire();
+    gone->widget().hide();
+    d->leave_modal(name);
+    if (vanishes && events.closed)
+        events.closed(name);
+    // The event that unloads a window often comes from one of its own controls.
+    gone.release()->deleteLater();
+}
+
+void WindowsHost::minimize(std::string_view window) {
+    if (QWidget* found = this->window(window))
+        found->showMinimized();
+}
+
+void WindowsHost::set_focus(std::string_view window, std::string_view control) {
+    Window* found = d->find(window);
+    if (found == nullptr)
+        return;
+    if (found != d->active) {
+        found->widget().activateWindow();
+        d->set_active(found);
+    }
+    if (auto* widget = qobject_cast<QWidget*>(found->control(control)))
+        widget->setFocus(Qt::OtherFocusReason);
+}
+
+void WindowsHost::popup_menu(std::string_view menu) {
+    d->popup = menu;
+}
+
+void WindowsHost::Private::show_popup() {
+    if (popup.empty())
+        return;
+    const QString name = QString::fromStdString(std::exchange(popup, {}));
+    const QWidget* main = host.window(kMain);
+    open_popup = main == nullptr ? nullptr : main->findChild<QMenu*>(name);
+    if (open_popup)
+        open_popup->popup(QCursor::pos());
+}
+
+Form* WindowsHost::form(std::string_view window) {
+    Window* found = d->find(window);
+    return found == nullptr ? nullptr : &found->form();
+}
+
+void WindowsHost::status_changed() {
+    if (events.status)
+        events.status(session.Velmora.StatusBar1);
+    for (const auto& [name, window] : d->windows)
+        window->status_changed();
+}
+
+void WindowsHost::pointer_changed() {
+    const int pointer = session.Velmora.MousePointer;
+    if (events.pointer)
+        events.pointer(pointer);
+    if (pointer == 0)
+        QGuiApplication::restoreOverrideCursor();
+    else if (QGuiApplication::overrideCursor() == nullptr)
+        QGuiApplication::setOverrideCursor(cursor_of(pointer));
+    else
+        QGuiApplication::changeOverrideCursor(cursor_of(pointer));
+}
 
 } // namespace velmora

@@ -22,7 +22,7 @@ struct WindowEvents {
     std::function<void(const std::string& window)> closed;
     std::function<void(const std::string& text)> status;
     std::function<void(int pointer)> pointer;
-    /// Without one, the report "Run-time error 'N':" is shown and the program ends with status 1.
+    /// Without one, the report "Run-time error 'N':" is shown. The program ends with status 1.
     std::function<void(const RuntimeError& failure)> fault;
     std::function<void()> ended;
 };
@@ -49,6 +49,10 @@ class WindowsHost : public QObject, public Windows {
     /// The window gets the activation from another window of the program, or loses it, as an event.
     void activate(std::string_view window);
     void deactivate(std::string_view window);
+    /// The close box of a window, as an event. The program ends with its last window.
+    void close(std::string_view window);
+    /// Loads a window without showing it. Part of a handler.
+    void load(std::string_view window);
     /// Shows the session's structs in all loaded windows; pulls what was typed into them first.
     void refresh();
 

@@ -1,21 +1,56 @@
 #include "adapters/qt/qt_platform.h"
 
-#include "cad/autocad.h"
-#include "canvas/surface.h"
+#include "adapters/qt/image_surface.h"
+#include "adapters/qt/no_cad.h"
+#include "adapters/qt/qt_dialogs.h"
+#include "adapters/qt/qt_settings.h"
+#include "adapters/qt/qt_shell.h"
+#include "adapters/sqlite/sqlite_database.h"
 #include "platform/clock.h"
-#include "platform/database.h"
-#include "platform/dialogs.h"
 #include "platform/machine.h"
-#include "platform/settings_store.h"
-#include "platform/shell.h"
+
+#include <QLocale>
 
 namespace velmora {
 
+namespace {
+
+class SteadyClock : public Clock {
+  public:
+    std::chrono::steady_clock::time_point now() override {
+        return std::chrono::steady_clock::now();
+    }
+};
+
+class QtMachine : public Machine {
+  public:
+    char decimal_separator() override {
+        return QLocale::system().decimalPoint() == "." ? '.' : ',';
+    }
+};
+
+template <class Service, class Make>
+void fill(std::unique_ptr<Service>& place, Make make) {
+    if (place == nullptr)
+        place = make();
+}
+
+} // namespace
+
 QtPlatform::QtPlatform() : windows(std::make_unique<WindowsHost>()) {}
+
 QtPlatform::~QtPlatform() = default;
-void QtPlatform::install() {}
-std::string find_program_folder() {
-    return {};
+
+void QtPlatform::install() {
+    fill(dialogs, make_qt_dialogs);
+    fill(shell, make_qt_shell);
+    fill(settings, make_qt_settings);
+    fill(database, make_sqlite_database);
+    fill(machine, [] { return std::make_unique<QtMachine>(); });
+    fill(clock, [] { return std::make_unique<SteadyClock>(); });
+    fill(pic, [] { return std::make_unique<ImageSurface>(); });
+    fill(cad, [] { return std::make_unique<NoAutocad>(); });
+    set_platform({*dialogs, *windows, *shell, *settings, *database, *clock, *machine, *pic, *cad});
 }
 
 } // namespace velmora

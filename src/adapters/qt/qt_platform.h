@@ -2,6 +2,7 @@
 // place before `install`, as the scenario driver does with what a person would answer.
 #pragma once
 
+#include "adapters/qt/program_folder.h"
 #include "platform/platform.h"
 #include "ui/windows_host.h"
 
@@ -25,14 +26,10 @@ struct QtPlatform {
     std::unique_ptr<Clock> clock;
     std::unique_ptr<Surface> pic;
     std::unique_ptr<Autocad> cad;
-    std::unique_ptr<WindowsHost> windows;
+    std::unique_ptr<WindowsHost> windows; ///< last: the windows go before what they show
 
     /// Sets the process's platform. Needs a QApplication.
     void install();
 };
-
-/// The program's folder: that of the executable when the language database lies there and can be
-/// written, else the user's data folder for the application, filled from there at the first start.
-[[nodiscard]] std::string find_program_folder();
 
 } // namespace velmora

@@ -1,0 +1,65 @@
+#include "adapters/qt/qt_shell.h"
+
+#include "adapters/qt/recycle_bin.h"
+#include "adapters/qt/sound.h"
+#include "runtime/paths.h"
+
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QUrl>
+
+namespace velmora {
+
+namespace {
+
+// Results of an opening; 33 and more is success.
+constexpr int kFileNotFound = 2;
+constexpr int kNoProgram = 31;
+constexpr int kStarted = 33;
+
+QString path_of(std::string_view path) {
+    return QString::fromStdString(runtime::path_text(runtime::native_path(path)));
+}
+
+/// "mailto:", "https:"; one letter before the colon is a drive.
+bool is_address(const QString& target) {
+    static const QRegularExpression scheme("^[A-Za-z][A-Za-z0-9+.-]+:");
+    return scheme.match(target).hasMatch();
+}
+
+class QtShell : public Shell {
+  public:
+    int open(std::string_view target) override {
+        const QString text =
+            QString::fromUtf8(target.data(), static_cast<qsizetype>(target.size()));
+        if (is_address(text))
+            return started(QUrl(text, QUrl::TolerantMode));
+        const QString path = path_of(target);
+        if (!QFileInfo::exists(path))
+            return kFileNotFound;
+        return started(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+    }
+
+    void play(std::string_view file) override {
+        if (runtime::file_exists(file))
+            sound_->play(path_of(file).toStdString());
+    }
+
+    bool recycle(std::string_view path) override { return recycle_file(path_of(path)); }
+
+  private:
+    static int started(const QUrl& url) {
+        return QDesktopServices::openUrl(url) ? kStarted : kNoProgram;
+    }
+
+    std::unique_ptr<SoundPlayer> sound_ = make_sound_player();
+};
+
+} // namespace
+
+std::unique_ptr<Shell> make_qt_shell() {
+    return std::make_unique<QtShell>();
+}
+
+} // namespace velmora

@@ -1,0 +1,75 @@
+#include "adapters/qt/sound.h"
+
+#include "runtime/paths.h"
+
+#if defined(VELMORA_CANBERRA)
+#include <canberra.h>
+#include <thread>
+#elif defined(_WIN32)
+#include <windows.h>
+
+#include <mmsystem.h>
+#endif
+
+namespace velmora {
+
+namespace {
+
+#if defined(VELMORA_CANBERRA)
+
+struct CloseContext {
+    void operator()(ca_context* context) const { ca_context_destroy(context); }
+};
+
+/// The sound server is looked for on a thread of its own: that can take its time.
+class DesktopSound : public SoundPlayer {
+  public:
+    void play(const std::string& file) override {
+        worker_ = std::jthread([this, file] {
+            if (context_ == nullptr)
+                open();
+            if (context_ != nullptr)
+                ca_context_play(context_.get(), kId, CA_PROP_MEDIA_FILENAME, file.c_str(),
+                                CA_PROP_APPLICATION_NAME, "Velmora", nullptr);
+        });
+    }
+
+  private:
+    static constexpr std::uint32_t kId = 1;
+
+    void open() {
+        ca_context* made = nullptr;
+        if (ca_context_create(&made) == CA_SUCCESS)
+            context_.reset(made);
+    }
+
+    std::unique_ptr<ca_context, CloseContext> context_;
+    std::jthread worker_; // one sound waits for the start of the one before
+};
+
+#elif defined(_WIN32)
+
+class DesktopSound : public SoundPlayer {
+  public:
+    void play(const std::string& file) override {
+        const auto path = runtime::native_path(file).wstring();
+        PlaySoundW(path.c_str(), nullptr, SND_FILENAME | SND_ASYNC | SND_NODEFAULT);
+    }
+};
+
+#else
+
+class DesktopSound : public SoundPlayer {
+  public:
+    void play(const std::string&) override {}
+};
+
+#endif
+
+} // namespace
+
+std::unique_ptr<SoundPlayer> make_sound_player() {
+    return std::make_unique<DesktopSound>();
+}
+
+} // namespace velmora

@@ -1,0 +1,134 @@
+// The dispatcher of WindowsHost: events to handlers, faults, yields, the end of the program.
+#include "document/feedback.h"
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+#include "ui/windows_host_state.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <new>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::chrono::milliseconds kYieldInterval(16);
+constexpr int kInternalError = 51;
+constexpr int kFaultStatus = 1;
+
+void report(const RuntimeError& failure) {
+    const std::string text =
+        "Run-time error '" + std::to_string(failure.number) + "':\n\n" + description_of(failure);
+    platform().dialogs.message(text, buttons::critical, "Velmora");
+}
+
+void exit_event_loops(int status) {
+    QCoreApplication::exit(status);
+    // Before the application's own loop runs, the exit above is lost.
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [status] { QCoreApplication::exit(status); },
+        Qt::QueuedConnection);
+}
+
+} // namespace
+
+void WindowsHost::run(const std::function<void()>& handler) {
+    if (d->ended)
+        return;
+    if (d->open_popup)
+        d->open_popup->close();
+    ++d->running;
+    d->pull();
+    try {
+        handler();
+    } catch (const EndOfProgram&) {
+        // The end was told where it was asked for.
+    } catch (const RuntimeError& failure) {
+        d->fail(failure);
+    } catch (const std::bad_alloc&) {
+        d->fail(RuntimeError(error::out_of_memory));
+    } catch (const std::exception& other) {
+        d->fail(RuntimeError(kInternalError, other.what()));
+    }
+    --d->running;
+    if (d->ending_depth > d->running)
+        d->finish(0);
+    if (d->ended)
+        return;
+    d->push();
+    d->show_popup();
+}
+
+bool WindowsHost::idle() const {
+    return d->running == (d->modals.empty() ? 0 : d->modals.back().depth);
+}
+
+void WindowsHost::refresh() {
+    d->pull();
+    d->push();
+}
+
+void WindowsHost::yield() {
+    const auto now = platform().clock.now();
+    if (now - d->last_yield < kYieldInterval)
+        return;
+    refresh();
+    QCoreApplication::processEvents();
+    d->last_yield = platform().clock.now();
+    d->leave_if_ended();
+}
+
+void WindowsHost::wait(int milliseconds) {
+    refresh();
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+    d->leave_if_ended();
+}
+
+void WindowsHost::end_program() {
+    if (d->running == 0)
+        return d->finish(0);
+    if (d->ending_depth == 0)
+        d->ending_depth = d->running;
+}
+
+void WindowsHost::Private::pull() const {
+    for (const auto& window : all())
+        if (window)
+            window->bindings().pull();
+}
+
+void WindowsHost::Private::push() const {
+    for (const auto& window : all())
+        if (window)
+            window->bindings().push();
+}
+
+void WindowsHost::Private::fail(const RuntimeError& failure) {
+    if (ended)
+        return;
+    if (host.events.fault)
+        host.events.fault(failure);
+    else
+        report(failure);
+    finish(kFaultStatus);
+}
+
+void WindowsHost::Private::finish(int status) {
+    if (ended)
+        return;
+    ended = true;
+    ending_depth = 0;
+    if (status == 0 && host.events.ended)
+        host.events.ended();
+    exit_event_loops(status);
+}
+
+void WindowsHost::Private::leave_if_ended() const {
+    if (ended)
+        throw EndOfProgram{};
+}
+
+} // namespace velmora

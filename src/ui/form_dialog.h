@@ -1,0 +1,20 @@
+// The widget of a window that is no main window: Enter works the button that has the focus and no
+// other, Esc is the close box.
+#pragma once
+
+#include <QDialog>
+
+namespace velmora {
+
+class FormDialog : public QDialog {
+    Q_OBJECT
+  public:
+    FormDialog();
+    /// The host unloads the window; it decides whether the dialog goes.
+    void reject() override;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+} // namespace velmora

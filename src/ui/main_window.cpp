@@ -1,0 +1,131 @@
+#include "ui/main_window.h"
+
+#include "document/coord_list.h"
+#include "document/session.h"
+#include "services/application.h"
+#include "ui/icons.h"
+#include "ui/windows_host.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QTimer>
+
+namespace velmora {
+
+namespace {
+
+constexpr QSize kSizeAtStart(1180, 780);
+constexpr int kListShare = 280; // of the width at start
+constexpr int kTimerInterval = 10;
+
+/// A control that has nothing to show.
+void add_part(QObject* part, const char* name) {
+    part->setObjectName(name);
+}
+
+} // namespace
+
+MainWindow::MainWindow(WindowsHost& windows)
+    : FormWindow(windows), window_(static_cast<QMainWindow&>(widget())),
+      commands_(window_, [this](void (*handler)()) { host().run(handler); }),
+      status_(*new ElidedLabel(ui.StatusBar1)), pbar1_(*new QProgressBar(ui.StatusBar1)),
+      pbar2_(*new QProgressBar(ui.StatusBar1)), canvas_(*ui.pic, *ui.lbl_xyfloat, *ui.SSScroll) {
+    window_.setWindowIcon(app_icon());
+    commands_.add_menus();
+    commands_.add_bars(*ui.bands);
+    ui.bands->addStretch(1);
+    ui.split->setStretchFactor(1, 1);
+    ui.split->setSizes({kListShare, kSizeAtStart.width() - kListShare});
+    ui.Lst_Coords->show_rows_of(session.Velmora);
+    add_parts_without_a_look();
+    add_status_bar();
+    bind();
+    wire();
+    list_in_form_order();
+}
+
+void MainWindow::add_parts_without_a_look() {
+    auto* timer = new QTimer(&window_); // stands idle, on purpose
+    timer->setInterval(kTimerInterval);
+    add_part(timer, "Timer1");
+    add_part(new QObject(&window_), "CommonDialog1");
+    add_part(new QObject(&window_), "ImageList2");
+}
+
+void MainWindow::add_status_bar() {
+    ui.StatusBar1->addWidget(&status_, 1);
+    for (auto [bar, name] : {std::pair(&pbar1_, "Pbar1"), std::pair(&pbar2_, "pbar2")}) {
+        bar->setObjectName(name);
+        bar->setTextVisible(false);
+        bar->setFixedWidth(bar->fontMetrics().horizontalAdvance('0') * 16);
+        bar->setMaximumHeight(bar->fontMetrics().height());
+        ui.StatusBar1->addPermanentWidget(bar);
+    }
+}
+
+void MainWindow::bind() {
+    VelmoraWindow& state = session.Velmora;
+    bindings().title(window_, state.Caption);
+    bindings().text(*ui.TxtDat_File, state.TxtDat_File);
+    bindings().text(*ui.TxtDescDat, state.TxtDescDat);
+    bindings().label(status_, state.StatusBar1);
+    bindings().progress(pbar1_, state.Pbar1);
+    bindings().progress(pbar2_, state.pbar2);
+    bindings().each_push([this, &state] { commands_.show(state); });
+    bindings().shows<std::uint64_t>([&state] { return state.Lst_Coords_fill; },
+                                    [this](std::uint64_t) { ui.Lst_Coords->start_over(); });
+    canvas_.bind(bindings(), state);
+}
+
+void MainWindow::wire() {
+    canvas_.wire([this](const Handler& handler) { host().run(handler); });
+    connect(ui.Lst_Coords, &CoordList::row_clicked, this, [this](const QString& row) {
+        host().run([text = row.toStdString()] { Lst_Coords_Click(text); });
+    });
+}
+
+void MainWindow::list_in_form_order() {
+    std::vector<std::string> names = {"pic",        "lbl_xyfloat", "Lst_Coords",
+                                      "TxtDescDat", "TxtDat_File", "Timer1"};
+    names.insert(names.end(), commands_.menu_controls().begin(), commands_.menu_controls().end());
+    for (const char* name : {"SSPanel1", "SSScroll", "CoolBar1", "TBar4", "TBar3", "TBar2",
+                             "CommonDialog1", "StatusBar1", "Pbar1", "pbar2", "ImageList2"})
+        names.emplace_back(name);
+    list_controls(names);
+}
+
+void MainWindow::Load() {
+    Velmora_Load();
+}
+
+void MainWindow::Activate() {
+    Velmora_Activate();
+}
+
+void MainWindow::QueryUnload() {
+    Velmora_QueryUnload();
+}
+
+void MainWindow::place() {
+    const QRect screen = window_.screen()->availableGeometry();
+    window_.resize(kSizeAtStart.boundedTo(screen.size()));
+    QRect frame = window_.frameGeometry();
+    frame.moveCenter(screen.center());
+    window_.move(frame.topLeft());
+}
+
+void MainWindow::status_changed() {
+    status_.setText(QString::fromStdString(session.Velmora.StatusBar1));
+    if (status_.isVisible())
+        status_.repaint();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &window_ && event->type() == QEvent::PaletteChange)
+        commands_.draw_icons();
+    if (watched == &window_ && event->type() == QEvent::WindowStateChange)
+        session.Velmora.minimized = window_.isMinimized();
+    return Window::eventFilter(watched, event);
+}
+
+} // namespace velmora

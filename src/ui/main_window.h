@@ -1,0 +1,43 @@
+// The main window `Velmora`: menus and tool bars over the coordinate list and the canvas.
+#pragma once
+
+#include "ui/canvas_view.h"
+#include "ui/command_actions.h"
+#include "ui/elided_label.h"
+#include "ui/window.h"
+
+#include <QMainWindow>
+#include <QProgressBar>
+#include <ui_velmora.h>
+
+namespace velmora {
+
+class MainWindow : public FormWindow<Ui::Velmora, QMainWindow> {
+  public:
+    explicit MainWindow(WindowsHost& windows);
+
+    void Load() override;
+    void Activate() override;
+    void QueryUnload() override;
+    void place() override;
+    void status_changed() override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void add_parts_without_a_look();
+    void add_status_bar();
+    void bind();
+    void wire();
+    void list_in_form_order();
+
+    QMainWindow& window_;
+    CommandActions commands_;
+    ElidedLabel& status_;
+    QProgressBar& pbar1_;
+    QProgressBar& pbar2_;
+    CanvasView canvas_;
+};
+
+} // namespace velmora

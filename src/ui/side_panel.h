@@ -1,0 +1,49 @@
+// What the two floating windows share: they roll up, and follow the main window.
+#pragma once
+
+#include "ui/roll_up.h"
+#include "ui/window.h"
+#include "ui/windows_host.h"
+
+#include <QEvent>
+
+namespace velmora {
+
+template <class Ui>
+class SidePanel : public FormWindow<Ui, QWidget> {
+  public:
+    void place() override { keep_to_main(); }
+
+  protected:
+    /// `row` is the window's place below the main window's top, in twips.
+    SidePanel(WindowsHost& windows, int row)
+        : FormWindow<Ui, QWidget>(windows), roll_up_(this->widget(), *this->ui.content), row_(row) {
+        this->widget().setWindowFlags(Qt::Tool);
+        if (QWidget* main = windows.window("Velmora"))
+            main->installEventFilter(this);
+    }
+
+    void bind_height(std::function<int()> height, const bool& rolled_up) {
+        this->bindings().template shows<int>(std::move(height), [this, &rolled_up](int twips) {
+            roll_up_.set_height(twips, rolled_up);
+        });
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched != &this->widget() && event->type() == QEvent::Resize)
+            keep_to_main();
+        return Window::eventFilter(watched, event);
+    }
+
+  private:
+    void keep_to_main() {
+        const QWidget* main = this->host().window("Velmora");
+        if (main != nullptr && !main->isMinimized())
+            roll_up_.keep_to(*main, row_);
+    }
+
+    RollUp roll_up_;
+    int row_;
+};
+
+} // namespace velmora

@@ -1,0 +1,89 @@
+#include "ui/window.h"
+
+#include "ui/controls.h"
+#include "ui/key_filter.h"
+#include "ui/windows_host.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEvent>
+#include <QLineEdit>
+#include <QScreen>
+
+namespace velmora {
+
+Window::Window(WindowsHost& host, std::unique_ptr<QWidget> widget)
+    : host_(host), widget_(std::move(widget)), form_(*widget_, [this] { bindings_.pull(); }) {
+    widget_->installEventFilter(this);
+}
+
+Window::~Window() = default;
+
+std::string Window::name() const {
+    return widget_->objectName().toStdString();
+}
+
+QObject* Window::control(std::string_view name) const {
+    return find_control(*widget_, name);
+}
+
+void Window::place() {
+    const QWidget* before = QApplication::activeWindow();
+    widget_->adjustSize();
+    QRect frame = widget_->frameGeometry();
+    frame.moveCenter(before != nullptr ? before->frameGeometry().center()
+                                       : widget_->screen()->availableGeometry().center());
+    widget_->move(frame.topLeft());
+}
+
+void Window::retire() {
+    widget_->removeEventFilter(this);
+    for (QObject* child : widget_->findChildren<QObject*>())
+        child->disconnect(this);
+}
+
+void Window::list_controls(const std::vector<std::string>& names) {
+    std::vector<QObject*> controls;
+    for (const std::string& name : names) {
+        QObject* found = control(name);
+        Q_ASSERT_X(found != nullptr, "list_controls", name.c_str());
+        controls.push_back(found);
+    }
+    form_.list(controls);
+}
+
+void Window::on_click(QAbstractButton& button, Handler handler) {
+    connect(&button, &QAbstractButton::clicked, this,
+            [this, handler = std::move(handler)] { host_.run(handler); });
+}
+
+void Window::on_change(QLineEdit& box, Handler handler) {
+    connect(&box, &QLineEdit::textChanged, this,
+            [this, handler = std::move(handler)] { host_.run(handler); });
+}
+
+void Window::on_key_press(QLineEdit& box, std::function<int(int)> handler) {
+    new KeyFilter(box, [this, handler = std::move(handler)](int typed) {
+        int taken = 0;
+        host_.run([&] { taken = handler(typed); });
+        return taken;
+    });
+}
+
+void Window::on_lost_focus(QLineEdit& box, Handler handler) {
+    new LostFocusFilter(box, [this, handler = std::move(handler)] { host_.run(handler); });
+}
+
+bool Window::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != widget_.get())
+        return false;
+    if (event->type() == QEvent::WindowActivate)
+        host_.activate(name());
+    if (event->type() != QEvent::Close)
+        return false;
+    event->ignore();
+    host_.close(name());
+    return true;
+}
+
+} // namespace velmora

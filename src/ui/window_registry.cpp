@@ -1,0 +1,48 @@
+#include "ui/window_registry.h"
+
+#include "ui/info_panel.h"
+#include "ui/intro_screen.h"
+#include "ui/main_window.h"
+#include "ui/options_panel.h"
+#include "ui/scale_xy_dialog.h"
+
+#include <algorithm>
+#include <array>
+
+namespace velmora {
+
+namespace {
+
+struct Row {
+    std::string_view name;
+    std::unique_ptr<Window> (*make)(WindowsHost&);
+};
+
+template <class Made>
+std::unique_ptr<Window> make(WindowsHost& host) {
+    return std::make_unique<Made>(host);
+}
+
+constexpr auto kWindows = std::to_array<Row>({
+    {"intro", make<IntroScreen>},
+    {"Velmora", make<MainWindow>},
+    {"wininfo", make<InfoPanel>},
+    {"winoptions", make<OptionsPanel>},
+    {"Scale_xy", make<ScaleXyDialog>},
+});
+
+} // namespace
+
+std::unique_ptr<Window> make_window(std::string_view name, WindowsHost& host) {
+    const auto found = std::ranges::find(kWindows, name, &Row::name);
+    return found == kWindows.end() ? nullptr : found->make(host);
+}
+
+std::vector<std::string_view> window_names() {
+    std::vector<std::string_view> names;
+    for (const Row& row : kWindows)
+        names.push_back(row.name);
+    return names;
+}
+
+} // namespace velmora
