@@ -5,6 +5,7 @@
 #include "runtime/error.h"
 #include "runtime/paths.h"
 #include "services/messages.h"
+#include "support/places.h"
 
 #include <atomic>
 #include <fstream>
@@ -212,7 +213,7 @@ RecordingPlatform::RecordingPlatform(bool without_database) {
     set_platform({dialogs, windows, shell, settings, *database, clock, machine, pic, cad});
     session.program_folder = runtime::path_text(folder);
     if (!without_database) {
-        std::filesystem::copy_file(VELMORA_TEST_DATABASE, folder / "VELMORA.MDB");
+        std::filesystem::copy_file(built_database(), folder / "VELMORA.MDB");
         database->open(program_file("\\VELMORA.MDB"));
         session.language_database_open = true;
     }

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "support/error_number.h"
+#include "support/places.h"
 #include "support/recording_platform.h"
 
 #include <fstream>
@@ -19,7 +20,7 @@ struct SqliteDatabaseTest : testing::Test {
     std::string file = machine.path("own.mdb");
 
     SqliteDatabaseTest() {
-        std::filesystem::copy_file(VELMORA_TEST_DATABASE, machine.folder / "own.mdb");
+        std::filesystem::copy_file(test::built_database(), machine.folder / "own.mdb");
         database->open(file);
     }
     std::unique_ptr<Recordset> table(std::string_view name, Access access = Access::read_write) {
@@ -63,7 +64,7 @@ TEST_F(SqliteDatabaseTest, a_file_locked_by_another_program_raises_3008) {
 
 TEST_F(SqliteDatabaseTest, either_separator_leads_to_the_file) {
     std::filesystem::create_directory(machine.folder / "ñandú");
-    std::filesystem::copy_file(VELMORA_TEST_DATABASE, machine.folder / "ñandú" / "V.MDB");
+    std::filesystem::copy_file(test::built_database(), machine.folder / "ñandú" / "V.MDB");
     database->open(machine.path("") + "ñandú\\V.MDB");
     EXPECT_TRUE(database->is_open());
 }
