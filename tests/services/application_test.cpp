@@ -6,6 +6,7 @@
 #include "services/fake_form.h"
 #include "services/messages.h"
 #include "support/error_number.h"
+#include "support/places.h"
 #include "support/recording_platform.h"
 
 #include <gmock/gmock.h>
@@ -21,7 +22,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 void put_database(const RecordingPlatform& machine) {
-    std::filesystem::copy_file(VELMORA_TEST_DATABASE, machine.folder / "VELMORA.MDB",
+    std::filesystem::copy_file(test::built_database(), machine.folder / "VELMORA.MDB",
                                std::filesystem::copy_options::overwrite_existing);
 }
 
