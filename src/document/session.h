@@ -102,6 +102,8 @@ struct Session {
     DelNptoWindow del_Npto;
     MultPtosWindow Mult_Ptos;
     CompensaWindow Compensa;
+    SetupWindow setup;
+    AcercaWindow acerca;
 };
 
 extern Session session;

@@ -1,0 +1,196 @@
+#include "services/setup.h"
+
+#include "document/number_text.h"
+#include "document/options.h"
+#include "document/session.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+#include "platform/windows.h"
+#include "runtime/numbers.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+#include "services/numeric_box.h"
+#include "services/settings.h"
+#include "services/window_literals.h"
+
+#include <algorithm>
+#include <array>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::string_view kWindow = "setup";
+constexpr int kColoursTab = 1;
+constexpr double kSmallestCount = 3;
+
+struct ColourLabel {
+    std::string_view name;
+    std::uint32_t SetupWindow::*label;
+    std::uint32_t Session::*colour;
+};
+
+constexpr auto kColourLabels = std::to_array<ColourLabel>({
+    {"lblcolor_fondo", &SetupWindow::lblcolor_fondo, &Session::cl_fondo},
+    {"lblcolor_ejes", &SetupWindow::lblcolor_ejes, &Session::cl_ejes},
+    {"lblcolor_lineas", &SetupWindow::lblcolor_lineas, &Session::cl_lineas},
+    {"lblcolor_lineaini", &SetupWindow::lblcolor_lineaini, &Session::cl_linea1},
+    {"lblcolor_lineados", &SetupWindow::lblcolor_lineados, &Session::cl_linea2},
+    {"lblcolor_ptos", &SetupWindow::lblcolor_ptos, &Session::cl_punto},
+    {"lblcolor_ptosinc", &SetupWindow::lblcolor_ptosinc, &Session::cl_puntosinc},
+    {"lblcolor_ptosel", &SetupWindow::lblcolor_ptosel, &Session::cl_puntosel},
+    {"lblcolor_coords", &SetupWindow::lblcolor_coords, &Session::cl_coords},
+});
+
+constexpr auto kLanguageNames =
+    std::to_array<std::string_view>({"Español", "English", "Français", "Portugues", "Italiano"});
+constexpr std::string_view kLanguageCodes = "EIFPT";
+
+std::string_view name_of_language(std::string_view code) {
+    const std::size_t at = code.size() == 1 ? kLanguageCodes.find(code) : std::string_view::npos;
+    return kLanguageNames[at == std::string_view::npos ? 0 : at];
+}
+
+std::string code_of_language(std::string_view name) {
+    const auto found = std::ranges::find(kLanguageNames, name);
+    const auto at = found == kLanguageNames.end() ? 0 : found - kLanguageNames.begin();
+    return std::string(1, kLanguageCodes[static_cast<std::size_t>(at)]);
+}
+
+void draw_preview() {
+    ++session.setup.Test_Pic_draws;
+}
+
+NumericBox arc_box() {
+    return {.window = kWindow,
+            .control = "Txt_Def_Arc_Val",
+            .text = session.setup.Txt_Def_Arc_Val,
+            .reset_text = "3"};
+}
+
+NumericBox circle_box() {
+    return {.window = kWindow,
+            .control = "Txt_Def_Circle_Val",
+            .text = session.setup.Txt_Def_Circle_Val,
+            .reset_text = "4"};
+}
+
+void refuse_below_3(const NumericBox& box, int codigo) {
+    if (runtime::Val(box.text) >= kSmallestCount)
+        return;
+    MuestraMensaje(codigo);
+    reset_box(box);
+}
+
+std::int32_t whole_number(std::string_view text) {
+    return runtime::CLng(text, session.SepDecimal);
+}
+
+void take_boxes() {
+    session.Def_Dec = whole_number(session.setup.Txt_Def_Dec_Val);
+    session.Def_Arc = whole_number(session.setup.Txt_Def_Arc_Val);
+    session.Def_ACircle = whole_number(session.setup.Txt_Def_Circle_Val);
+    session.Def_Zoom = CDbl(session.setup.Txt_Def_zoom_Val);
+}
+
+void take_language() {
+    const std::string code = code_of_language(session.setup.Cmb_Lang);
+    if (code == session.Idioma)
+        return;
+    MuestraMensaje(mensaje::language_next_start);
+    session.Idioma = code;
+}
+
+// Precision before its box: a box that takes another text rounds the shape, and to the new value.
+void take_working_copies() {
+    session.ZoomFactor = session.Def_Zoom;
+    session.winoptions.Txt_zoom = CStr(session.Def_Zoom);
+    session.Precision = session.Def_Dec;
+    set_TxtPrecision(CStr(session.Def_Dec));
+    session.PutArc = session.Def_Arc;
+    session.winoptions.TxtPutArc = CStr(session.Def_Arc);
+    session.PutCircle = session.Def_ACircle;
+    session.winoptions.TxtPutCircle = CStr(session.Def_ACircle);
+}
+
+} // namespace
+
+std::span<const std::string_view> setup_languages() {
+    return kLanguageNames;
+}
+
+void setup_Load() {
+    load_literals(kWindow);
+}
+
+void setup_Activate() {
+    SetupWindow& window = session.setup;
+    for (const ColourLabel& entry : kColourLabels)
+        window.*entry.label = session.*entry.colour;
+    window.Txt_Def_Dec_Val = CStr(session.Def_Dec);
+    window.Txt_Def_Arc_Val = CStr(session.Def_Arc);
+    window.Txt_Def_Circle_Val = CStr(session.Def_ACircle);
+    window.Txt_Def_zoom_Val = CStr(session.Def_Zoom);
+    window.Cmb_Lang = name_of_language(session.Idioma);
+    window.APP_Sound = session.Sound == 1;
+    window.Idioma = session.Idioma.substr(0, 1);
+    draw_preview();
+}
+
+void lblcolor_Click(std::string_view label) {
+    const auto entry = std::ranges::find(kColourLabels, label, &ColourLabel::name);
+    if (entry == kColourLabels.end())
+        return;
+    const auto chosen = platform().dialogs.choose_colour(session.*entry->colour);
+    if (!chosen)
+        return;
+    session.*entry->colour = *chosen;
+    session.setup.*entry->label = *chosen;
+    draw_preview();
+}
+
+void setup_SSTab1_Click(int tab) {
+    if (tab == kColoursTab)
+        draw_preview();
+}
+
+int Txt_Def_Arc_Val_KeyPress(int key) {
+    return numeric_key(arc_box(), key);
+}
+
+int Txt_Def_Circle_Val_KeyPress(int key) {
+    return numeric_key(circle_box(), key);
+}
+
+int Txt_Def_Dec_Val_KeyPress(int key) {
+    return numeric_key({kWindow, "Txt_Def_Dec_Val", session.setup.Txt_Def_Dec_Val}, key);
+}
+
+int Txt_Def_zoom_Val_KeyPress(int key) {
+    return numeric_key({kWindow, "Txt_Def_zoom_Val", session.setup.Txt_Def_zoom_Val}, key);
+}
+
+void Txt_Def_Arc_Val_LostFocus() {
+    refuse_below_3(arc_box(), mensaje::arc_minimum);
+}
+
+void Txt_Def_Circle_Val_LostFocus() {
+    refuse_below_3(circle_box(), mensaje::circle_minimum);
+}
+
+void setup_cmd_ok_Click() {
+    take_boxes();
+    take_language();
+    session.Sound = session.setup.APP_Sound ? 1 : 0;
+    GuardaSettings();
+    take_working_copies();
+    session.Velmora.pic_BackColor = session.cl_fondo;
+    session.Velmora.lbl_xyfloat_ForeColor = session.cl_coords;
+    platform().windows.unload(kWindow);
+}
+
+void setup_cmd_cancel_Click() {
+    platform().windows.unload(kWindow);
+}
+
+} // namespace velmora
