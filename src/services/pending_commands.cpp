@@ -34,16 +34,7 @@ void menu_select_orig() {
 void mnu_SendToCad() {
     not_available();
 }
-void mnu_contenido() {
-    not_available();
-}
 void mnu_Shortkeys() {
-    not_available();
-}
-void mnu_mail() {
-    not_available();
-}
-void mnu_web() {
     not_available();
 }
 void mnu_about() {
