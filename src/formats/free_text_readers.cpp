@@ -1,13 +1,151 @@
 #include "formats/readers.h"
 
+#include "document/feedback.h"
+#include "document/session.h"
+#include "formats/coordinate_limit.h"
+#include "formats/point_lines.h"
+#include "formats/reader_support.h"
+#include "formats/slwmd.h"
+#include "formats/sync_matcher.h"
+#include "runtime/text.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
 namespace velmora {
-std::int16_t CargaSLWMD(std::string_view) {
-    return 0;
+
+namespace {
+
+/// The closing test of the readers that pass over it when there is no point.
+void drop_closing_point_if_any(ReadCounts& counts) {
+    if (counts.points > 0)
+        drop_closing_point(Forma.Pto, counts.points);
 }
-std::int16_t CargaNOSLW(std::string_view) {
-    return 0;
+
+void mark_slwmd_sync_points(ReadCounts& counts) {
+    std::optional<SyncMatcher> matcher;
+    read_slwmd_sync_points(counts, [&](double X, double Y) {
+        if (!matcher)
+            matcher.emplace(Forma.Pto);
+        matcher->mark(X, Y);
+    });
 }
-std::int16_t CargaPROFILI(std::string_view) {
-    return 0;
+
+/// TotalPtos, TotalSinc and their boxes keep what they were; the closing point goes, but stays in
+/// the count.
+Pass read_slwmd(std::string_view path, ReadCounts& counts, CoordinateLimit& limit) {
+    session.files.open_input(1, path);
+    session.Velmora.TxtDescDat = runtime::from_1252(read_line(counts));
+    read_line(counts);
+    if (!read_slwmd_outline(Forma.Pto, counts, limit))
+        return Pass::over_limit;
+    session.UltimoPto = counts.points - 1;
+    drop_closing_point(Forma.Pto, counts.points);
+    mark_slwmd_sync_points(counts);
+    session.files.close(1);
+    return Pass::complete;
 }
+
+Pass read_noslw(std::string_view path, ReadCounts& counts, CoordinateLimit& limit) {
+    std::string room;
+    session.files.open_input(1, path);
+    Forma.Pto.redim(0);
+    while (!session.files.eof(1)) {
+        const auto text = point_of_line(read_line(counts), room);
+        if (text && !take_point(*text, Forma.Pto, counts.points, limit))
+            return Pass::over_limit;
+        DoEvents();
+    }
+    drop_closing_point_if_any(counts);
+    leave_totals(counts.points);
+    session.files.close(1);
+    return Pass::complete;
+}
+
+/// The surfaces of a PROFILI file: the upper one goes to Forma at once, the lower one waits.
+class ProfiliSurfaces {
+  public:
+    ProfiliSurfaces(ReadCounts& counts, CoordinateLimit& limit) : counts_(counts), limit_(limit) {
+        Forma.Pto.redim(0);
+        lower_.redim(0);
+    }
+
+    [[nodiscard]] bool take_line(std::string_view line) {
+        if (!in_lower_ && line.find("ower X") != std::string_view::npos) {
+            in_lower_ = true;
+            return true;
+        }
+        const auto text = point_of_line(line, room_);
+        if (!text)
+            return true;
+        return in_lower_ ? take_point(*text, lower_, lower_count_, limit_)
+                         : take_point(*text, Forma.Pto, counts_.points, limit_);
+    }
+
+    /// Backwards and without its ends, which are the edges that the upper surface has already.
+    void append_lower() {
+        for (std::int32_t i = lower_.upper() - 1; i >= 1; --i) {
+            Forma.Pto.redim_keep(counts_.points);
+            Forma.Pto[counts_.points] = lower_[i];
+            ++counts_.points;
+        }
+    }
+
+  private:
+    ReadCounts& counts_;
+    CoordinateLimit& limit_;
+    Array<Pto> lower_;
+    std::int32_t lower_count_ = 0;
+    bool in_lower_ = false;
+    std::string room_;
+};
+
+Pass read_profili(std::string_view path, ReadCounts& counts, CoordinateLimit& limit) {
+    constexpr int header_lines = 3;
+    session.files.open_input(1, path);
+    for (int line = 0; line < header_lines; ++line)
+        read_line(counts);
+    ProfiliSurfaces surfaces(counts, limit);
+    while (!session.files.eof(1)) {
+        if (!surfaces.take_line(read_line(counts)))
+            return Pass::over_limit;
+        DoEvents();
+    }
+    surfaces.append_lower();
+    session.files.close(1);
+    drop_closing_point_if_any(counts);
+    leave_totals(counts.points);
+    return Pass::complete;
+}
+
+} // namespace
+
+std::int16_t CargaSLWMD(std::string_view path) {
+    ReadCounts counts;
+    return read_refusing({"CargaSLWMD"}, counts, [&] {
+        return read_within_limit(path, Forma.Pto, counts, [&](CoordinateLimit& limit) {
+            return read_slwmd(path, counts, limit);
+        });
+    });
+}
+
+std::int16_t CargaNOSLW(std::string_view path) {
+    ReadCounts counts;
+    return read_asking({"CargaNOSLW"}, counts, [&] {
+        return read_within_limit(path, Forma.Pto, counts, [&](CoordinateLimit& limit) {
+            return read_noslw(path, counts, limit);
+        });
+    });
+}
+
+std::int16_t CargaPROFILI(std::string_view path) {
+    ReadCounts counts;
+    return read_asking({"CargaPROFILI"}, counts, [&] {
+        return read_within_limit(path, Forma.Pto, counts, [&](CoordinateLimit& limit) {
+            return read_profili(path, counts, limit);
+        });
+    });
+}
+
 } // namespace velmora

@@ -1,0 +1,41 @@
+#include "formats/point_lines.h"
+
+#include "document/number_text.h"
+#include "document/separator.h"
+#include "document/session.h"
+#include "runtime/text.h"
+
+namespace velmora {
+
+bool begins_like_number(std::string_view text) {
+    return !text.empty() && (text[0] == '-' || (text[0] >= '0' && text[0] <= '9'));
+}
+
+std::optional<PointText> point_of_line(std::string_view line, std::string& room) {
+    const std::string_view trimmed = runtime::Trim(line);
+    const std::size_t blank = trimmed.find(' ');
+    if (blank == std::string_view::npos || !begins_like_number(trimmed))
+        return std::nullopt;
+    const std::string_view numbers = to_machine_separator(trimmed, room);
+    return PointText{numbers.substr(0, blank), runtime::Trim(numbers.substr(blank))};
+}
+
+bool take_point(const PointText& text, Array<Pto>& points, std::int32_t& count,
+                CoordinateLimit& limit) {
+    points.redim_keep(count);
+    Pto& point = points[count];
+    point.X = CDbl(text.X) / session.EscalaCarga;
+    point.Y = CDbl(text.Y) / session.EscalaCarga;
+    if (!limit.admits(point))
+        return false;
+    ++count;
+    return true;
+}
+
+void leave_totals(std::int32_t count) {
+    session.UltimoPto = session.TotalPtos = count - 1;
+    show_count(session.wininfo.TxtTotalPtos, session.TotalPtos);
+    show_count(session.wininfo.TxtTotalCtrlPtos, 0);
+}
+
+} // namespace velmora
