@@ -1,5 +1,7 @@
 #include "windows/windows_test.h"
 
+#include "support/places.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
@@ -22,7 +24,7 @@ WindowsTest::WindowsTest() : platform_(std::make_unique<QtPlatform>()) {
     platform_->machine = std::make_unique<FixedMachine>();
     platform_->install();
     session.program_folder = folder_.path().toStdString();
-    std::filesystem::copy_file(VELMORA_TEST_DATABASE, path("VELMORA.MDB"));
+    std::filesystem::copy_file(test::built_database(), path("VELMORA.MDB"));
 
     WindowEvents& events = windows().events;
     events.opened = [this](const std::string& name) {
