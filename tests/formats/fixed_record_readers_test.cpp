@@ -236,6 +236,14 @@ TEST(CargaSLWSINC, a_record_whose_44th_byte_is_no_line_feed_is_taken) {
     EXPECT_EQ(Forma.Pto.upper(), 2);
 }
 
+TEST(CargaSLWSINC, no_coordinate_limit_applies) {
+    RecordingPlatform platform;
+    const std::string path =
+        platform.write("wing.dat", sync_file({{"0", "0"}, {"25001", "1E300"}}, {}));
+    EXPECT_EQ(CargaSLWSINC(path), -1);
+    EXPECT_EQ(Forma.Pto[1], (Pto{25001, 1E300, 0, 0}));
+}
+
 TEST(CargaSLWSINC, without_the_title_the_record_past_the_end_fails_to_parse) {
     RecordingPlatform platform;
     platform.dialogs.answers = {answer::ok, answer::no};
