@@ -57,6 +57,7 @@ void WindowsHost::run(const std::function<void()>& handler) {
     if (d->ended)
         return;
     d->push();
+    d->ask_for_activation();
     d->show_popup();
 }
 

@@ -81,13 +81,16 @@ void WindowsHost::Private::present(Window& window) {
         if (window.name() != kMain)
             attach(widget, active ? &active->widget() : host.window(kMain));
         window.place();
+        // A window manager gives a new window the focus when it gets to it, which can be after the
+        // handler gave it to another one.
+        widget.setAttribute(Qt::WA_ShowWithoutActivating);
     }
     if (widget.isMinimized())
         widget.showNormal();
     else
         widget.show();
     widget.raise();
-    widget.activateWindow();
+    activation_due = true;
     presenting = false;
     if (appears && host.events.opened)
         host.events.opened(window.name());
@@ -107,6 +110,11 @@ void WindowsHost::Private::set_active(Window* window) {
         before->Deactivate();
     if (now && active == now)
         now->Activate();
+}
+
+void WindowsHost::Private::ask_for_activation() {
+    if (std::exchange(activation_due, false) && active)
+        active->widget().activateWindow();
 }
 
 void WindowsHost::start() {
@@ -165,6 +173,7 @@ void WindowsHost::show_modal(std::string_view window) {
         d->present(shown);
         if (d->find(name) == &shown) {
             refresh();
+            d->ask_for_activation();
             loop.exec(QEventLoop::DialogExec);
         }
     } catch (...) {
@@ -216,7 +225,7 @@ void WindowsHost::set_focus(std::string_view window, std::string_view control) {
     if (found == nullptr)
         return;
     if (found != d->active) {
-        found->widget().activateWindow();
+        d->activation_due = true;
         d->set_active(found);
     }
     if (auto* widget = qobject_cast<QWidget*>(found->control(control)))

@@ -32,6 +32,8 @@ struct WindowsHost::Private {
     std::map<std::string, std::unique_ptr<Window>, std::less<>> windows;
     std::vector<Modal> modals;
     QPointer<Window> active;
+    bool activation_due =
+        false;               ///< to be asked of the desktop when the handler has returned or waits
     bool presenting = false; ///< a window is being shown; its activation comes with that
     int running = 0;         ///< handlers, one above the other
     int ending_depth = 0;    ///< of the handler that asked for the end, 0 none
@@ -47,6 +49,8 @@ struct WindowsHost::Private {
     /// Moves the activation, with the events of both windows. A window behind a modal one gets
     /// none.
     void set_active(Window* window);
+    /// The desktop's activation to the window that has the program's.
+    void ask_for_activation();
     void leave_modal(const std::string& window);
 
     void pull() const;
