@@ -38,6 +38,26 @@ void print_points(Transcript& transcript, const Array<Pto>& points) {
                         number_text(std::int32_t{point.Marca}));
 }
 
+std::string_view class_name(TipoCad tipo) {
+    switch (tipo) {
+    case TipoCad::AcDbLine:
+        return "AcDbLine";
+    case TipoCad::AcDbPoint:
+        return "AcDbPoint";
+    case TipoCad::AcDbSpline:
+        return "AcDbSpline";
+    case TipoCad::AcDbPolyline:
+        return "AcDbPolyline";
+    case TipoCad::AcDbArc:
+        return "AcDbArc";
+    case TipoCad::AcDbCircle:
+        return "AcDbCircle";
+    case TipoCad::none:
+        break;
+    }
+    return {};
+}
+
 } // namespace
 
 void show_points(Transcript& transcript, std::span<const std::string> words) {
@@ -51,6 +71,16 @@ void show_points(Transcript& transcript, std::span<const std::string> words) {
     }
     transcript.line("points", name, number_text(points.upper() + 1));
     print_points(transcript, points);
+}
+
+void show_objects(Transcript& transcript) {
+    std::int32_t index = 0;
+    for (const ObjCad& object : session.ObjsCad.all()) {
+        transcript.line(number_text(index++), word_text(class_name(object.Tipo)),
+                        number_text(object.Id), number_text(object.Orden),
+                        number_text(std::int32_t{object.Usado}), number_text(object.NPtos));
+        print_points(transcript, object.Ptos);
+    }
 }
 
 void show_values(Transcript& transcript, const Places& places, std::span<const std::string> words) {

@@ -14,6 +14,7 @@
 namespace velmora::driver {
 
 void show_points(Transcript& transcript, std::span<const std::string> words);
+void show_objects(Transcript& transcript);
 void show_values(Transcript& transcript, const Places& places, std::span<const std::string> words);
 void show_file(Transcript& transcript, const Places& places, const std::string& path);
 void show_files(Transcript& transcript, const Places& places, const std::string& folder);

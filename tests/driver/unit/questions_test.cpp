@@ -35,6 +35,22 @@ TEST_F(QuestionsTest, points_of_the_outline_and_of_a_named_array) {
     EXPECT_THROW(show_points(transcript, Words{"PtosA", "PtosB"}), ScriptFault);
 }
 
+TEST_F(QuestionsTest, entities_with_their_points) {
+    show_objects(transcript);
+    session.ObjsCad.redim(1);
+    ObjCad& arc = session.ObjsCad[1];
+    arc.Tipo = TipoCad::AcDbArc;
+    arc.NPtos = 1;
+    arc.Ptos.redim(1);
+    arc.Ptos[1] = {0.5, -1};
+    arc.Usado = -1;
+    arc.Id = 7;
+    arc.Orden = 3;
+    show_objects(transcript);
+    EXPECT_THAT(lines, ElementsAre("0 \"\" 0 0 0 0", "0 \"\" 0 0 0 0", "1 AcDbArc 7 3 -1 1",
+                                   "0 0 0 0 0", "1 0.5 -1 0 0"));
+}
+
 TEST_F(QuestionsTest, values_of_each_kind) {
     session.FileName = "/tmp/x/work/mi ala.dat";
     session.ZoomFactor = 0.5;
