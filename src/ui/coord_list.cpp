@@ -4,6 +4,9 @@
 
 #include <QFontDatabase>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
 
 namespace velmora {
 
@@ -54,10 +57,8 @@ int CoordListModel::widest_text() const {
 
 CoordList::CoordList(QWidget* parent) : QListView(parent) {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)); // lines the digits up
-    setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
-    setTextElideMode(Qt::ElideNone);
     setHorizontalScrollMode(ScrollPerPixel);
     connect(this, &QListView::clicked, this,
             [this](const QModelIndex& row) { emit row_clicked(row.data().toString()); });
@@ -72,10 +73,124 @@ void CoordList::start_over() {
     rows_->start_over(fontMetrics());
 }
 
-void CoordList::click_row(int position) {
-    const QModelIndex row = rows_->index(position);
-    setCurrentIndex(row);
-    emit clicked(row);
+int CoordList::row_height() const {
+    return rows_ == nullptr ? 1 : rows_->row_size().height();
+}
+
+int CoordList::rows_in_view() const {
+    return std::max(1, viewport()->height() / row_height());
+}
+
+QRect CoordList::visualRect(const QModelIndex& index) const {
+    if (!index.isValid())
+        return {};
+    const int width = std::max(rows_->row_size().width(), viewport()->width());
+    return {-horizontalOffset(), index.row() * row_height() - verticalOffset(), width,
+            row_height()};
+}
+
+void CoordList::scrollTo(const QModelIndex& index, ScrollHint hint) {
+    if (!index.isValid())
+        return;
+    QScrollBar* bar = verticalScrollBar();
+    const int last_first = index.row() - rows_in_view() + 1;
+    if (hint == PositionAtCenter)
+        bar->setValue(index.row() - rows_in_view() / 2);
+    else if (index.row() < bar->value() || hint == PositionAtTop)
+        bar->setValue(index.row());
+    else if (last_first > bar->value() || hint == PositionAtBottom)
+        bar->setValue(last_first);
+}
+
+QModelIndex CoordList::indexAt(const QPoint& point) const {
+    const int row = verticalScrollBar()->value() + point.y() / row_height();
+    return rows_ == nullptr || point.y() < 0 ? QModelIndex() : rows_->index(row);
+}
+
+void CoordList::doItemsLayout() {
+    QAbstractItemView::doItemsLayout();
+}
+
+QModelIndex CoordList::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
+    const int last = rows_->rowCount() - 1;
+    const int now = currentIndex().row();
+    const auto row = [&](int wanted) {
+        return rows_->index(std::clamp(wanted, 0, last));
+    };
+    if (last < 0)
+        return {};
+    switch (action) {
+    case MoveUp:
+    case MovePrevious:
+        return row(now - 1);
+    case MoveDown:
+    case MoveNext:
+        return row(now + 1);
+    case MovePageUp:
+        return row(now - rows_in_view());
+    case MovePageDown:
+        return row(now + rows_in_view());
+    case MoveHome:
+        return row(0);
+    case MoveEnd:
+        return row(last);
+    default:
+        return row(now);
+    }
+}
+
+int CoordList::horizontalOffset() const {
+    return horizontalScrollBar()->value();
+}
+
+int CoordList::verticalOffset() const {
+    return verticalScrollBar()->value() * row_height();
+}
+
+void CoordList::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) {
+    const QModelIndex row = indexAt(rect.center());
+    if (row.isValid())
+        selectionModel()->select(row, command);
+}
+
+QRegion CoordList::visualRegionForSelection(const QItemSelection& rows) const {
+    QRegion region;
+    for (const QModelIndex& row : rows.indexes())
+        region += visualRect(row);
+    return region;
+}
+
+void CoordList::updateGeometries() {
+    if (rows_ == nullptr)
+        return;
+    verticalScrollBar()->setPageStep(rows_in_view());
+    verticalScrollBar()->setRange(0, std::max(0, rows_->rowCount() - rows_in_view()));
+    horizontalScrollBar()->setPageStep(viewport()->width());
+    horizontalScrollBar()->setSingleStep(fontMetrics().horizontalAdvance('0'));
+    horizontalScrollBar()->setRange(0, rows_->row_size().width() - viewport()->width());
+    QAbstractItemView::updateGeometries();
+}
+
+void CoordList::scrollContentsBy(int, int) {
+    viewport()->update();
+}
+
+void CoordList::paintEvent(QPaintEvent* event) {
+    if (rows_ == nullptr)
+        return;
+    QPainter painter(viewport());
+    QStyleOptionViewItem look;
+    initViewItemOption(&look);
+    const QRect part = event->rect();
+    for (QModelIndex row = indexAt({0, std::max(0, part.top())}); row.isValid();
+         row = row.siblingAtRow(row.row() + 1)) {
+        look.rect = visualRect(row);
+        if (look.rect.top() > part.bottom())
+            return;
+        look.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(row));
+        look.state.setFlag(QStyle::State_HasFocus, hasFocus() && row == currentIndex());
+        itemDelegate()->paint(&painter, look, row);
+    }
 }
 
 void CoordList::keyPressEvent(QKeyEvent* event) {

@@ -6,6 +6,7 @@
 
 #include <QAbstractListModel>
 #include <QListView>
+#include <QSize>
 
 namespace velmora {
 
@@ -17,19 +18,22 @@ class CoordListModel : public QAbstractListModel {
     /// The session's list was filled anew or changed. `metrics` are those of the views' font.
     void start_over(const QFontMetrics& metrics);
 
+    /// Of every row; the width is that of the longest text among rows spread over the list.
+    [[nodiscard]] QSize row_size() const { return row_size_; }
+
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
   private:
-    /// Characters of the longest text among rows spread over the list.
     [[nodiscard]] int widest_text() const;
 
     const VelmoraWindow& state_;
-    QSize row_size_; ///< one for all rows, as the view asks for
+    QSize row_size_{1, 1};
     /// Rows that the views know of; the session's list can be another one until `start_over`.
     int rows_ = 0;
 };
 
+/// All rows have one height, so a row's place follows from its number and nothing is laid out.
 class CoordList : public QListView {
     Q_OBJECT
   public:
@@ -37,17 +41,32 @@ class CoordList : public QListView {
 
     void show_rows_of(const VelmoraWindow& state);
     void start_over();
-    /// A click on the row at this position, as the user's.
-    void click_row(int position);
+
+    [[nodiscard]] QRect visualRect(const QModelIndex& index) const override;
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+    [[nodiscard]] QModelIndex indexAt(const QPoint& point) const override;
+    void doItemsLayout() override;
 
   signals:
     /// The user chose a row, by a click or by a key.
     void row_clicked(const QString& text);
 
   protected:
+    [[nodiscard]] QModelIndex moveCursor(CursorAction action,
+                                         Qt::KeyboardModifiers modifiers) override;
+    [[nodiscard]] int horizontalOffset() const override;
+    [[nodiscard]] int verticalOffset() const override;
+    void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
+    [[nodiscard]] QRegion visualRegionForSelection(const QItemSelection& rows) const override;
+    void updateGeometries() override;
+    void scrollContentsBy(int dx, int dy) override;
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    [[nodiscard]] int row_height() const;
+    [[nodiscard]] int rows_in_view() const;
+
     CoordListModel* rows_ = nullptr;
 };
 
