@@ -5,13 +5,33 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QTimer>
 #include <QWidget>
 #include <filesystem>
 
 namespace velmora::test {
 
-WindowsTest::WindowsTest() : platform_(std::make_unique<QtPlatform>()) {
+namespace {
+
+/// An ended program leaves the application's loops told to end; a run of the outermost one takes
+/// that back.
+void forget_exit() {
+    QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+    QCoreApplication::exec();
+}
+
+} // namespace
+
+WindowsTest::WindowsTest() {
+    std::filesystem::copy_file(test::built_database(), path("VELMORA.MDB"));
+    build_platform();
+}
+
+void WindowsTest::build_platform() {
+    platform_.reset(); // the windows go before the session that they show
+    forget_exit();
     reset_session();
+    platform_ = std::make_unique<QtPlatform>();
     auto dialogs = std::make_unique<RecordingDialogs>();
     auto shell = std::make_unique<RecordingShell>();
     auto settings = std::make_unique<MemorySettings>();
@@ -24,7 +44,6 @@ WindowsTest::WindowsTest() : platform_(std::make_unique<QtPlatform>()) {
     platform_->machine = std::make_unique<FixedMachine>();
     platform_->install();
     session.program_folder = folder_.path().toStdString();
-    std::filesystem::copy_file(test::built_database(), path("VELMORA.MDB"));
 
     WindowEvents& events = windows().events;
     events.opened = [this](const std::string& name) {
@@ -41,8 +60,14 @@ WindowsTest::WindowsTest() : platform_(std::make_unique<QtPlatform>()) {
     };
 }
 
+void WindowsTest::restart() {
+    build_platform();
+    start_program();
+}
+
 WindowsTest::~WindowsTest() {
     platform_.reset();
+    forget_exit();
     QGuiApplication::restoreOverrideCursor();
 }
 

@@ -31,6 +31,8 @@ class WindowsTest : public testing::Test {
 
     /// The start window, then the main window and its first activation.
     void start_program();
+    /// A new program over the same folder, up to its main window.
+    void restart();
     /// Lets the windows run until nothing is pending.
     static void settle();
     /// Loads and shows a window, as a handler of the logic does.
@@ -46,6 +48,8 @@ class WindowsTest : public testing::Test {
     std::vector<std::string> told; ///< "open wininfo", "closed intro", "fault 9", "ended"
 
   private:
+    void build_platform();
+
     QTemporaryDir folder_;
     std::unique_ptr<QtPlatform> platform_;
     RecordingDialogs* dialogs_ = nullptr;
