@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace velmora {
 namespace {
 
@@ -127,6 +129,7 @@ TEST(CoordList, a_click_selects_the_point_named_in_the_row) {
     EXPECT_EQ(session.PtoSel, 2);
     EXPECT_EQ(platform.windows.calls, std::vector<std::string>{"focus Velmora.pic"});
     EXPECT_EQ(session.Velmora.Lst_Coords_fill, 0U);
+    EXPECT_EQ(std::ranges::count(platform.pic.operations, "cls"), 1);
 }
 
 TEST(CoordList, a_click_on_a_stale_row_refreshes_and_keeps_the_selection) {
@@ -139,6 +142,30 @@ TEST(CoordList, a_click_on_a_stale_row_refreshes_and_keeps_the_selection) {
     EXPECT_EQ(session.PtoSel, 0);
     EXPECT_EQ(rows(), (Rows{"0: 0  0", "1: 1  1"}));
     EXPECT_TRUE(platform.windows.calls.empty());
+}
+
+TEST(CoordList, after_Delete_Pto_the_last_row_is_stale_until_refreshed) {
+    RecordingPlatform platform;
+    set_shape({{0, 0}, {1, 1}, {2, 2}, {3, 3}});
+    Carga_List_Coords("NEWFILE");
+    session.PtoSel = 1;
+    Delete_Pto();
+    EXPECT_EQ(rows(), (Rows{"0: 0  0", "1: 1  1", "2: 2  2", "3: 3  3"}));
+    Lst_Coords_Click(rows().back());
+    EXPECT_EQ(session.PtoSel, 0);
+    EXPECT_EQ(rows(), (Rows{"0: 0  0", "1: 2  2", "2: 3  3"}));
+}
+
+TEST(CoordList, after_Insert_Pto_a_row_selects_by_its_old_number) {
+    RecordingPlatform platform;
+    set_shape({{0, 0}, {2, 2}, {4, 0}});
+    Carga_List_Coords("NEWFILE");
+    session.PtoSel = 1;
+    Insert_Pto();
+    EXPECT_EQ(rows(), (Rows{"0: 0  0", "1: 2  2", "2: 4  0"}));
+    Lst_Coords_Click(rows()[2]);
+    EXPECT_EQ(session.PtoSel, 2);
+    EXPECT_EQ(Forma.Pto[2].X, 2);
 }
 
 TEST(CoordList, a_click_without_a_text_does_nothing) {

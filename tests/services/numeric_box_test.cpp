@@ -29,6 +29,7 @@ TEST(NumericBox, any_other_key_is_swallowed_and_resets_the_box) {
         SCOPED_TRACE(code);
         std::string text = "12";
         platform.windows.calls.clear();
+        platform.dialogs.boxes.clear();
         EXPECT_EQ(numeric_key(plain(text), code), 0);
         EXPECT_EQ(text, "0");
         EXPECT_EQ(platform.windows.calls, std::vector<std::string>{"focus setup.Txt_Def_Dec_Val"});

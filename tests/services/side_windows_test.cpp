@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace velmora {
 namespace {
 
@@ -73,20 +75,24 @@ TEST(WinOptionsWindow, the_check_boxes_set_their_flags) {
         void (*click)();
         bool WinOptions::*box;
         Flag Session::*value;
+        int repaints;
     };
     const Case cases[] = {
-        {ChkPtos_Click, &WinOptions::ChkPtos, &Session::ShowPtos},
-        {ChkPtosCtrl_Click, &WinOptions::ChkPtosCtrl, &Session::ShowPtosCtrl},
-        {ChkCoords_Click, &WinOptions::ChkCoords, &Session::ShowCoords},
-        {chk_optimize_Click, &WinOptions::chk_optimize, &Session::OptimizeOnGen},
-        {chk_Redim_Capture_Click, &WinOptions::chk_Redim_Capture, &Session::RedimCapture},
+        {ChkPtos_Click, &WinOptions::ChkPtos, &Session::ShowPtos, 1},
+        {ChkPtosCtrl_Click, &WinOptions::ChkPtosCtrl, &Session::ShowPtosCtrl, 1},
+        {ChkCoords_Click, &WinOptions::ChkCoords, &Session::ShowCoords, 0},
+        {chk_optimize_Click, &WinOptions::chk_optimize, &Session::OptimizeOnGen, 0},
+        {chk_Redim_Capture_Click, &WinOptions::chk_Redim_Capture, &Session::RedimCapture, 0},
     };
     RecordingPlatform platform;
+    set_shape({{0, 0}, {4, 1}, {2, 0}});
     for (const Case& c : cases) {
         for (const bool ticked : {false, true}) {
+            platform.pic.operations.clear();
             session.winoptions.*c.box = ticked;
             c.click();
             EXPECT_EQ(session.*c.value, flag(ticked));
+            EXPECT_EQ(std::ranges::count(platform.pic.operations, "cls"), c.repaints);
         }
     }
 }
@@ -117,6 +123,19 @@ TEST(TxtZoom, Enter_takes_the_number_with_either_separator) {
         EXPECT_EQ(session.winoptions.Txt_zoom, c.text);
         EXPECT_EQ(session.ZoomFactor, c.zoom);
     }
+}
+
+TEST(TxtZoom, Enter_lays_out_and_repaints) {
+    RecordingPlatform platform;
+    set_shape({{0, 0}, {4, 1}, {2, 0}});
+    session.Longitud = 777;
+    session.winoptions.Txt_zoom = std::string("0");
+    (void)Txt_zoom_KeyPress(13);
+    EXPECT_EQ(session.ZoomFactor, 1); // the layout's guard
+    EXPECT_EQ(session.Longitud, 4);
+    EXPECT_EQ(std::ranges::count(platform.pic.operations, "cls"), 1);
+    (void)Txt_zoom_KeyPress('5');
+    EXPECT_EQ(std::ranges::count(platform.pic.operations, "cls"), 1);
 }
 
 TEST(TxtZoom, a_text_that_is_no_number_is_a_fault) {

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace velmora {
 namespace {
 
@@ -74,7 +76,76 @@ TEST(ShapeCommands, a_single_point_is_no_shape) {
     mnu_scale_xy();
     EXPECT_EQ(shape(), before);
     EXPECT_TRUE(platform.windows.calls.empty());
+    EXPECT_TRUE(platform.windows.statuses.empty());
+    EXPECT_TRUE(platform.pic.operations.empty());
     EXPECT_TRUE(session.Velmora.Lst_Coords.empty());
+    ASSERT_EQ(platform.dialogs.boxes.size(), std::size(kCommands) + 1);
+    for (const auto& box : platform.dialogs.boxes)
+        EXPECT_EQ(box.text, "No hay ninguna forma cargada!");
+}
+
+TEST(ShapeCommands, the_order_of_their_steps) {
+    struct Case {
+        const char* name;
+        void (*command)();
+        const char* start;
+        bool precision_first;
+    };
+    const Case cases[] = {
+        {"mnu_positiva", mnu_positiva, "Positivando Forma...", true},
+        {"mnu_scale", mnu_scale, "Escalando a la Unidad...", false},
+        {"K_SCALE", K_SCALE, "Escalando a la Unidad...", false},
+        {"mnu_invert", mnu_invert, "Invirtiendo Sentido de Corte...", true},
+        {"K_INVERT", K_INVERT, "Invirtiendo Sentido de Corte...", true},
+        {"mnu_mirrorh", mnu_mirrorh, "Realizando Mirror Horizontal...", true},
+        {"mnu_mirrorv", mnu_mirrorv, "Realizando Mirror Vertical...", true},
+    };
+    RecordingPlatform platform;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        set_shape(kBefore);
+        platform.windows.statuses.clear();
+        platform.pic.operations.clear();
+        c.command();
+        const auto& statuses = platform.windows.statuses;
+        ASSERT_EQ(statuses.size(), 4U);
+        EXPECT_EQ(statuses[c.precision_first ? 0 : 2], "Aplicando Precisión ...");
+        EXPECT_EQ(statuses[c.precision_first ? 2 : 0], c.start);
+        EXPECT_EQ(std::ranges::count(platform.pic.operations, "cls"), 1);
+    }
+}
+
+// mnu_invert and K_SCALE leave the figures and the canvas's origin as they were.
+TEST(ShapeCommands, who_calls_Define_Layout) {
+    struct Case {
+        const char* name;
+        void (*command)();
+        bool lays_out;
+    };
+    const Case cases[] = {
+        {"mnu_positiva", mnu_positiva, true}, {"mnu_scale", mnu_scale, true},
+        {"K_SCALE", K_SCALE, false},          {"mnu_invert", mnu_invert, false},
+        {"K_INVERT", K_INVERT, true},         {"mnu_mirrorh", mnu_mirrorh, true},
+        {"mnu_mirrorv", mnu_mirrorv, true},
+    };
+    RecordingPlatform platform;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        set_shape(kBefore);
+        session.Longitud = 777;
+        c.command();
+        EXPECT_EQ(session.Longitud != 777, c.lays_out);
+    }
+}
+
+TEST(ShapeCommands, the_layout_comes_before_the_repaint) {
+    RecordingPlatform platform;
+    set_shape({{0, 0}, {2, 1}, {1, 3}});
+    mnu_mirrorh();
+    EXPECT_EQ(session.CanvasX0, 1000);
+    EXPECT_EQ(session.CanvasY0, 1970);
+    mnu_mirrorv();
+    EXPECT_EQ(session.CanvasY0, 1000);
 }
 
 } // namespace

@@ -2,12 +2,14 @@
 
 #include "document/handlers.h"
 #include "document/session.h"
+#include "services/messages.h"
 #include "support/error_number.h"
 #include "support/outline.h"
 #include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 namespace velmora {
@@ -81,6 +83,9 @@ class PlacingCommands : public ::testing::Test {
         session.Precision = 6;
     }
     [[nodiscard]] static bool list_refreshed() { return session.Velmora.Lst_Coords_fill != 0; }
+    [[nodiscard]] std::ptrdiff_t repaints() const {
+        return std::ranges::count(platform_.pic.operations, "cls");
+    }
     RecordingPlatform platform_;
 };
 
@@ -91,7 +96,12 @@ TEST_F(PlacingCommands, Rotate_turns_about_the_selected_point_and_rounds) {
     EXPECT_EQ(shape(), (Points{{0, 0}, {0, 1, 1}, {0, 1}, {0, 1}, {0, -1}}));
     EXPECT_TRUE(list_refreshed());
     ASSERT_EQ(platform_.dialogs.input_calls.size(), 1U);
+    EXPECT_EQ(platform_.dialogs.input_calls[0][0], "Angulo de rotación :");
+    EXPECT_EQ(platform_.dialogs.input_calls[0][1], GetMensaje(99));
     EXPECT_EQ(platform_.dialogs.input_calls[0][2], "0");
+    EXPECT_EQ(session.Longitud, 0);
+    EXPECT_EQ(session.Altura, 2);
+    EXPECT_EQ(repaints(), 1);
 }
 
 TEST_F(PlacingCommands, Rotate_reads_the_answer_with_a_point_and_ignores_the_rest) {
@@ -141,6 +151,16 @@ TEST_F(PlacingCommands, none_of_the_three_touches_the_figures) {
     EXPECT_EQ(session.Longitud, 77);
     EXPECT_EQ(session.Altura, 88);
     EXPECT_EQ(session.MinXForma, 99);
+    EXPECT_EQ(repaints(), 3);
+}
+
+TEST_F(PlacingCommands, no_repaint_while_NoRedraw_is_set) {
+    session.NoRedraw = True;
+    platform_.dialogs.inputs = {"90"};
+    for (void (*command)() : {Rotate, Set_00, set_10, set_x0})
+        command();
+    EXPECT_EQ(repaints(), 0);
+    EXPECT_TRUE(list_refreshed()); // Rotate skips the repaint alone
 }
 
 TEST_F(PlacingCommands, Move_Shape_waits_for_its_target) {
@@ -148,6 +168,8 @@ TEST_F(PlacingCommands, Move_Shape_waits_for_its_target) {
     Move_Shape();
     EXPECT_EQ(session.MoveShapeMode, True);
     EXPECT_EQ(session.Velmora.pic_MousePointer, 10);
+    EXPECT_EQ(session.Velmora.StatusBar1,
+              "Selecciona la nueva ubicación de la forma. (pulsa ESC para cancelar)");
     EXPECT_EQ(session.DestX, 0);
     EXPECT_EQ(session.DestY, 0);
     EXPECT_EQ(shape(), (Points{{1, 2, 1}, {3, 5}, {4, 2}}));

@@ -119,10 +119,13 @@ TEST_F(ScaleXyWindowTest, a_refused_key_resets_its_box_alone) {
         SCOPED_TRACE(name);
         Scale_xy_Load();
         platform_.windows.calls.clear();
+        platform_.dialogs.boxes.clear();
         EXPECT_EQ(Scale_xy_KeyPress(box, '-'), 0);
         for (const auto& [other, ignored] : boxes)
             EXPECT_EQ(text(other) == "0", other == box);
         EXPECT_FALSE(window_.cmd_ok_enabled);
+        ASSERT_EQ(platform_.dialogs.boxes.size(), 1U);
+        EXPECT_EQ(platform_.dialogs.boxes[0].text, "Sólo se permiten números!");
         EXPECT_EQ(platform_.windows.calls,
                   std::vector<std::string>{std::string("focus Scale_xy.") + name});
     }
@@ -136,6 +139,8 @@ TEST_F(ScaleXyWindowTest, ok_scales_by_size_and_rounds_and_stays_open) {
     Scale_xy_cmd_ok_Click();
     EXPECT_EQ(shape(), (Points{{6, 0.2}, {0, 1}, {-3, 0}}));
     EXPECT_EQ(session.Velmora.Lst_Coords.size(), 3U);
+    EXPECT_EQ(session.Longitud, 9);
+    EXPECT_EQ(session.CanvasX0, 1000); // laid out, then painted
     EXPECT_TRUE(platform_.windows.calls.empty());
 }
 

@@ -147,5 +147,74 @@ TEST(Apply_Precision, a_precision_out_of_range_shows_the_box_and_changes_nothing
     }
 }
 
+struct FrameCase {
+    const char* what;
+    void (*routine)();
+    const char* start;
+    const char* end;
+};
+
+const FrameCase kFrames[] = {
+    {"InvertDat", InvertDat, "Invirtiendo Sentido de Corte...", "Sentido de Corte Invertido!"},
+    {"ScaleToUnit", ScaleToUnit, "Escalando a la Unidad...", "Forma Escalada!"},
+    {"ScaleXY", [] { ScaleXY(100, 100, 0); }, "Escalando a la Unidad...", "Forma Escalada!"},
+    {"MirrorHorDat", MirrorHorDat, "Realizando Mirror Horizontal...",
+     "Mirror Horizontal Realizado!"},
+    {"MirrorVerDat", MirrorVerDat, "Realizando Mirror Vertical...", "Mirror Vertical Realizado!"},
+    {"Apply_Precision", Apply_Precision, "Aplicando Precisión ...", "Precisión Aplicada!"},
+    {"Positivarfrma", Positivarfrma, "Positivando Forma...", "Forma Positivada!"},
+};
+
+TEST(Frame, panel_and_pointer_around_the_work) {
+    RecordingPlatform platform;
+    for (const FrameCase& c : kFrames) {
+        SCOPED_TRACE(c.what);
+        set_shape({{1, 2}, {3, 4}, {5, 6}});
+        platform.windows.statuses.clear();
+        platform.windows.pointers.clear();
+        session.Velmora.StatusBar1.clear();
+        const int yields = platform.windows.yields;
+        c.routine();
+        EXPECT_EQ(platform.windows.statuses, (std::vector<std::string>{c.start, c.end}));
+        ASSERT_GE(platform.windows.pointers.size(), 2U);
+        EXPECT_EQ(platform.windows.pointers.front(), 11);
+        EXPECT_EQ(platform.windows.pointers.back(), 0);
+        EXPECT_EQ(platform.windows.yields, yields + 2);
+    }
+}
+
+TEST(Frame, on_the_error_route_panel_and_pointer_stay) {
+    const std::pair<void (*)(), std::string> cases[] = {
+        {Apply_Precision, "Aplicando Precisión ..."},
+        {[] { ScaleXY(10, 10, 1); }, "Escalando a la Unidad..."},
+    };
+    RecordingPlatform platform;
+    session.Precision = 23;
+    for (const auto& [routine, start] : cases) {
+        set_shape({{0, 0}, {0, 0}});
+        routine();
+        EXPECT_EQ(session.Velmora.StatusBar1, start);
+        EXPECT_EQ(session.Velmora.MousePointer, 11);
+    }
+    EXPECT_EQ(platform.dialogs.boxes.size(), 2U);
+}
+
+// The messages belong to the routine, and so does a fault of theirs.
+TEST(Frame, without_a_database_the_box_says_so_and_nothing_moves) {
+    const char* prefixes[] = {
+        "Error InvertDat nº: ",    "Error ScaleToUnit nº: ",  "Error ScaleXY nº: ",
+        "Error MirrorHorDat nº: ", "Error MirrorVerDat nº: ", "Error Apply_Precision nº: ",
+        "Error Positivarfrma nº: "};
+    RecordingPlatform platform(true);
+    const Points before = {{-1.23456789, 2}, {3, 4}, {5, 6}};
+    set_shape(before);
+    for (const FrameCase& c : kFrames)
+        c.routine();
+    EXPECT_EQ(shape(), before);
+    ASSERT_EQ(platform.dialogs.boxes.size(), std::size(prefixes));
+    for (std::size_t i = 0; i < std::size(prefixes); ++i)
+        EXPECT_EQ(platform.dialogs.boxes[i].text, box_text(prefixes[i], 91));
+}
+
 } // namespace
 } // namespace velmora
