@@ -1,0 +1,183 @@
+// Menus, tool bars and shortcuts are those of the command table.
+#include "windows/windows_test.h"
+
+#include "document/command_table.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QtTest>
+#include <gmock/gmock.h>
+#include <set>
+
+namespace velmora::test {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class MenusTest : public WindowsTest {
+  protected:
+    void SetUp() override { start_program(); }
+
+    QMenu& menu(std::string_view name) {
+        return *window("Velmora")->findChild<QMenu*>(QString::fromStdString(std::string(name)));
+    }
+    QAction& entry(std::string_view name) { return control<QAction>("Velmora", name); }
+    void press(QWidget& widget, const char* keys) {
+        const QKeySequence sequence(keys);
+        QTest::keyClick(&widget, sequence[0].key(), sequence[0].keyboardModifiers());
+    }
+};
+
+TEST_F(MenusTest, TheMenuBarHoldsTheTopMenusAndNotThePopUp) {
+    std::vector<std::string> names;
+    for (const QAction* action : window("Velmora")->findChild<QMenuBar*>()->actions())
+        names.push_back(action->objectName().toStdString());
+    EXPECT_THAT(names, ElementsAre("mnu_Archivo", "mnu_config", "mnu_funcs", "mnuherra", "mnuacad",
+                                   "mnu_ver", "mnu_hlp"));
+}
+
+TEST_F(MenusTest, EachMenuHoldsItsRowsInOrder) {
+    std::map<std::string_view, int> next;
+    for (const MenuEntry& row : menu_entries()) {
+        if (row.menu.empty())
+            continue;
+        const int place = next[row.menu]++;
+        const QList<QAction*> actions = menu(row.menu).actions();
+        ASSERT_LT(place, actions.size()) << row.name;
+        const QAction& action = *actions[place];
+        EXPECT_EQ(action.objectName().toStdString(), row.name);
+        EXPECT_EQ(action.isSeparator(), row.caption == "-") << row.name;
+        EXPECT_EQ(action.shortcut(),
+                  QKeySequence(QString::fromStdString(std::string(row.shortcut))))
+            << row.name;
+        EXPECT_EQ(action.property("Index").toInt(), row.index);
+    }
+    for (const auto& [name, count] : next)
+        EXPECT_EQ(menu(name).actions().size(), count) << name;
+}
+
+TEST_F(MenusTest, CompensationAndTheHeadOfThePopUpStayHidden) {
+    EXPECT_FALSE(entry("mnu_paralela").isVisible());
+    EXPECT_FALSE(entry("ptss").isVisible());
+    session.Velmora.menus["mnu_paralela"].visible = true;
+    windows().refresh();
+    EXPECT_FALSE(entry("mnu_paralela").isVisible());
+}
+
+TEST_F(MenusTest, NoTwoEntriesShareAShortcut) {
+    std::set<QString> seen;
+    for (const QAction* action : window("Velmora")->findChildren<QAction*>()) {
+        const QString keys = action->shortcut().toString();
+        EXPECT_TRUE(keys.isEmpty() || seen.insert(keys).second) << keys.toStdString();
+    }
+    EXPECT_EQ(seen.size(), 17U);
+}
+
+TEST_F(MenusTest, EachBarHoldsItsKeysWithTipAndIcon) {
+    std::map<std::string_view, int> next;
+    for (const ToolKey& key : tool_keys()) {
+        const auto& bar = control<QToolBar>("Velmora", key.bar);
+        QAction& action = *bar.actions().at(next[key.bar]++);
+        EXPECT_EQ(action.objectName().toStdString(), key.key);
+        EXPECT_EQ(action.toolTip().toStdString(), key.tip);
+        EXPECT_EQ(bar.widgetForAction(&action)->accessibleName().toStdString(), key.tip);
+        for (const int size : {16, 24, 48})
+            EXPECT_FALSE(action.icon().pixmap(size, size).isNull()) << key.key;
+    }
+}
+
+TEST_F(MenusTest, IconsStandOutOnLightAndDarkWindows) {
+    const auto lightness = [this] {
+        const QImage image = entry("K_OPEN").icon().pixmap(24, 24).toImage();
+        int lightest = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y).alpha() > 200)
+                    lightest = std::max(lightest, image.pixelColor(x, y).lightness());
+        return lightest;
+    };
+    EXPECT_LT(lightness(), 140);
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor("#202327"));
+    dark.setColor(QPalette::WindowText, QColor("#eeeeee"));
+    window("Velmora")->setPalette(dark);
+    EXPECT_GT(lightness(), 200);
+}
+
+TEST_F(MenusTest, TheConnectionEnablesAndDisablesItsEntries) {
+    EXPECT_FALSE(entry("mnu_capture").isEnabled()); // no CAD runs
+    EXPECT_FALSE(entry("menu_select_orig").isEnabled());
+    EXPECT_FALSE(entry("mnu_SendToCad").isEnabled());
+    EXPECT_TRUE(entry("mnu_Reconect").isEnabled());
+    session.Velmora.menus["mnu_capture"].enabled = true;
+    windows().refresh();
+    EXPECT_TRUE(entry("mnu_capture").isEnabled());
+}
+
+TEST_F(MenusTest, RecentFilesStandInTheFileMenu) {
+    EXPECT_FALSE(entry("mnuRecentFileSep").isVisible());
+    EXPECT_FALSE(entry("mnuRecentFile(1)").isVisible());
+    session.Velmora.mnuRecentFileSep_visible = true;
+    session.Velmora.mnuRecentFile[1] = {"&1 ala.dat", "/tmp/ala.dat", true};
+    windows().refresh();
+    EXPECT_TRUE(entry("mnuRecentFileSep").isVisible());
+    EXPECT_TRUE(entry("mnuRecentFile(1)").isVisible());
+    EXPECT_EQ(entry("mnuRecentFile(1)").text(), "&1 ala.dat");
+    EXPECT_FALSE(entry("mnuRecentFile(2)").isVisible());
+}
+
+TEST_F(MenusTest, ShortcutsWorkWhereverTheFocusIsInTheMainWindow) {
+    Forma.Pto.redim(1);
+    Forma.Pto[0] = {1, 2};
+    Forma.Pto[1] = {3, 4};
+    for (const char* name : {"pic", "Lst_Coords", "TxtDescDat"}) {
+        auto& focused = control<QWidget>("Velmora", name);
+        focused.setFocus();
+        settle();
+        const std::uint64_t fills = session.Velmora.Lst_Coords_fill;
+        press(focused, "F5");
+        EXPECT_EQ(session.Velmora.Lst_Coords_fill, fills + 1) << name;
+    }
+}
+
+TEST_F(MenusTest, CtrlAOpensFromTheCanvasAndSelectsInsideATextBox) {
+    control<QWidget>("Velmora", "pic").setFocus();
+    settle();
+    press(control<QWidget>("Velmora", "pic"), "Ctrl+A");
+    EXPECT_EQ(dialogs().open_calls.size(), 1U);
+
+    auto& box = control<QLineEdit>("Velmora", "TxtDescDat");
+    box.setFocus();
+    box.setText("ala");
+    settle();
+    press(box, "Ctrl+A");
+    EXPECT_EQ(dialogs().open_calls.size(), 1U);
+    EXPECT_EQ(box.selectedText(), "ala");
+}
+
+TEST_F(MenusTest, CtrlAOpensFromTheList) {
+    control<QWidget>("Velmora", "Lst_Coords").setFocus();
+    settle();
+    press(control<QWidget>("Velmora", "Lst_Coords"), "Ctrl+A");
+    EXPECT_EQ(dialogs().open_calls.size(), 1U);
+}
+
+TEST_F(MenusTest, ThePopUpOpensBehindTheHandlerAndClosesForTheNext) {
+    windows().run([this] {
+        windows().popup_menu("OPT_PTO");
+        EXPECT_FALSE(menu("OPT_PTO").isVisible());
+    });
+    EXPECT_TRUE(menu("OPT_PTO").isVisible());
+    windows().run([] {});
+    EXPECT_FALSE(menu("OPT_PTO").isVisible());
+}
+
+} // namespace
+
+} // namespace velmora::test
