@@ -51,9 +51,9 @@ class Endings(unittest.TestCase):
     def test_faults_that_need_no_window(self):
         for line in ("walk", "locale ;", "setting Values sound", "answer x", "answer 5", "answer",
                      "pick", "font Sans big", "font Sans 8 wide", "cad walk", "cad line 0 0 1 1",
-                     "copy missing.dat a.dat", "delete missing.dat", "show values Nothing",
+                     "copy missing.dat a.dat", "delete", "show values Nothing",
                      "show", "show wings", "trace maybe", "write a \"\\q\"", "type \"open",
-                     "program-file nothing.txt remove", "menu mnu_exit", "close Velmora",
+                     "program-file a.txt move", "menu mnu_exit", "close Velmora",
                      "show text Velmora.pic", "row 0", "wait -1"):
             with self.subTest(line):
                 printed = self.assert_fault(f"# first\n{line}\nanswer 1\n", 2)

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QTemporaryDir>
 #include <QtGlobal>
+#include <cstdio>
 #include <stdexcept>
 
 namespace velmora::driver {
@@ -75,11 +76,13 @@ void Folders::install(const fs::path& from) const {
 
 void Folders::remove() const noexcept {
     std::error_code ignored;
-    if (!keep_)
+    if (!keep_ || work_ != own_ / "work") {
         fs::remove_all(own_, ignored);
-    else
-        for (const char* part : {"program", "home", "run"})
-            fs::remove_all(own_ / part, ignored);
+        return;
+    }
+    for (const char* part : {"program", "home", "run"})
+        fs::remove_all(own_ / part, ignored);
+    std::fprintf(stderr, "kept %s\n", work_.c_str());
 }
 
 } // namespace velmora::driver

@@ -35,6 +35,12 @@ void copy_over(const fs::path& from, const fs::path& to) {
     check_done("copying " + from.string(), failure);
 }
 
+void remove_if_there(const fs::path& path) {
+    std::error_code failure;
+    fs::remove(path, failure);
+    check_done("deleting " + path.string(), failure);
+}
+
 void write_bytes(const fs::path& path, const std::string& text, std::ios::openmode mode) {
     std::ofstream file(path, std::ios::binary | mode);
     file << runtime::to_1252(text);
@@ -69,9 +75,7 @@ void program_file(Stage& stage, Words words) {
     want_words(words, 2, form);
     if (words[1] != "remove")
         fault(std::string("the form is ") + form);
-    std::error_code failure;
-    if (!fs::remove(place, failure))
-        fault("no program file " + word_text(words[0]));
+    remove_if_there(place);
 }
 
 void answer(Stage& stage, Words words) {
@@ -161,9 +165,7 @@ void append(Stage& stage, Words words) {
 
 void delete_file(Stage& stage, Words words) {
     want_words(words, 1, "delete PATH");
-    std::error_code failure;
-    if (!fs::remove(place_of(stage, words[0]), failure))
-        fault("no file " + word_text(words[0]));
+    remove_if_there(place_of(stage, words[0]));
 }
 
 void cad(Stage& stage, Words words) {
