@@ -4,6 +4,7 @@
 #include "document/session.h"
 #include "services/application.h"
 #include "ui/icons.h"
+#include "ui/shortcuts_first.h"
 #include "ui/windows_host.h"
 
 #include <QApplication>
@@ -78,6 +79,8 @@ void MainWindow::bind() {
 }
 
 void MainWindow::wire() {
+    for (QLineEdit* box : {ui.TxtDat_File, ui.TxtDescDat})
+        new ShortcutsFirst(*box);
     canvas_.wire([this](const Handler& handler) { host().run(handler); });
     connect(ui.Lst_Coords, &CoordList::row_clicked, this, [this](const QString& row) {
         host().run([text = row.toStdString()] { Lst_Coords_Click(text); });
