@@ -63,6 +63,13 @@ QPointF clickable_place(const QWidget& control) {
     return control.rect().center();
 }
 
+/// Where a person types: the box itself, or that of a list that can be typed into.
+QLineEdit* text_box(QWidget& control) {
+    if (auto* list = qobject_cast<QComboBox*>(&control))
+        return list->lineEdit();
+    return qobject_cast<QLineEdit*>(&control);
+}
+
 void paste_into(QLineEdit& box, const QString& text) {
     if (box.isReadOnly() || !box.isEnabled())
         return;
@@ -74,8 +81,6 @@ void choose(QComboBox& box, const QString& text) {
     if (!box.isEnabled())
         return;
     const int entry = box.findText(text);
-    if (box.lineEdit() != nullptr && entry < 0)
-        return paste_into(*box.lineEdit(), text);
     if (entry < 0)
         fault("no entry " + word_text(text.toStdString()));
     box.setCurrentIndex(entry);
@@ -110,7 +115,7 @@ void release_key(QWidget& control, const Key& key) {
 
 void type_text(QWidget& control, const std::string& text) {
     const QPointer<QWidget> alive(&control);
-    if (auto* box = qobject_cast<QLineEdit*>(&control))
+    if (QLineEdit* box = text_box(control))
         box->end(false);
     for (const Key& key : keys_of_text(text)) {
         if (alive)
@@ -122,7 +127,7 @@ void type_text(QWidget& control, const std::string& text) {
 
 void paste_text(QWidget& control, const std::string& text) {
     const QString pasted = QString::fromStdString(text);
-    if (auto* box = qobject_cast<QLineEdit*>(&control))
+    if (QLineEdit* box = text_box(control))
         return paste_into(*box, pasted);
     if (auto* box = qobject_cast<QComboBox*>(&control))
         return choose(*box, pasted);

@@ -1,12 +1,12 @@
 #include "windows/runner.h"
 
-#include "script/fault.h"
 #include "script/words.h"
 #include "windows/actions.h"
 #include "windows/ending.h"
 
 #include <QTimer>
 #include <cstdio>
+#include <exception>
 #include <utility>
 
 namespace velmora::driver {
@@ -57,7 +57,7 @@ void Runner::carry_out_next() {
     stage_.transcript.line(">", line.text);
     try {
         carry_out(stage_, split_words(line.text));
-    } catch (const ScriptFault& fault) {
+    } catch (const std::exception& fault) {
         leave_with_fault(line.number, fault.what());
     }
 }

@@ -5,6 +5,7 @@
 #include "windows/menus.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QGroupBox>
@@ -52,6 +53,14 @@ MaybeText read_progress(const QObject& object) {
     return QString::number(bar->value());
 }
 
+/// The text of a list is that of its chosen row.
+MaybeText read_list(const QObject& object) {
+    const auto* list = qobject_cast<const QAbstractItemView*>(&object);
+    if (list == nullptr)
+        return {};
+    return list->currentIndex().data().toString();
+}
+
 MaybeText read_title(const QObject& object) {
     const auto* window = qobject_cast<const QWidget*>(&object);
     if (window == nullptr || !window->isWindow())
@@ -69,6 +78,7 @@ constexpr auto kReaders = std::to_array<MaybeText (*)(const QObject&)>({
     read_status_bar,
     read_tabs,
     read_progress,
+    read_list,
     read_title,
 });
 
