@@ -5,7 +5,7 @@
 #include "document/refresh.h"
 #include "document/session.h"
 #include "formats/files.h"
-#include "formats/fixed_record.h"
+#include "formats/sync_dat.h"
 #include "platform/dialogs.h"
 #include "runtime/paths.h"
 #include "runtime/text.h"
@@ -27,13 +27,8 @@ void step_progress() {
     DoEvents();
 }
 
-void write_record(std::string_view field1, std::string_view field2) {
-    session.files.write(1, FixedRecord(field1, field2).bytes());
-}
-
-void write_point_record(const Pto& point) {
-    write_record(CStr(point.X), CStr(point.Y));
-    step_progress();
+void write_record(const FixedRecord& record) {
+    session.files.write(1, record.bytes());
 }
 
 /// All points, then the first once more: the outline is open in memory and closed in a file.
@@ -55,12 +50,6 @@ void open_records() {
     session.files.open_random(1, session.FileName, FixedRecord::length);
 }
 
-void write_sync_head() {
-    write_record("Fichero DAT(KMR)2002",
-                 runtime::to_1252(runtime::Trim(session.Velmora.TxtDescDat)));
-    write_record("SLATEWORKS", "");
-}
-
 /// Sync points are needed: without one, point 0 becomes it or the form is refused.
 bool ensure_sync_point() {
     if (HayPuntosSinc())
@@ -71,25 +60,15 @@ bool ensure_sync_point() {
     return true;
 }
 
-void write_sync_points() {
-    const std::int32_t upper = Forma.Pto.upper();
-    for (std::int32_t i = 0; i <= upper; ++i)
-        if (Forma.Pto[i].Sinc == 1)
-            write_point_record(Forma.Pto[i]);
-}
-
 /// The sync DAT. Refused, it stays as far as it was written, on purpose.
 std::int16_t write_sync_dat() {
     open_records();
-    write_sync_head();
-    write_closed_outline(write_point_record);
-    write_record(sync_section_title, "");
-    write_record("", "");
+    sync_dat_outline(session.Velmora.TxtDescDat, write_record, step_progress);
     if (!ensure_sync_point()) {
         session.files.close(1);
         return False;
     }
-    write_sync_points();
+    sync_dat_sync_points(write_record, step_progress);
     session.files.close(1);
     SetDotDecimals(session.FileName);
     return True;

@@ -1,5 +1,6 @@
 // The dispatcher of WindowsHost: events to handlers, faults, yields, the end of the program.
 #include "document/feedback.h"
+#include "formats/recovery.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
@@ -17,9 +18,12 @@ constexpr std::chrono::milliseconds kYieldInterval(16);
 constexpr int kInternalError = 51;
 constexpr int kFaultStatus = 1;
 
-void report(const RuntimeError& failure) {
-    const std::string text =
+/// Names the file that keeps the outline in one more line.
+void report(const RuntimeError& failure, const std::string& recovered) {
+    std::string text =
         "Run-time error '" + std::to_string(failure.number) + "':\n\n" + description_of(failure);
+    if (!recovered.empty())
+        text += "\n" + recovered;
     platform().dialogs.message(text, buttons::critical, "Velmora");
 }
 
@@ -110,10 +114,11 @@ void WindowsHost::Private::push() const {
 void WindowsHost::Private::fail(const RuntimeError& failure) {
     if (ended)
         return;
+    const std::string recovered = save_recovery();
     if (host.events.fault)
         host.events.fault(failure);
     else
-        report(failure);
+        report(failure, recovered);
     finish(kFaultStatus);
 }
 
