@@ -34,12 +34,12 @@ std::int16_t read_slws(std::string_view path, ReadCounts& counts) {
     (void)next_record(counts);
     FixedRecord record = next_record(counts);
     Forma.Pto.redim(0);
-    while (!session.files.eof(1)) {
+    do {
         if (record.ends_in_line_feed())
             take_point(record, counts);
         record = next_record(counts);
         DoEvents();
-    }
+    } while (!session.files.eof(1));
     session.files.close(1);
     drop_closing_point(Forma.Pto, counts.points);
     session.UltimoPto = session.TotalPtos = counts.points + 1;

@@ -2,6 +2,7 @@
 
 #include "document/session.h"
 #include "formats/sample_files.h"
+#include "formats/watching_settings.h"
 #include "platform/dialogs.h"
 #include "runtime/paths.h"
 #include "support/recording_platform.h"
@@ -13,6 +14,7 @@ namespace {
 
 using test::RecordingPlatform;
 using test::sync_file;
+using test::WatchingSettings;
 
 std::string triangle_file() {
     return sync_file({{"0", "0"}, {"10.26", "0"}, {"10.26", "5"}, {"0", "0"}}, {{"0", "0"}});
@@ -50,6 +52,62 @@ TEST(mnu_openfile, a_failed_load_leaves_the_selection_and_the_list) {
     EXPECT_EQ(session.PtoSel, 2);
     EXPECT_EQ(session.Velmora.Lst_Coords.size(), 3U);
     EXPECT_EQ(platform.settings.get("RecentFiles", "RecentFile1"), platform.path("wing.dat"));
+}
+
+// The settings are looked at in the middle of the refresh, and the list of files is stored near its
+// end: what stands at these moments tells the order.
+void expect_the_order_of_the_refresh(RecordingPlatform& platform, void (*command)()) {
+    session.Precision = 1;
+    session.ZoomFactor = 3;
+    bool read = false;
+    bool stored = false;
+    WatchingSettings settings(platform);
+    settings.at_get = [&] {
+        EXPECT_EQ(Forma.Pto[1].X, 10.3) << "rounded before the settings are read";
+        EXPECT_EQ(session.ZoomFactor, 3);
+        EXPECT_EQ(session.TotalPtos, 1) << "the layout comes later";
+        read = true;
+    };
+    settings.at_save = [&] {
+        EXPECT_EQ(session.ZoomFactor, session.Def_Zoom);
+        EXPECT_EQ(session.TotalPtos, 3);
+        EXPECT_EQ(session.CanvasX0, 1000) << "laid out before it is drawn";
+        EXPECT_EQ(platform.pic.operations.back(), "present");
+        EXPECT_TRUE(session.Velmora.Lst_Coords.empty()) << "the list comes last";
+        stored = true;
+    };
+    command();
+    EXPECT_TRUE(read && stored);
+    EXPECT_EQ(session.Velmora.Lst_Coords.size(), 3U);
+}
+
+std::string left_of_the_axis() {
+    return sync_file({{"0", "0"}, {"10.26", "0"}, {"-10.26", "5"}, {"0", "0"}}, {{"0", "0"}});
+}
+
+TEST(mnu_openfile, keeps_the_order_of_its_steps) {
+    RecordingPlatform platform;
+    platform.dialogs.paths = {platform.write("wing.dat", left_of_the_axis())};
+    session.PtoSel = 9;
+    expect_the_order_of_the_refresh(platform, mnu_openfile);
+}
+
+TEST(mnu_openfile, a_setting_that_is_no_number_comes_after_the_rounding) {
+    RecordingPlatform platform;
+    platform.settings.values[{"Values", "Def_Zoom"}] = "mucho";
+    platform.dialogs.paths = {platform.write("wing.dat", triangle_file())};
+    session.Precision = 1;
+    session.PtoSel = 9;
+    EXPECT_EQ(test::number_of(mnu_openfile), 13);
+    EXPECT_EQ(session.PtoSel, 0);
+    EXPECT_EQ(Forma.Pto[1].X, 10.3);
+    EXPECT_TRUE(session.Velmora.Lst_Coords.empty());
+}
+
+TEST(mnuRecentFile, keeps_the_order_of_its_steps) {
+    RecordingPlatform platform;
+    session.Velmora.mnuRecentFile[4].path = platform.write("wing.dat", left_of_the_axis());
+    expect_the_order_of_the_refresh(platform, [] { mnuRecentFile(4); });
 }
 
 TEST(mnuRecentFile, opens_the_entry_with_all_defaults_and_moves_it_to_the_top) {

@@ -2,6 +2,7 @@
 
 #include "document/session.h"
 #include "formats/sample_files.h"
+#include "formats/watching_settings.h"
 #include "formats/watching_windows.h"
 #include "platform/dialogs.h"
 #include "runtime/paths.h"
@@ -172,6 +173,23 @@ TEST(GeneraFichero, writes_reports_and_remembers) {
     EXPECT_TRUE(runtime::file_exists(path));
     EXPECT_EQ(session.Velmora.MousePointer, 0);
     EXPECT_EQ(platform.settings.get("RecentFiles", "RecentFile1"), path);
+}
+
+TEST(GeneraFichero, remembers_the_file_between_the_sound_and_the_praise) {
+    RecordingPlatform platform;
+    square();
+    session.Velmora.TxtDat_File = platform.path("wing.dat");
+    bool stored = false;
+    test::WatchingSettings settings(platform);
+    settings.at_save = [&] {
+        EXPECT_TRUE(session.Velmora.StatusBar1.ends_with("Creado Correctamente!"));
+        EXPECT_EQ(session.Velmora.MousePointer, 0);
+        EXPECT_EQ(platform.shell.played.size(), 1U);
+        EXPECT_TRUE(platform.dialogs.boxes.empty());
+        stored = true;
+    };
+    GeneraFichero();
+    EXPECT_TRUE(stored);
 }
 
 TEST(GeneraFichero, a_script_has_praise_of_its_own_and_sound_can_be_off) {

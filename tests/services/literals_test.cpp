@@ -203,6 +203,28 @@ TEST_F(LiteralsTest, a_message_shown_meanwhile_uses_the_other_table) {
     EXPECT_EQ(machine.dialogs.boxes.at(0).text, "No hay ninguna forma cargada!");
 }
 
+// One flag and one table for all forms: a form that loads in between is served from what is open.
+TEST_F(LiteralsTest, a_form_that_loads_meanwhile_uses_the_table_that_is_open) {
+    FakeForm second("Segunda");
+    make_table("Segunda");
+    auto& inner = second.add("a", ControlKind::other);
+    struct Loading : FakeForm {
+        using FakeForm::FakeForm;
+        Form* other = nullptr;
+        void set_caption(std::string_view text) override {
+            FakeForm::set_caption(text);
+            AplicaLiterales(*other, "");
+        }
+    } outer("Prueba");
+    outer.other = &second;
+    add("Prueba", "'Título'");
+    add("a", "'de la primera'");
+    add("a", "'de la segunda'", "NULL", "E", "Segunda");
+    AplicaLiterales(outer, "");
+    EXPECT_THAT(inner.texts, ElementsAre("de la primera"));
+    EXPECT_TRUE(machine.dialogs.boxes.empty());
+}
+
 TEST_F(LiteralsTest, without_an_open_table_a_literal_is_empty) {
     add("a", "'A'", "'tip'");
     EXPECT_EQ(GetLiteral("a"), "");
