@@ -88,6 +88,8 @@ class Database {
     /// within one goes on with it, and closing the database drops what was not committed.
     virtual void begin() = 0;
     virtual void commit() = 0;
+    /// Drops what was not committed; outside a transaction nothing.
+    virtual void rollback() noexcept = 0;
 };
 
 } // namespace velmora

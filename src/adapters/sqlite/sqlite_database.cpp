@@ -72,8 +72,7 @@ class SqliteDatabase : public Database {
         connection_ = connect(path);
     }
     void close() noexcept override {
-        if (connection_ && in_transaction())
-            sqlite3_exec(connection_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+        rollback();
         connection_.reset();
     }
     bool is_open() const override { return connection_ != nullptr; }
@@ -104,6 +103,10 @@ class SqliteDatabase : public Database {
         require_open();
         if (in_transaction())
             execute("COMMIT");
+    }
+    void rollback() noexcept override {
+        if (connection_ && in_transaction())
+            sqlite3_exec(connection_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
     }
 
   private:

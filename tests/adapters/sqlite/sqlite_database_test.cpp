@@ -254,6 +254,20 @@ TEST_F(SqliteDatabaseTest, a_table_made_twice_raises_3010_and_a_repeated_key_302
     EXPECT_EQ(number_of([&] { database->execute("INSERT INTO propia VALUES ('a')"); }), 3022);
 }
 
+TEST_F(SqliteDatabaseTest, a_rollback_drops_what_was_not_committed_and_ends_the_transaction) {
+    database->rollback();
+    add_row(1, 10, "A");
+    database->begin();
+    add_row(2, 20, "A");
+    database->rollback();
+    EXPECT_EQ(rows_of("TEMP_AJUSTE"), 1);
+    add_row(3, 30, "A");
+    database->rollback();
+    EXPECT_EQ(rows_of("TEMP_AJUSTE"), 2);
+    database->close();
+    database->rollback();
+}
+
 TEST_F(SqliteDatabaseTest, closing_drops_a_transaction_that_was_not_committed) {
     database->begin();
     database->begin();
