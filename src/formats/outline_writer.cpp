@@ -5,6 +5,7 @@
 #include "document/refresh.h"
 #include "document/session.h"
 #include "formats/files.h"
+#include "formats/record_file.h"
 #include "formats/sync_dat.h"
 #include "platform/dialogs.h"
 #include "runtime/paths.h"
@@ -27,10 +28,6 @@ void step_progress() {
     DoEvents();
 }
 
-void write_record(const FixedRecord& record) {
-    session.files.write(1, record.bytes());
-}
-
 /// All points, then the first once more: the outline is open in memory and closed in a file.
 template <class Write>
 void write_closed_outline(Write&& write) {
@@ -38,16 +35,6 @@ void write_closed_outline(Write&& write) {
     for (std::int32_t i = 0; i <= upper; ++i)
         write(Forma.Pto[i]);
     write(Forma.Pto[0]);
-}
-
-/// Opens the file for records. Records are written over what stands there, so a file that could
-/// not be deleted is emptied first: the new one is whole and nothing but itself.
-void open_records() {
-    if (runtime::file_exists(session.FileName)) {
-        session.files.open_output(1, session.FileName);
-        session.files.close(1);
-    }
-    session.files.open_random(1, session.FileName, FixedRecord::length);
 }
 
 /// Sync points are needed: without one, point 0 becomes it or the form is refused.
@@ -62,7 +49,7 @@ bool ensure_sync_point() {
 
 /// The sync DAT. Refused, it stays as far as it was written, on purpose.
 std::int16_t write_sync_dat() {
-    open_records();
+    open_records_anew(session.FileName);
     sync_dat_outline(session.Velmora.TxtDescDat, write_record, step_progress);
     if (!ensure_sync_point()) {
         session.files.close(1);

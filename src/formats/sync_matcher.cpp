@@ -19,10 +19,12 @@ std::uint64_t hash_of(double x, double y) {
 
 } // namespace
 
-SyncMatcher::SyncMatcher(Array<Pto>& points)
+SyncMatcher::SyncMatcher(Array<Pto>& points) : SyncMatcher(points, points.upper()) {}
+
+SyncMatcher::SyncMatcher(Array<Pto>& points, std::int32_t last)
     : points_(points), first_at_(std::bit_ceil(2 * points.size()), kNone),
       next_(points.size(), kNone) {
-    for (std::int32_t i = points.upper(); i >= 0; --i) {
+    for (std::int32_t i = last; i >= 0; --i) {
         const Pto& point = points[i];
         std::int32_t& first = first_at_[slot_of(point.X, point.Y)];
         next_[static_cast<std::size_t>(i)] = first;

@@ -15,6 +15,8 @@ namespace velmora {
 class SyncMatcher {
   public:
     explicit SyncMatcher(Array<Pto>& points);
+    /// Of the points up to index `last` alone. Raises 9 where that lies beyond the outline.
+    SyncMatcher(Array<Pto>& points, std::int32_t last);
 
     /// Sets Sinc of every point whose coordinates equal these, and tells how many there are; all of
     /// them again when the place comes again.

@@ -63,6 +63,14 @@ TEST(SyncMatcher, one_point_alone) {
     EXPECT_EQ(points[0].Sinc, 1);
 }
 
+TEST(SyncMatcher, points_behind_the_given_index_are_not_searched) {
+    Array<Pto> points = array_of_points({{1, 2, 0, 0}, {3, 4, 0, 0}, {1, 2, 0, 0}});
+    SyncMatcher matcher(points, 1);
+    EXPECT_EQ(matcher.mark(1, 2), 1);
+    EXPECT_EQ(points[2].Sinc, 0);
+    EXPECT_EQ(test::number_of([&] { SyncMatcher(points, 3); }), 9);
+}
+
 TEST(SyncMatcher, an_outline_cut_meanwhile_raises_9) {
     Array<Pto> points = array_of_points({{1, 1, 0, 0}, {2, 2, 0, 0}});
     SyncMatcher matcher(points);
