@@ -104,6 +104,8 @@ struct Session {
     CompensaWindow Compensa;
     SetupWindow setup;
     AcercaWindow acerca;
+    AjusteWindow ajuste;
+    AjusteOptWindow ajuste_opt;
 };
 
 extern Session session;

@@ -134,4 +134,24 @@ struct AcercaWindow {
     std::string SSPanel1;
 };
 
+/// The workbench of two sides. What is disabled here is so by design.
+struct AjusteWindow {
+    std::string txt_fileA, Txt_FileB; ///< paths of the loaded sides
+    std::string TxtTotalPtos_A, TxtTotalPtos_B;
+    std::string TxtTotalCtrlPtos_A, TxtTotalCtrlPtos_B;
+    std::string Txt_File_A2, Txt_File_B2; ///< paths of the results
+    std::string TxtTotalPtosNew_A, TxtTotalPtosNew_B;
+    std::string TxtTotalCtrlPtosNew_A, TxtTotalCtrlPtosNew_B;
+    bool ChkPtosCtrl = false;
+    bool cmd_opt_enabled = false;
+    bool Cmd_Ajuste_enabled = false;
+    bool Cmd_save_enabled = false;
+    bool cmd_exit_enabled = true;
+};
+
+struct AjusteOptWindow {
+    std::string txt_X, txt_Y, txt_Z;
+    bool cmb_ok_enabled = false;
+};
+
 } // namespace velmora

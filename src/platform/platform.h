@@ -13,6 +13,7 @@ class Clock;
 class Machine;
 class Surface;
 class Autocad;
+class Previews;
 
 struct Platform {
     Dialogs& dialogs;
@@ -24,6 +25,7 @@ struct Platform {
     Machine& machine;
     Surface& pic; ///< drawing operations of the canvas
     Autocad& cad;
+    Previews* previews = nullptr; ///< the small pictures of the adjustment, where a build has them
 };
 
 void set_platform(const Platform& services);

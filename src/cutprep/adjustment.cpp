@@ -1,0 +1,200 @@
+#include "cutprep/adjustment.h"
+
+#include "cutprep/merged_list.h"
+#include "cutprep/previews.h"
+#include "cutprep/projection.h"
+#include "document/feedback.h"
+#include "document/number_text.h"
+#include "document/session.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+
+#include <string>
+
+namespace velmora {
+
+namespace {
+
+constexpr int kHourglass = 11;
+constexpr int kDefaultPointer = 0;
+
+/// Where a point between two others lies: at `percent` of the way from `a` to `b`.
+double between(double a, double b, double percent) {
+    if (a < b)
+        return runtime::checked((b - a) / 100.0 * percent + a);
+    if (a > b)
+        return runtime::checked(a - (a - b) / 100.0 * percent);
+    return a;
+}
+
+/// The working point behind the run's end. The last run has no sync point of its own ordinal
+/// behind it; the last element stands in for the point that follows.
+Pto beyond_run(const AdjustedSide& side, std::int32_t tramo, std::int32_t NumSinc) {
+    const Array<Pto>& points = side.side.Trabajo;
+    const std::int32_t following = side.syncs.nth(tramo) + 1;
+    if (following > points.upper())
+        return points[0];
+    return points[tramo == NumSinc ? points.upper() : following];
+}
+
+/// One pass over the merged list, which gives one element of Ptos2 per row.
+class MergedPass {
+  public:
+    MergedPass(AdjustedSide& own, std::int32_t tramo, std::int32_t NumSinc)
+        : own_(own), points_(own.side.Ptos2), tramo_(tramo), NumSinc_(NumSinc) {}
+
+    void run() {
+        points_.redim_keep(own_.Idx);
+        MergedList rows;
+        take_sync_point(rows);
+        for (rows.next(); !rows.at_end(); rows.next())
+            take(rows);
+        show_total();
+    }
+
+  private:
+    /// In the place of what the run before left last.
+    void take_sync_point(MergedList& rows) {
+        points_[own_.Idx] = {.X = rows.X(), .Y = rows.Y(), .Sinc = 1};
+        show_total();
+        std::string& syncs = own_.side.TxtTotalCtrlPtosNew;
+        syncs = CStr(runtime::Val(syncs) + 1);
+        DoEvents();
+    }
+
+    void take(MergedList& rows) {
+        ++own_.Idx;
+        points_.redim_keep(own_.Idx);
+        if (rows.belongs_to(own_.side.lado))
+            take_own(rows);
+        else
+            InsertaPtoTramo(own_, own_.Idx, orden_, tramo_, NumSinc_);
+    }
+
+    /// The sync point that ends the run isn't kept: the next run's first row writes it.
+    void take_own(MergedList& rows) {
+        points_[own_.Idx] = {.X = rows.X(), .Y = rows.Y()};
+        orden_ = rows.orden();
+        if (orden_ != own_.Tramo.upper())
+            return;
+        --own_.Idx;
+        points_.redim_keep(own_.Idx);
+    }
+
+    void show_total() { own_.side.TxtTotalPtosNew = CStr(own_.Idx + 1); }
+
+    AdjustedSide& own_;
+    Array<Pto>& points_;
+    std::int32_t tramo_;
+    std::int32_t NumSinc_;
+    std::int32_t orden_ = 0; ///< of the own row last read
+};
+
+void append_run(AdjustedSide& side) {
+    Array<Pto>& points = side.side.Ptos2;
+    if (points.upper() == 0)
+        side.Idx = -1;
+    for (std::int32_t i = 0; i <= side.Tramo.upper(); ++i) {
+        ++side.Idx;
+        points.redim_keep(side.Idx);
+        points[side.Idx].X = side.Tramo[i].X;
+        points[side.Idx].Y = side.Tramo[i].Y;
+    }
+}
+
+void merge_run(AdjustedSide& own, const AdjustedSide& other, std::int32_t tramo,
+               std::int32_t NumSinc) {
+    fill_merged_list(own, other);
+    MergedPass(own, tramo, NumSinc).run();
+    DoEvents();
+}
+
+/// All runs of one press.
+class Runs {
+  public:
+    explicit Runs(std::int32_t NumSinc) : NumSinc_(NumSinc) {}
+
+    void adjust() {
+        const std::string status = session.Velmora.StatusBar1;
+        for (std::int32_t tramo = 1; tramo <= NumSinc_; ++tramo) {
+            set_status(std::to_string(tramo) + " / " + std::to_string(NumSinc_));
+            DoEvents();
+            adjust_run(tramo);
+        }
+        transaction_.commit();
+        set_status(status);
+    }
+
+  private:
+    void adjust_run(std::int32_t tramo) {
+        locate_run(A_);
+        locate_run(B_);
+        CargaTramo(A_, A_.Inicio, A_.Fin);
+        CargaTramo(B_, B_.Inicio, B_.Fin);
+        if (A_.Tramo.upper() == B_.Tramo.upper()) {
+            append_run(A_);
+            append_run(B_);
+            return;
+        }
+        transaction_.begin();
+        merge_run(A_, B_, tramo, NumSinc_);
+        merge_run(B_, A_, tramo, NumSinc_);
+    }
+
+    std::int32_t NumSinc_;
+    AdjustedSide A_{"A"};
+    AdjustedSide B_{"B"};
+    MergeTransaction transaction_;
+};
+
+/// The path less its last four characters, with "2.DAT" behind it. Raises 5 for a shorter one.
+std::string result_path(const std::string& loaded) {
+    return runtime::Left(loaded, static_cast<int>(runtime::Len(loaded)) - 4) + "2.DAT";
+}
+
+void begin() {
+    session.PtosA2.redim(0);
+    session.PtosB2.redim(0);
+    set_pointer(kHourglass);
+}
+
+void copy_to_work() {
+    session.TrabajoA = session.PtosA;
+    session.TrabajoB = session.PtosB;
+}
+
+} // namespace
+
+void InsertaPtoTramo(AdjustedSide& side, std::int32_t destino, std::int32_t indice,
+                     std::int32_t tramo, std::int32_t NumSinc) {
+    const PtoTramo& here = side.Tramo[indice];
+    Pto point;
+    if (indice + 1 <= side.Tramo.upper()) {
+        const PtoTramo& next = side.Tramo[indice + 1];
+        point.X = between(here.X, next.X, next.PosPercent);
+        point.Y = between(here.Y, next.Y, next.PosPercent);
+    } else {
+        const Pto next = beyond_run(side, tramo, NumSinc);
+        point.X = between(here.X, next.X, 100.0);
+        point.Y = between(here.Y, next.Y, 100.0);
+    }
+    side.side.Ptos2[destino] = point;
+}
+
+void Cmd_Ajuste_Click() {
+    begin();
+    const std::int32_t NumSinc = runtime::to_int32(runtime::Val(session.ajuste.TxtTotalCtrlPtos_A));
+    copy_to_work();
+    Runs(NumSinc).adjust();
+    DibujaNewMini_A();
+    DibujaNewMini_B();
+    project_results();
+    DibujaDefMini_A();
+    DibujaDefMini_B();
+    session.ajuste.Txt_File_A2 = result_path(session.ajuste.txt_fileA);
+    session.ajuste.Txt_File_B2 = result_path(session.ajuste.Txt_FileB);
+    session.ajuste.Cmd_save_enabled = true;
+    set_pointer(kDefaultPointer);
+}
+
+} // namespace velmora

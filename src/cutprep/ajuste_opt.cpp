@@ -1,0 +1,70 @@
+#include "cutprep/ajuste_opt.h"
+
+#include "document/number_text.h"
+#include "document/session.h"
+#include "document/text_box.h"
+#include "platform/platform.h"
+#include "platform/windows.h"
+#include "runtime/numbers.h"
+#include "services/numeric_box.h"
+#include "services/window_literals.h"
+
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::string_view kWindow = "ajuste_opt";
+
+void offer_stored(std::string& box, double stored) {
+    if (stored != 0)
+        put_text(box, CStr(stored), ajuste_opt_Change);
+}
+
+NumericBox box_of(AjusteOptBox box) {
+    AjusteOptWindow& window = session.ajuste_opt;
+    switch (box) {
+    case AjusteOptBox::txt_X:
+        return {kWindow, "txt_X", window.txt_X, ".", "0", ajuste_opt_Change};
+    case AjusteOptBox::txt_Y:
+        return {kWindow, "txt_Y", window.txt_Y, ".", "0", ajuste_opt_Change};
+    case AjusteOptBox::txt_Z:
+        break;
+    }
+    return {kWindow, "txt_Z", window.txt_Z, ".", "0", ajuste_opt_Change};
+}
+
+} // namespace
+
+void ajuste_opt_Load() {
+    session.ajuste_opt = {};
+    load_literals(kWindow);
+    offer_stored(session.ajuste_opt.txt_X, session.OptX);
+    offer_stored(session.ajuste_opt.txt_Y, session.OptY);
+    offer_stored(session.ajuste_opt.txt_Z, session.OptZ);
+}
+
+void ajuste_opt_Change() {
+    const auto other_than_0 = [](const std::string& text) {
+        return runtime::Val(text) != 0;
+    };
+    AjusteOptWindow& window = session.ajuste_opt;
+    window.cmb_ok_enabled =
+        other_than_0(window.txt_X) && other_than_0(window.txt_Y) && other_than_0(window.txt_Z);
+}
+
+int ajuste_opt_KeyPress(AjusteOptBox box, int key) {
+    return numeric_key(box_of(box), key);
+}
+
+void cmb_ok_Click() {
+    const AjusteOptWindow& window = session.ajuste_opt;
+    session.OptX = runtime::Val(window.txt_X);
+    session.OptZ = runtime::Val(window.txt_Z);
+    session.OptY = runtime::Val(window.txt_Y);
+    platform().windows.unload(kWindow);
+}
+
+} // namespace velmora

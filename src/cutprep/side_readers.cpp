@@ -1,0 +1,106 @@
+#include "cutprep/side_readers.h"
+
+#include "cutprep/side.h"
+#include "formats/coordinate_limit.h"
+#include "formats/reader_support.h"
+#include "formats/record_file.h"
+#include "formats/slwmd.h"
+#include "formats/slwsinc.h"
+#include "formats/sync_matcher.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace velmora {
+
+namespace {
+
+void report(const ReaderName& name, const RuntimeError& failure, const ReadCounts& counts) {
+    session.files.abandon(1);
+    show_reader_error(name, failure, counts.lines);
+}
+
+/// UltimoPto keeps the count with the closing point, on purpose.
+void close_outline(Array<Pto>& pts, const Side& side, ReadCounts& counts) {
+    session.UltimoPto = counts.points;
+    show_count(side.TxtTotalPtos, counts.points);
+    drop_closing_point(pts, counts.points);
+    show_count(side.TxtTotalPtos, counts.points);
+}
+
+void read_slwsinc(std::string_view path, Array<Pto>& pts, const Side& side, ReadCounts& counts) {
+    session.files.open_random(1, path, FixedRecord::length);
+    (void)next_record(counts);
+    (void)next_record(counts);
+    read_slwsinc_outline(pts, side.TxtTotalPtos, counts);
+    close_outline(pts, side, counts);
+    match_slwsinc_sync_points(pts, side.TxtTotalCtrlPtos, counts);
+    session.files.close(1);
+}
+
+/// The search as far as the document in the main window reaches.
+class DocumentLongSearch {
+  public:
+    DocumentLongSearch(Array<Pto>& pts, const Side& side) : pts_(pts), side_(side) {}
+
+    void mark(double X, double Y) {
+        const std::int32_t last = Forma.Pto.upper();
+        if (!matcher_)
+            matcher_.emplace(pts_, std::min(last, pts_.upper()));
+        const std::int32_t marked = matcher_->mark(X, Y);
+        total_ += marked;
+        if (marked > 0)
+            show_count(side_.TxtTotalCtrlPtos, total_);
+        if (last > pts_.upper())
+            raise(error::subscript);
+    }
+
+  private:
+    Array<Pto>& pts_;
+    const Side& side_;
+    std::optional<SyncMatcher> matcher_;
+    std::int64_t total_ = 0;
+};
+
+Pass read_slwmd(std::string_view path, Array<Pto>& pts, const Side& side, ReadCounts& counts,
+                CoordinateLimit& limit) {
+    session.files.open_input(1, path);
+    (void)read_line(counts);
+    (void)read_line(counts);
+    if (!read_slwmd_outline(pts, counts, limit))
+        return Pass::over_limit;
+    close_outline(pts, side, counts);
+    DocumentLongSearch search(pts, side);
+    read_slwmd_sync_points(counts, [&](double X, double Y) { search.mark(X, Y); });
+    session.files.close(1);
+    return Pass::complete;
+}
+
+} // namespace
+
+void CargaSLWSINC2(std::string_view fichero, Array<Pto>& pts, std::string_view lado, Flag& ok) {
+    const Side side = side_of(lado);
+    ReadCounts counts;
+    ok = False;
+    trap(
+        [&] {
+            read_slwsinc(fichero, pts, side, counts);
+            ok = True;
+        },
+        [&](const RuntimeError& failure) { report({"CargaSLWSINC2"}, failure, counts); });
+}
+
+void CargaSLWMD_a(std::string_view fichero, Array<Pto>& pts, std::string_view lado, Flag& ok) {
+    const Side side = side_of(lado);
+    ReadCounts counts;
+    ok = False;
+    trap(
+        [&] {
+            ok = read_within_limit(fichero, pts, counts, [&](CoordinateLimit& limit) {
+                return read_slwmd(fichero, pts, side, counts, limit);
+            });
+        },
+        [&](const RuntimeError& failure) { report({"CargaSLWMD_a"}, failure, counts); });
+}
+
+} // namespace velmora

@@ -1,0 +1,113 @@
+#include "cutprep/sides.h"
+
+#include "cutprep/previews.h"
+#include "cutprep/side.h"
+#include "cutprep/side_readers.h"
+#include "document/feedback.h"
+#include "document/session.h"
+#include "formats/box_text.h"
+#include "formats/load.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+#include "platform/windows.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+#include "services/window_literals.h"
+
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::string_view kWindow = "ajuste";
+constexpr std::string_view kNotice =
+    "Tened en cuenta que esta funcionalidad, todavia está en fase de pruebas y desarrolo, podeis "
+    "jugar con ella, y de paso podeis ir comentando cosillas.";
+
+std::string ask_for_path() {
+    if (session.LastDir.empty())
+        session.LastDir = session.program_folder;
+    return platform().dialogs.open_file({.title = GetMensaje(mensaje::open_title),
+                                         .filter = "DAT Files |*.DAT",
+                                         .folder = session.LastDir,
+                                         .name = {}});
+}
+
+void refuse(std::string_view path) {
+    MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), path, GetMensaje(mensaje::not_loaded)}),
+           buttons::critical, box_title());
+    set_pointer(0);
+}
+
+/// True when the side was read whole.
+bool read_side(const Side& side, const std::string& path) {
+    Flag ok = False;
+    switch (GetFileFormat(path, runtime::UCase(path))) {
+    case FileFormat::SLWSINC:
+        CargaSLWSINC2(path, side.Ptos, side.lado, ok);
+        break;
+    case FileFormat::SLWMD:
+        CargaSLWMD_a(path, side.Ptos, side.lado, ok);
+        break;
+    default:
+        refuse(path);
+    }
+    return ok != False;
+}
+
+void compare_sync_totals() {
+    AjusteWindow& window = session.ajuste;
+    window.cmd_opt_enabled =
+        runtime::Val(window.TxtTotalCtrlPtos_B) == runtime::Val(window.TxtTotalCtrlPtos_A);
+    if (!window.cmd_opt_enabled)
+        MuestraMensaje(mensaje::sync_totals_differ);
+}
+
+void select_side(const Side& side, const Side& other, void (*draw)()) {
+    session.ajuste.cmd_opt_enabled = false;
+    const std::string path = ask_for_path();
+    if (path.empty())
+        return;
+    side.txt_file = path;
+    if (!read_side(side, path))
+        return;
+    draw();
+    if (other.Ptos.upper() > 0)
+        compare_sync_totals();
+}
+
+} // namespace
+
+void ajuste_Load() {
+    session.ajuste = {};
+    session.PtosA.redim(0);
+    session.PtosB.redim(0);
+    load_literals(kWindow);
+}
+
+void ajuste_Activate() {
+    MsgBox(kNotice, buttons::information);
+}
+
+void cmd_selA_Click() {
+    select_side(side_of("A"), side_of("B"), DibujaMini_A);
+}
+
+void cmd_selB_Click() {
+    select_side(side_of("B"), side_of("A"), DibujaMini_B);
+}
+
+void cmd_opt_Click() {
+    platform().windows.show_modal("ajuste_opt");
+    session.ajuste.Cmd_Ajuste_enabled = true;
+}
+
+void ajuste_cmd_exit_Click() {
+    platform().windows.unload(kWindow);
+}
+
+} // namespace velmora
