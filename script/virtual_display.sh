@@ -1,7 +1,7 @@
 # Sourced by what runs the program on a virtual display: an X server, a window manager and a home
 # folder of their own, with real key and pointer events. All of it goes at the end.
 #
-# start_display WIDTHxHEIGHT, start_program PROGRAM FOLDER, await TITLE, picture FILE
+# start_display WIDTHxHEIGHT, start_program PROGRAM FOLDER [PICTURE], await TITLE, picture FILE
 
 display_folder=$(mktemp -d "${TMPDIR:-/tmp}/velmora-display-XXXXXX")
 display_processes=()
@@ -25,6 +25,7 @@ until_done() {
 }
 
 fail() {
+    picture "${pictures:-$display_folder}/failed.png" || true
     echo "$(basename "$0"): $*" >&2
     exit 1
 }
@@ -42,7 +43,7 @@ start_display() {
     export XDG_DATA_HOME=$HOME/data XDG_CONFIG_HOME=$HOME/config XDG_CACHE_HOME=$HOME/cache
     export XDG_STATE_HOME=$HOME/state XDG_CURRENT_DESKTOP=
     export QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8
-    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp \
+    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp -noreset \
         3>"$display_folder/display" 2>"$display_folder/xvfb.log" &
     display_processes+=($!)
     until_done test -s "$display_folder/display" || fail "no display"
@@ -53,7 +54,8 @@ start_display() {
     until_done xdotool get_desktop >/dev/null 2>&1 || fail "no window manager"
 }
 
-# Starts the program in a folder and clicks its start window away; `running` is its process.
+# Starts the program in a folder and clicks its start window away, after a picture of it where one
+# is wanted; `running` is the program's process.
 start_program() {
     (cd "$2" && exec "$1") 2>"$display_folder/program.log" &
     running=$!
