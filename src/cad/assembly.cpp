@@ -82,8 +82,16 @@ void copy_entity(const ObjCad& object, bool with_first_point, std::int32_t& writ
         put_point(object.Ptos[j], write_index);
 }
 
+std::size_t points_of_all() {
+    std::size_t points = 0;
+    for (const ObjCad& object : session.ObjsCad.all())
+        points += object.Ptos.size();
+    return points;
+}
+
 void copy_chain(std::int32_t& write_index) {
     IniciaUsados();
+    Forma.Pto.reserve(points_of_all());
     std::int32_t waiting = ContarNoUsados();
     const ByPosition entities(session.ObjsCad);
     std::int32_t at = nothing;

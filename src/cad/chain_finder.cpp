@@ -3,37 +3,20 @@
 #include "cad/entities.h"
 #include "document/feedback.h"
 #include "document/session.h"
-#include "runtime/numbers.h"
 
-#include <bit>
+#include <utility>
 
 namespace velmora {
 
-namespace {
-
-std::uint64_t mixed(std::uint64_t bits) {
-    bits ^= bits >> 32;
-    bits *= 0xD6E8FEB86659FD93U;
-    bits ^= bits >> 32;
-    return bits;
-}
-
-std::uint64_t hash_of(double X, double Y) {
-    const std::uint64_t of_x = mixed(std::bit_cast<std::uint64_t>(X));
-    return mixed(of_x + 0x9E3779B97F4A7C15U + std::bit_cast<std::uint64_t>(Y));
-}
-
-} // namespace
-
-ChainFinder::ChainFinder(Array<ObjCad>& objects) : objects_(objects) {
-    // Two ends for each entity, and half of the table or more stays free.
-    cells_.resize(std::bit_ceil(objects.size() * 4 + 1));
-    next_in_cell_.resize(objects.size() * 2, nothing);
+ChainFinder::ChainFinder(Array<ObjCad>& objects)
+    : objects_(objects), cells_(2 * objects.size()), behind_(2 * objects.size(), nothing),
+      cell_of_end_(2 * objects.size(), nothing), used_(objects.size(), true) {
     // From the last to the first, so that each cell's list rises.
     for (std::int32_t i = objects.upper(); i >= 0; --i) {
         const ObjCad& object = objects[i];
         if (object.Usado != 0)
             continue;
+        used_[static_cast<std::size_t>(i)] = false;
         ++unused_;
         add_end(last_point(object), 2 * i + 1);
         add_end(object.Ptos[0], 2 * i);
@@ -41,67 +24,77 @@ ChainFinder::ChainFinder(Array<ObjCad>& objects) : objects_(objects) {
 }
 
 std::int32_t ChainFinder::BuscaSiguiente(double X, double Y, bool porVertices) {
-    const std::int32_t lowest = lowest_at(X, Y);
-    if (lowest != nothing) {
-        if (!touches(objects_[lowest].Ptos[0], X, Y))
-            reverse_points(objects_[lowest]);
-        return lowest;
-    }
+    const std::int32_t found = touching(cells_.find(X, Y));
+    if (found != nothing)
+        return found;
     if (unused_ == 1)
-        return first_unused();
-    const std::int32_t found = porVertices ? polyline_with_vertex(X, Y) : nothing;
-    if (found == nothing)
+        return last_left();
+    const std::int32_t polyline = porVertices ? polyline_with_vertex(X, Y) : nothing;
+    if (polyline == nothing)
         set_pointer(0);
-    return found;
+    return polyline;
+}
+
+std::int32_t ChainFinder::next_after(std::int32_t index) {
+    const std::int32_t cell = cell_of(2 * index + 1);
+    // An element that was used from the start has no cell here.
+    if (cell == CellIndex::none) {
+        const Pto& last = last_point(objects_[index]);
+        return BuscaSiguiente(last.X, last.Y, false);
+    }
+    const std::int32_t found = touching(cell);
+    if (found != nothing)
+        return found;
+    if (unused_ == 1)
+        return last_left();
+    set_pointer(0);
+    return nothing;
 }
 
 void ChainFinder::take(std::int32_t index) {
-    ObjCad& object = objects_[index];
-    if (object.Usado == 0)
-        --unused_;
-    object.Usado = True;
-}
-
-ChainFinder::Cell ChainFinder::cell_of(double X, double Y) {
-    // A sum with 0 makes one cell of the two zeros.
-    return {runtime::Int(X) + 0.0, runtime::Int(Y) + 0.0, nothing};
-}
-
-ChainFinder::Cell& ChainFinder::slot_of(const Cell& cell) {
-    const std::size_t mask = cells_.size() - 1;
-    std::size_t at = hash_of(cell.X, cell.Y) & mask;
-    while (cells_[at].first != nothing && (cells_[at].X != cell.X || cells_[at].Y != cell.Y))
-        at = (at + 1) & mask;
-    return cells_[at];
+    objects_[index].Usado = True;
+    if (is_used(index))
+        return;
+    used_[static_cast<std::size_t>(index)] = true;
+    --unused_;
 }
 
 void ChainFinder::add_end(const Pto& point, std::int32_t end) {
-    Cell cell = cell_of(point.X, point.Y);
-    Cell& slot = slot_of(cell);
-    next_in_cell_[static_cast<std::size_t>(end)] = slot.first;
-    cell.first = end;
-    slot = cell;
+    const std::int32_t cell = cells_.mention(point.X, point.Y);
+    cell_of(end) = cell;
+    if (static_cast<std::size_t>(cell) == ends_.size())
+        ends_.emplace_back();
+    EndsOfCell& ends = ends_[static_cast<std::size_t>(cell)];
+    if (ends.second != nothing)
+        behind(ends.first) = ends.second;
+    ends.second = std::exchange(ends.first, end);
 }
 
-std::int32_t ChainFinder::lowest_at(double X, double Y) {
-    Cell& slot = slot_of(cell_of(X, Y));
-    if (slot.first == nothing)
-        return nothing;
-    // Ends of used entities leave the list when they are met, but for its last one, which keeps the
-    // cell in the table.
-    const auto used = [&](std::int32_t end) {
-        return objects_[end / 2].Usado != 0;
-    };
-    std::int32_t next = next_in_cell_[static_cast<std::size_t>(slot.first)];
-    while (used(slot.first) && next != nothing) {
-        slot.first = next;
-        next = next_in_cell_[static_cast<std::size_t>(next)];
+ChainFinder::EndsOfCell& ChainFinder::cleared(std::int32_t cell) {
+    EndsOfCell& ends = ends_[static_cast<std::size_t>(cell)];
+    while (ends.second != nothing && is_used(ends.first / 2)) {
+        ends.first = ends.second;
+        ends.second = behind(ends.second);
     }
-    return used(slot.first) ? nothing : slot.first / 2;
+    return ends;
 }
 
-std::int32_t ChainFinder::first_unused() {
-    while (objects_[first_unused_].Usado != 0)
+/// The lowest unused entity with an end in the cell, turned so that it starts there.
+std::int32_t ChainFinder::touching(std::int32_t cell) {
+    if (cell == CellIndex::none)
+        return nothing;
+    const std::int32_t found = cleared(cell).first / 2;
+    if (is_used(found))
+        return nothing;
+    if (cell_of(2 * found) != cell) {
+        reverse_points(objects_[found]);
+        std::swap(cell_of(2 * found), cell_of(2 * found + 1));
+    }
+    return found;
+}
+
+std::int32_t ChainFinder::last_left() {
+    while (is_used(first_unused_))
         ++first_unused_;
     return first_unused_;
 }

@@ -2,6 +2,7 @@
 // cell. The ends are kept by cell, so that a walk costs as much as the list is long.
 #pragma once
 
+#include "cad/cell_index.h"
 #include "document/obj_cad.h"
 
 #include <cstdint>
@@ -22,32 +23,46 @@ class ChainFinder {
     /// goes back to the default where nothing is found.
     std::int32_t BuscaSiguiente(double X, double Y, bool porVertices);
 
+    /// The same at the last point of an element, without the vertices.
+    std::int32_t next_after(std::int32_t index);
+
     /// Marks the element as used.
     void take(std::int32_t index);
     /// Elements with Usado 0.
     [[nodiscard]] std::int32_t unused() const { return unused_; }
+    [[nodiscard]] bool is_used(std::int32_t index) const {
+        return used_[static_cast<std::size_t>(index)];
+    }
 
   private:
     static constexpr std::int32_t nothing = -1;
 
-    /// A cell of whole units and the lowest of the ends in it. An end is twice the index of its
-    /// entity, plus 1 for the last point.
-    struct Cell {
-        double X = 0;
-        double Y = 0;
+    /// An end is twice the index of its entity, plus 1 for the last point.
+    struct EndsOfCell {
         std::int32_t first = nothing;
+        std::int32_t second = nothing; ///< the rest of the list hangs on it; most have none
     };
 
-    [[nodiscard]] static Cell cell_of(double X, double Y);
-    [[nodiscard]] Cell& slot_of(const Cell& cell);
     void add_end(const Pto& point, std::int32_t end);
-    [[nodiscard]] std::int32_t lowest_at(double X, double Y);
-    [[nodiscard]] std::int32_t first_unused();
+    /// The list of a cell without its lowest ends that are used, but for its very last end.
+    EndsOfCell& cleared(std::int32_t cell);
+    [[nodiscard]] std::int32_t touching(std::int32_t cell);
+    [[nodiscard]] std::int32_t last_left();
     [[nodiscard]] std::int32_t polyline_with_vertex(double X, double Y) const;
 
+    [[nodiscard]] std::int32_t& behind(std::int32_t end) {
+        return behind_[static_cast<std::size_t>(end)];
+    }
+    [[nodiscard]] std::int32_t& cell_of(std::int32_t end) {
+        return cell_of_end_[static_cast<std::size_t>(end)];
+    }
+
     Array<ObjCad>& objects_;
-    std::vector<Cell> cells_;                ///< open addressing, a power of two
-    std::vector<std::int32_t> next_in_cell_; ///< by end
+    CellIndex cells_;
+    std::vector<EndsOfCell> ends_;          ///< by cell
+    std::vector<std::int32_t> behind_;      ///< by end: the next one of its cell's list
+    std::vector<std::int32_t> cell_of_end_; ///< by end as the entity runs now
+    std::vector<bool> used_;                ///< Usado, close together
     std::int32_t unused_ = 0;
     std::int32_t first_unused_ = 0; ///< nothing unused stands before it
 };

@@ -1,12 +1,12 @@
 #include "cad/chain_walk.h"
 
 #include "cad/chain_finder.h"
-#include "cad/entities.h"
 #include "document/feedback.h"
 #include "document/session.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 
+#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -14,35 +14,26 @@ namespace velmora {
 
 namespace {
 
-std::vector<std::int32_t> unused_indices(const Array<ObjCad>& objects) {
-    std::vector<std::int32_t> unused;
-    for (std::int32_t i = 0; i <= objects.upper(); ++i) {
-        if (objects[i].Usado == 0)
-            unused.push_back(i);
-    }
-    return unused;
-}
-
 /// Goes over the unused elements by index, again and again, until none is left: each either finds
 /// a continuation of the chain, which need not be itself and goes to `place`, or is given up.
 template <class Place, class GiveUp>
-void walk(ChainFinder& finder, Pto current, const Place& place, const GiveUp& give_up) {
-    Array<ObjCad>& objects = session.ObjsCad;
-    std::vector<std::int32_t> round = unused_indices(objects);
+void walk(ChainFinder& finder, std::int32_t current, const Place& place, const GiveUp& give_up) {
+    std::vector<std::int32_t> round(session.ObjsCad.size());
+    std::iota(round.begin(), round.end(), 0);
     while (finder.unused() > 0) {
         std::vector<std::int32_t> left;
         for (const std::int32_t i : round) {
-            if (objects[i].Usado != 0)
+            if (finder.is_used(i))
                 continue;
-            const std::int32_t found = finder.BuscaSiguiente(current.X, current.Y, false);
+            const std::int32_t found = finder.next_after(current);
             finder.take(found > -1 ? found : i);
             if (found > -1) {
-                current = last_point(objects[found]);
+                current = found;
                 place(found);
             } else {
                 give_up(i);
             }
-            if (objects[i].Usado == 0)
+            if (!finder.is_used(i))
                 left.push_back(i);
         }
         round = std::move(left);
@@ -79,7 +70,7 @@ void walk_dxf() {
         objects[found].Orden = ++position;
         show_progress(position);
     };
-    walk(finder, last_point(objects[0]), place, [](std::int32_t) {});
+    walk(finder, 0, place, [](std::int32_t) {});
 }
 
 std::optional<std::int32_t>
@@ -113,7 +104,7 @@ walk_capture(std::int32_t model_space_count,
         colour_incoherent(index);
         ++incoherent;
     };
-    walk(finder, last_point(objects[start]), place, give_up);
+    walk(finder, start, place, give_up);
     return incoherent;
 }
 

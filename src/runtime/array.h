@@ -37,6 +37,8 @@ class Array {
         check_bound(upper);
         items_.resize(static_cast<std::size_t>(upper) + 1);
     }
+    /// Makes room for so many elements; the bounds stay.
+    void reserve(std::size_t elements) { items_.reserve(elements); }
     /// One element more at the end.
     void append(const T& item) { items_.push_back(item); }
     /// Back to having no dimensions.

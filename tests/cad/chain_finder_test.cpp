@@ -83,6 +83,31 @@ TEST(ChainFinder, por_vertices_finds_a_polyline_used_or_not_and_leaves_it_as_dra
     EXPECT_EQ(session.Velmora.MousePointer, 0);
 }
 
+TEST(ChainFinder, next_after_goes_on_from_the_last_point_as_the_entity_runs_now) {
+    RecordingPlatform platform;
+    set_drawing(
+        {line({5, 5}, {1, 1}), line({5, 5}, {9, 9}), line({1, 1}, {7, 7}), line({8, 8}, {8, 8})});
+    ChainFinder finder(session.ObjsCad);
+    ASSERT_EQ(finder.BuscaSiguiente(1, 1, false), 0);
+    finder.take(0);
+    EXPECT_EQ(finder.next_after(0), 1);
+    finder.take(1);
+    session.Velmora.MousePointer = 11;
+    EXPECT_EQ(finder.next_after(1), -1);
+    EXPECT_EQ(session.Velmora.MousePointer, 0);
+    finder.take(3);
+    EXPECT_EQ(finder.next_after(1), 2);
+}
+
+TEST(ChainFinder, next_after_an_element_used_from_the_start_looks_at_its_last_point) {
+    RecordingPlatform platform;
+    set_drawing({line({1, 1}, {2, 2}), line({7, 7}, {8, 8}), line({3, 3}, {2.5, 2.5})});
+    session.ObjsCad[0].Usado = True;
+    ChainFinder finder(session.ObjsCad);
+    EXPECT_EQ(finder.next_after(0), 2);
+    EXPECT_EQ(session.ObjsCad[2].Ptos[0].X, 2.5);
+}
+
 TEST(ChainFinder, an_unused_element_without_points_raises_9) {
     RecordingPlatform platform;
     EXPECT_EQ(number_of([] { ChainFinder finder(session.ObjsCad); }), 9);

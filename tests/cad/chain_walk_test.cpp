@@ -65,7 +65,7 @@ TEST(DxfWalk, a_list_that_was_walked_before_is_walked_without_harm) {
 TEST(DxfWalk, goes_as_plain_scans_go) {
     RecordingPlatform platform;
     std::mt19937 random(31);
-    for (int drawing = 0; drawing < 3000; ++drawing) {
+    for (int drawing = 0; drawing < 2000; ++drawing) {
         set_drawing(random_drawing(random, 40));
         Array<ObjCad> scanned = session.ObjsCad;
         session.ObjsCad.swap(scanned);
@@ -168,7 +168,7 @@ TEST(CaptureWalk, of_three_entities_the_stray_one_is_joined_as_the_last_one_left
 TEST(CaptureWalk, goes_as_plain_scans_go) {
     RecordingPlatform platform;
     std::mt19937 random(47);
-    for (int drawing = 0; drawing < 3000; ++drawing) {
+    for (int drawing = 0; drawing < 2000; ++drawing) {
         set_drawing(random_drawing(random, 40));
         set_all_orden(-1);
         const Pto start = session.ObjsCad[0].Ptos[0];
