@@ -25,6 +25,7 @@ class PreviewSurface {
 /// The pictures, by the names of their controls in `ajuste`.
 enum class PreviewPicture { Pic_A, Pic_B, New_Pic_A, New_Pic_B };
 
+/// Where they are while the window is open; Platform::previews is null without it.
 class Previews {
   public:
     virtual ~Previews() = default;

@@ -94,6 +94,7 @@ void draw_points(PreviewSurface& picture, const Array<Pto>& points, const Frame&
     }
 }
 
+/// Asked for anew behind each turn of the windows: the pictures go with theirs.
 PreviewSurface& picture_of(PreviewPicture which) {
     if (platform().previews == nullptr)
         raise(error::object_not_set);
@@ -101,13 +102,12 @@ PreviewSurface& picture_of(PreviewPicture which) {
 }
 
 void draw_outline(const Drawing& drawing) {
-    PreviewSurface& picture = picture_of(drawing.picture);
     const Array<Pto>& points = *array_of(drawing.selector);
-    const Frame frame(drawing.selector, picture);
-    picture.Cls();
-    draw_chords(picture, points, frame);
+    const Frame frame(drawing.selector, picture_of(drawing.picture));
+    picture_of(drawing.picture).Cls();
+    draw_chords(picture_of(drawing.picture), points, frame);
     DoEvents();
-    draw_points(picture, points, frame);
+    draw_points(picture_of(drawing.picture), points, frame);
     DoEvents();
 }
 

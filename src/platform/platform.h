@@ -25,7 +25,7 @@ struct Platform {
     Machine& machine;
     Surface& pic; ///< drawing operations of the canvas
     Autocad& cad;
-    Previews* previews = nullptr; ///< the small pictures of the adjustment, where a build has them
+    Previews* previews = nullptr; ///< of the adjustment; null while its window is shut
 };
 
 void set_platform(const Platform& services);

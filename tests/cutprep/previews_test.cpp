@@ -1,5 +1,6 @@
 #include "cutprep/previews.h"
 
+#include "formats/watching_windows.h"
 #include "workbench.h"
 
 #include <gtest/gtest.h>
@@ -146,6 +147,22 @@ TEST_F(PreviewsTest, a_picture_of_the_margins_size_shows_the_box_with_11_or_6) {
     test::fill(session.PtosA, {{-1, 1}});
     DibujaMini_A();
     EXPECT_TRUE(machine.dialogs.boxes[1].text.starts_with("Error DibujaMini_A nº: 6"));
+}
+
+TEST_F(PreviewsTest, a_window_that_closes_under_the_drawing_ends_it) {
+    const test::WatchingWindows windows(machine, [] {
+        Platform services = platform();
+        services.previews = nullptr;
+        set_platform(services);
+    });
+    Platform services = platform();
+    services.previews = &previews;
+    set_platform(services);
+    test::fill(session.PtosA, {{1, 1}});
+    DibujaMini_A();
+    EXPECT_EQ(operations.size(), 2U); // the points are missing
+    ASSERT_EQ(machine.dialogs.boxes.size(), 1U);
+    EXPECT_TRUE(machine.dialogs.boxes[0].text.starts_with("Error DibujaMini_A nº: 91"));
 }
 
 TEST_F(PreviewsTest, without_pictures_the_box_says_91) {
