@@ -1,6 +1,5 @@
 #include "cad/connection.h"
 
-#include "document/handlers.h"
 #include "document/session.h"
 #include "platform/platform.h"
 #include "runtime/error.h"
@@ -56,14 +55,6 @@ void show_connected() {
     enable("mnu_SendToCad", true);
 }
 
-void take_document() {
-    acad().AcadDoc = acad().AcadApp->ActiveDocument();
-    session.AcadDocLoaded = True;
-    session.wininfo.ShpAcadDocLoaded = kConnected;
-    enable_document_commands(true);
-    session.wininfo.TxtAcadFile = runtime::UCase(runtime::Trim(acad().AcadDoc->Name()));
-}
-
 void show_no_document() {
     enable_document_commands(false);
     session.wininfo.ShpAcadDocLoaded = kNotConnected;
@@ -77,6 +68,20 @@ AcadConnection& acad() {
     return connection;
 }
 
+std::shared_ptr<AcadDocument> connected_document() {
+    if (!acad().AcadDoc)
+        raise(error::object_not_set);
+    return acad().AcadDoc;
+}
+
+void take_active_document() {
+    acad().AcadDoc = acad().AcadApp->ActiveDocument();
+    session.AcadDocLoaded = True;
+    session.wininfo.ShpAcadDocLoaded = kConnected;
+    enable_document_commands(true);
+    session.wininfo.TxtAcadFile = runtime::UCase(runtime::Trim(acad().AcadDoc->Name()));
+}
+
 void ReconectaAcad() {
     forget_document();
     look_for_application();
@@ -86,13 +91,9 @@ void ReconectaAcad() {
     }
     show_connected();
     if (acad().AcadApp->Documents_Count() >= 1)
-        take_document();
+        take_active_document();
     else
         show_no_document();
-}
-
-void mnu_Reconect() {
-    ReconectaAcad();
 }
 
 } // namespace velmora

@@ -16,4 +16,11 @@ AcadConnection& acad();
 /// commands; message 31 when none runs. Always safe to call again.
 void ReconectaAcad();
 
+/// Makes the application's active document the connected one, with the state of wininfo and of the
+/// commands that need a document.
+void take_active_document();
+
+/// The connected document. Raises 91 while there is none.
+[[nodiscard]] std::shared_ptr<AcadDocument> connected_document();
+
 } // namespace velmora

@@ -4,6 +4,7 @@
 #include "cad/chain_walk.h"
 #include "cad/dxf_entities.h"
 #include "cad/dxf_text.h"
+#include "cad/entity_counters.h"
 #include "document/feedback.h"
 #include "document/number_text.h"
 #include "document/session.h"
@@ -22,15 +23,6 @@ bool holds(std::string_view line, std::string_view word) {
 void skip_to(DxfText& text, std::string_view word) {
     while (!holds(text.counted_line(), word)) {
     }
-}
-
-void reset_counters() {
-    session.TotalObjs = 0;
-    session.NLines = 0;
-    session.NSplines = 0;
-    session.NLWPolylines = 0;
-    session.NArcs = 0;
-    session.NCircles = 0;
 }
 
 bool has_known_version(DxfText& text) {
@@ -63,7 +55,7 @@ void read_section(DxfText& text) {
 /// error on the empty list.
 void load(std::string_view fichero, DxfText& text) {
     session.EscalaCarga = 1;
-    reset_counters();
+    reset_entity_counters();
     session.files.open_input(1, fichero);
     Forma.Pto.redim(0);
     if (has_known_version(text))

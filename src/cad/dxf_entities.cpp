@@ -1,9 +1,9 @@
 #include "cad/dxf_entities.h"
 
 #include "cad/entities.h"
+#include "cad/entity_counters.h"
 #include "cad/flatten.h"
 #include "document/feedback.h"
-#include "document/number_text.h"
 #include "document/session.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -11,29 +11,6 @@
 #include <utility>
 
 namespace velmora {
-
-namespace {
-
-struct Counter {
-    std::int32_t& total;
-    std::string& box;
-};
-
-/// Points count as lines.
-Counter counter_of(TipoCad tipo) {
-    switch (tipo) {
-    case TipoCad::AcDbArc:
-        return {session.NArcs, session.wininfo.TxtNArcs};
-    case TipoCad::AcDbCircle:
-        return {session.NCircles, session.wininfo.TxtNCircles};
-    case TipoCad::AcDbPolyline:
-        return {session.NLWPolylines, session.wininfo.TxtNLWPolylines};
-    default:
-        return {session.NLines, session.wininfo.TxtNlines};
-    }
-}
-
-} // namespace
 
 DxfEntities::Reader DxfEntities::reader_of(std::string_view line) {
     if (!line.starts_with("AcDb"))
@@ -129,10 +106,7 @@ void DxfEntities::take(TipoCad tipo, Array<Pto> points) {
     object.Id = taken_;
     object.Tipo = tipo;
     ++taken_;
-    session.TotalObjs = taken_;
-    session.wininfo.TxtProcesed = CStr(taken_);
-    const Counter counter = counter_of(tipo);
-    counter.box = CStr(++counter.total);
+    count_entity(tipo, taken_);
     DoEvents();
 }
 

@@ -1,6 +1,6 @@
 #include "cad/flatten.h"
 
-#include "document/feedback.h"
+#include "cad/entity_progress.h"
 #include "document/number_text.h"
 #include "document/session.h"
 #include "runtime/numbers.h"
@@ -40,35 +40,38 @@ double store_of_dxf(double value) {
     return Normaliza15(CDbl(CStr(value)));
 }
 
+Array<Pto> capture(const ArcRun& arc) {
+    start_entity_progress(arc.count + 1.0);
+    return flatten(arc, Normaliza15, step_entity_progress);
+}
+
 double full_circle() {
     return degrees(2 * session.PI);
 }
 
 } // namespace
 
-Array<Pto> flatten(const ArcRun& arc, double (*store)(double)) {
+Array<Pto> flatten(const ArcRun& arc, double (*store)(double), void (*step)()) {
     Array<Pto> points;
     points.redim(arc.count);
-    const double step = radians(runtime::divide(arc.sweep, arc.count));
+    const double angle_step = radians(runtime::divide(arc.sweep, arc.count));
     for (std::int32_t j = 0; j <= arc.count; ++j) {
-        const double angle = j * step + arc.start;
+        const double angle = j * angle_step + arc.start;
         points[j].X = store(runtime::checked(std::cos(angle) * arc.radius + arc.centre_x));
         points[j].Y = store(runtime::checked(std::sin(angle) * arc.radius + arc.centre_y));
-        DoEvents();
+        step();
     }
     return points;
 }
 
 Array<Pto> capture_arc(double centre_x, double centre_y, double radius, double start, double end) {
     const double sweep = sweep_between(whole_degrees(start), whole_degrees(end));
-    return flatten({centre_x, centre_y, captured_radius(radius), start, sweep, session.PutArc},
-                   Normaliza15);
+    return capture({centre_x, centre_y, captured_radius(radius), start, sweep, session.PutArc});
 }
 
 Array<Pto> capture_circle(double centre_x, double centre_y, double radius) {
-    return flatten(
-        {centre_x, centre_y, captured_radius(radius), 0, full_circle(), session.PutCircle},
-        Normaliza15);
+    return capture(
+        {centre_x, centre_y, captured_radius(radius), 0, full_circle(), session.PutCircle});
 }
 
 Array<Pto> dxf_arc(double centre_x, double centre_y, double radius, double start, double end) {

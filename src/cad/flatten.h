@@ -2,6 +2,7 @@
 // counter-clockwise; each point lets the windows run.
 #pragma once
 
+#include "document/feedback.h"
 #include "document/forma.h"
 
 #include <cstdint>
@@ -19,9 +20,10 @@ struct ArcRun {
     std::int32_t count = 0; ///< segments
 };
 
-/// The count + 1 points of an arc, each coordinate through `store`. Raises 11 for 0 segments (6
-/// without a sweep), 9 for fewer, 6 beyond f64, and what `store` raises.
-[[nodiscard]] Array<Pto> flatten(const ArcRun& arc, double (*store)(double));
+/// The count + 1 points of an arc, each coordinate through `store`, `step` after each point. Raises
+/// 11 for 0 segments (6 without a sweep), 9 for fewer, 6 beyond f64, and what `store` raises.
+[[nodiscard]] Array<Pto> flatten(const ArcRun& arc, double (*store)(double),
+                                 void (*step)() = DoEvents);
 
 /// A captured arc in PutArc segments; angles in radians. The sweep is a whole number of degrees
 /// while the start is not rounded, so that the last point can miss the arc's end, on purpose.

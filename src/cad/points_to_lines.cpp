@@ -146,6 +146,8 @@ class Conversion {
 
 void PuntosALineas() {
     set_status(GetMensaje(mensaje::points_to_lines));
+    if (HayPuntos() == True)
+        return;
     Conversion conversion(session.ObjsCad);
     LoopWatch watch;
     while (HayPuntos() == False) {

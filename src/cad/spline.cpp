@@ -1,6 +1,6 @@
 #include "cad/spline.h"
 
-#include "document/feedback.h"
+#include "cad/entity_progress.h"
 #include "document/number_text.h"
 #include "runtime/error.h"
 #include "runtime/numbers.h"
@@ -51,13 +51,16 @@ Array<Pto> capture_spline(std::span<const Pto> control_points) {
     const Pto& first = control_points.front();
     const Pto& last = control_points.back();
     Array<Pto> points;
+    start_entity_progress(52);
     points.append(normalised(first.X, first.Y));
+    step_entity_progress();
     // The steps add up in f64 and pass 1 after 50 of them, so that t = 1 itself is never taken.
     for (double t = 0; t <= 1; t += 0.02) {
         points.append(curve_point(control_points, t));
-        DoEvents();
+        step_entity_progress();
     }
     points.append(normalised(last.X, last.Y));
+    step_entity_progress();
     return points;
 }
 

@@ -25,15 +25,6 @@ void mnu_seltexto() {
 void mnu_corrpoltrap() {
     not_available();
 }
-void mnu_capture() {
-    not_available();
-}
-void menu_select_orig() {
-    not_available();
-}
-void mnu_SendToCad() {
-    not_available();
-}
 void mnu_Shortkeys() {
     not_available();
 }

@@ -1,0 +1,57 @@
+// The commands of the menu mnuacad.
+#include "cad/capture.h"
+#include "cad/connection.h"
+#include "cad/send.h"
+#include "document/handlers.h"
+#include "document/refresh.h"
+#include "document/session.h"
+#include "platform/dialogs.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+#include "shapeops/transforms.h"
+
+namespace velmora {
+
+namespace {
+
+/// Also after a capture that took nothing, on purpose: then it works on the shape that was there.
+void scale_and_refresh() {
+    if (session.RedimCapture != False && MuestraMensaje(mensaje::offer_unit_scale) == answer::yes)
+        ScaleToUnit();
+    Apply_Precision();
+    Define_Layout();
+    Carga_List_Coords("NEWFILE");
+    Dibuja();
+}
+
+} // namespace
+
+void mnu_Reconect() {
+    ReconectaAcad();
+}
+
+void mnu_capture() {
+    if (session.AcadOpen == False)
+        return;
+    session.Velmora.TxtDat_File.clear();
+    session.Velmora.TxtDescDat.clear();
+    session.FileName.clear();
+    Flag from_drawing = True;
+    CapturaAcad(from_drawing);
+    session.PtoSel = 0;
+    scale_and_refresh();
+}
+
+void menu_select_orig() {
+    if (SelOrigen() == False)
+        return;
+    Flag from_drawing = False;
+    CapturaAcad(from_drawing);
+    scale_and_refresh();
+}
+
+void mnu_SendToCad() {
+    SendToCad();
+}
+
+} // namespace velmora

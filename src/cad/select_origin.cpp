@@ -1,0 +1,89 @@
+// SelOrigen: the point where the cut begins, picked in the CAD.
+#include "cad/capture.h"
+#include "cad/connection.h"
+#include "document/feedback.h"
+#include "document/number_text.h"
+#include "platform/platform.h"
+#include "platform/windows.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+
+namespace velmora {
+
+namespace {
+
+// What the CAD answers where the question could not be put yet.
+constexpr auto kCallRejected = static_cast<std::int32_t>(0x8021001CU);
+constexpr auto kExceptionInCad = static_cast<std::int32_t>(0x80020009U);
+
+struct Pick {
+    std::vector<double> point;
+    int error = 0;
+};
+
+bool connected_with_document() {
+    if (session.AcadOpen == False) {
+        MuestraMensaje(mensaje::cad_not_open);
+        return false;
+    }
+    if (session.AcadDocLoaded == False) {
+        MuestraMensaje(mensaje::no_document);
+        return false;
+    }
+    return true;
+}
+
+// An error of the activation remains although the point was picked, on purpose: only a later error
+// takes its place.
+Pick ask_point() {
+    Pick pick;
+    const auto keep_number = [&](const RuntimeError& failure) {
+        pick.error = failure.number;
+    };
+    trap([] { platform().cad.AppActivate(); }, keep_number);
+    DoEvents();
+    trap([&] { pick.point = connected_document()->GetPoint(GetMensaje(mensaje::pick_start)); },
+         keep_number);
+    return pick;
+}
+
+Pick ask_until_answered() {
+    Pick pick;
+    do
+        pick = ask_point();
+    while (pick.error == kCallRejected || pick.error == kExceptionInCad);
+    return pick;
+}
+
+void take_origin(const std::vector<double>& point) {
+    if (point.size() < 2)
+        raise(error::subscript);
+    session.CadOrigX = Normaliza15(point[0]);
+    session.CadOrigY = Normaliza15(point[1]);
+    platform().windows.show("wininfo");
+    session.wininfo.TxtOrigX = CStr(session.CadOrigX);
+    session.wininfo.TxtOrigY = CStr(session.CadOrigY);
+    session.OrigX = session.CadOrigX;
+    session.OrigY = session.CadOrigY;
+}
+
+} // namespace
+
+Flag SelOrigen() {
+    if (!connected_with_document())
+        return False;
+    session.SelOrigenActivo = True;
+    set_status(GetMensaje(mensaje::use_alt_tab));
+    const Pick pick = ask_until_answered();
+    if (pick.error != 0) {
+        MuestraMensaje(mensaje::wrong_point);
+        return False;
+    }
+    take_origin(pick.point);
+    session.LoadOk = 0;
+    set_status(GetMensaje(mensaje::capturing));
+    session.SelOrigenActivo = False;
+    return True;
+}
+
+} // namespace velmora
