@@ -87,6 +87,10 @@ class Endings(unittest.TestCase):
         self.assert_fault(script + "menu mnu_exit\n", 7, "Scale_xy")
         self.assert_fault(script + "click winoptions.ChkSCR\n", 7, "Scale_xy")
 
+    def test_no_pick_for_the_cad(self):
+        self.assert_fault("cad running AutoCAD 15\ncad document a.dwg\n" + START
+                          + "menu menu_select_orig\n", 5, "GetPoint")
+
     def test_a_run_time_error_ends_with_1(self):
         done = self.drive("setting Values Def_Dec muchos\nstart\nshow list\n")
         self.assertEqual(done.returncode, 1)
