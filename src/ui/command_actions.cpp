@@ -4,7 +4,8 @@
 #include "ui/controls.h"
 #include "ui/icons.h"
 
-#include <QLayout>
+#include <QBoxLayout>
+#include <QFrame>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -41,11 +42,12 @@ bool is_enabled(const MenuEntry& row, const VelmoraWindow& state) {
     return changed == state.menus.end() || changed->second.enabled;
 }
 
-void add_line(QLayout& bands) {
+void add_line(QBoxLayout& bands) {
     auto* line = new QFrame(bands.parentWidget());
     line->setFrameShape(QFrame::VLine);
     line->setFrameShadow(QFrame::Sunken);
-    bands.addWidget(line);
+    line->setFixedHeight(kIconSize);
+    bands.addWidget(line, 0, Qt::AlignVCenter);
 }
 
 } // namespace
@@ -97,7 +99,7 @@ void CommandActions::keep(QAction& action, const MenuEntry& row) {
     menu_controls_.push_back(std::move(control));
 }
 
-void CommandActions::add_bars(QLayout& bands) {
+void CommandActions::add_bars(QBoxLayout& bands) {
     for (const ToolKey& key : tool_keys()) {
         QToolBar& bar = bar_of(key, bands);
         QAction* action = bar.addAction(qt_text(key.tip));
@@ -110,7 +112,7 @@ void CommandActions::add_bars(QLayout& bands) {
     draw_icons();
 }
 
-QToolBar& CommandActions::bar_of(const ToolKey& key, QLayout& bands) {
+QToolBar& CommandActions::bar_of(const ToolKey& key, QBoxLayout& bands) {
     if (auto* bar = window_.findChild<QToolBar*>(qt_text(key.bar)))
         return *bar;
     if (bands.count() > 0)

@@ -9,7 +9,7 @@
 #include <vector>
 
 class QAction;
-class QLayout;
+class QBoxLayout;
 class QMainWindow;
 class QMenu;
 class QToolBar;
@@ -26,7 +26,7 @@ class CommandActions {
 
     void add_menus();
     /// The bars stand in `bands`, in the table's order.
-    void add_bars(QLayout& bands);
+    void add_bars(QBoxLayout& bands);
 
     /// The entries as controls of the form: "mnu_openfile", "mnuRecentFile(1)".
     [[nodiscard]] const std::vector<std::string>& menu_controls() const { return menu_controls_; }
@@ -45,7 +45,7 @@ class CommandActions {
     void add_top_menu(const MenuEntry& row);
     void add_entry(QMenu& menu, const MenuEntry& row);
     void keep(QAction& action, const MenuEntry& row);
-    QToolBar& bar_of(const ToolKey& key, QLayout& bands);
+    QToolBar& bar_of(const ToolKey& key, QBoxLayout& bands);
 
     QMainWindow& window_;
     std::function<void(void (*)())> run_;

@@ -28,7 +28,6 @@ void set_look(QLabel& label, double size_factor, const QColor& colour) {
 IntroScreen::IntroScreen(WindowsHost& windows)
     : FormWindow(windows), timer_(*new QTimer(&widget())) {
     widget().setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
-    widget().setWindowIcon(app_icon());
     timer_.setObjectName("Timer1");
     timer_.setInterval(kTimerInterval);
     connect(&timer_, &QTimer::timeout, this, [this] { leave(); });

@@ -3,7 +3,6 @@
 #include "document/coord_list.h"
 #include "document/session.h"
 #include "services/application.h"
-#include "ui/icons.h"
 #include "ui/shortcuts_first.h"
 #include "ui/windows_host.h"
 
@@ -31,7 +30,6 @@ MainWindow::MainWindow(WindowsHost& windows)
       commands_(window_, [this](void (*handler)()) { host().run(handler); }),
       status_(*new ElidedLabel(ui.StatusBar1)), pbar1_(*new QProgressBar(ui.StatusBar1)),
       pbar2_(*new QProgressBar(ui.StatusBar1)), canvas_(*ui.pic, *ui.lbl_xyfloat, *ui.SSScroll) {
-    window_.setWindowIcon(app_icon());
     commands_.add_menus();
     commands_.add_bars(*ui.bands);
     ui.bands->addStretch(1);

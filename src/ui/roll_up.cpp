@@ -17,19 +17,18 @@ int RollUp::pixels(int twips) const {
 }
 
 void RollUp::set_height(int twips, bool rolled_up) {
-    const int title = window_.frameGeometry().height() - window_.height();
-    const int inside = std::max(1, pixels(twips) - title);
     const int needed = content_.sizeHint().width();
     const int width = std::exchange(sized_, true) ? std::max(window_.width(), needed) : needed;
     content_.setVisible(!rolled_up);
     if (rolled_up) {
-        window_.setFixedHeight(inside);
-        window_.resize(width, inside);
+        window_.setFixedHeight(1); // a window has at least that below its title
+        window_.resize(width, 1);
         return;
     }
     window_.setMinimumHeight(0);
     window_.setMaximumHeight(QWIDGETSIZE_MAX);
-    window_.resize(width, std::max(inside, content_.sizeHint().height()));
+    const int title = window_.frameGeometry().height() - window_.height();
+    window_.resize(width, std::max(pixels(twips) - title, content_.sizeHint().height()));
 }
 
 void RollUp::keep_to(const QWidget& main, int row) {

@@ -10,8 +10,8 @@ class RollUp {
     /// `content` holds all that is seen of the window.
     RollUp(QWidget& window, QWidget& content);
 
-    /// The height with the title, in twips. Below the content's own height nothing but the title
-    /// stays; above it the content always has the room that it needs.
+    /// The height with the title, in twips; the content always has the room that it needs. Rolled
+    /// up, nothing but the desktop's title bar stays, however high that is.
     void set_height(int twips, bool rolled_up);
     /// Moves the window to the right side of `main`, `row` twips below its top.
     void keep_to(const QWidget& main, int row);

@@ -1,6 +1,7 @@
 #include "ui/windows_host.h"
 
 #include "document/session.h"
+#include "ui/icons.h"
 #include "ui/window_registry.h"
 #include "ui/windows_host_state.h"
 
@@ -118,6 +119,7 @@ void WindowsHost::Private::ask_for_activation() {
 }
 
 void WindowsHost::start() {
+    QApplication::setWindowIcon(app_icon()); // of message boxes too
     run([this] { show("intro"); });
 }
 

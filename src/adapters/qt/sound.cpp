@@ -4,6 +4,8 @@
 
 #if defined(VELMORA_CANBERRA)
 #include <canberra.h>
+#include <cstdlib>
+#include <filesystem>
 #include <thread>
 #elif defined(_WIN32)
 #include <windows.h>
@@ -21,10 +23,26 @@ struct CloseContext {
     void operator()(ca_context* context) const { ca_context_destroy(context); }
 };
 
+/// A sound server's door, or a card. Without either the sound library would complain aloud.
+bool has_output() {
+    if (std::getenv("PULSE_SERVER") != nullptr)
+        return true;
+    const char* run = std::getenv("XDG_RUNTIME_DIR");
+    const std::filesystem::path doors = run == nullptr ? "/run" : run;
+    std::error_code ignored;
+    for (const auto& door : {doors / "pulse" / "native", doors / "pipewire-0",
+                             std::filesystem::path("/proc/asound/card0")})
+        if (std::filesystem::exists(door, ignored))
+            return true;
+    return false;
+}
+
 /// The sound server is looked for on a thread of its own: that can take its time.
 class DesktopSound : public SoundPlayer {
   public:
     void play(const std::string& file) override {
+        if (!has_output())
+            return;
         worker_ = std::jthread([this, file] {
             if (context_ == nullptr)
                 open();
