@@ -1,0 +1,213 @@
+// The main window's list, canvas, label, status and scroll bars.
+#include "windows/windows_test.h"
+
+#include "document/refresh.h"
+#include "ui/coord_list.h"
+#include "ui/pic_widget.h"
+
+#include <QLabel>
+#include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QtTest>
+#include <gmock/gmock.h>
+
+namespace velmora::test {
+
+namespace {
+
+class MainWindowTest : public WindowsTest {
+  protected:
+    void SetUp() override {
+        start_program();
+        Forma.Pto.redim(3);
+        Forma.Pto[1] = {10, 0};
+        Forma.Pto[2] = {10, 10};
+        Forma.Pto[3] = {0, 10};
+        session.ZoomFactor = 10;
+        windows().run([] {
+            Define_Layout();
+            Dibuja();
+            Carga_List_Coords("NEWFILE");
+        });
+        dialogs().boxes.clear();
+    }
+    CoordList& list() { return control<CoordList>("Velmora", "Lst_Coords"); }
+    PicWidget& pic() { return control<PicWidget>("Velmora", "pic"); }
+    QScrollArea& scroll() { return control<QScrollArea>("Velmora", "SSScroll"); }
+    QString row(int place) { return list().model()->index(place, 0).data().toString(); }
+    void click_row(int place) {
+        const QModelIndex index = list().model()->index(place, 0);
+        list().scrollTo(index);
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, list().visualRect(index).center());
+    }
+    /// Pixels of pic for points of this shape: the origin stands 30 from the left and the bottom.
+    static QPoint place(double x, double y) {
+        return {static_cast<int>(30 + 10 * x), static_cast<int>(1970 - 10 * y)};
+    }
+    void move_to(QPoint at) {
+        QMouseEvent event(QEvent::MouseMove, at, pic().mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(&pic(), &event);
+    }
+};
+
+TEST_F(MainWindowTest, TheListShowsARowForEachPoint) {
+    ASSERT_EQ(list().model()->rowCount(), 4);
+    EXPECT_EQ(row(1), "1: 10  0");
+    EXPECT_EQ(row(3), "3: 0  10");
+}
+
+TEST_F(MainWindowTest, AClickOnARowSelectsItsPointAndGivesTheCanvasTheFocus) {
+    list().setFocus();
+    click_row(2);
+    EXPECT_EQ(session.PtoSel, 2);
+    EXPECT_TRUE(pic().hasFocus());
+}
+
+TEST_F(MainWindowTest, AnArrowKeyInTheListIsAClickOnItsRow) {
+    click_row(0);
+    list().setFocus();
+    QTest::keyClick(&list(), Qt::Key_Down);
+    EXPECT_EQ(session.PtoSel, 1);
+}
+
+TEST_F(MainWindowTest, AStaleRowRefreshesTheListAndKeepsTheSelection) {
+    Forma.Pto.redim_keep(2);
+    session.PtoSel = 1;
+    click_row(3);
+    EXPECT_EQ(session.PtoSel, 1);
+    EXPECT_EQ(list().model()->rowCount(), 3);
+}
+
+TEST_F(MainWindowTest, AListThatShrankUnderTheViewIsNotReadBeyondItsEnd) {
+    session.Velmora.Lst_Coords.clear(); // a handler runs, the view does not know yet
+    EXPECT_EQ(list().model()->rowCount(), 4);
+    EXPECT_EQ(row(3), "");
+}
+
+TEST_F(MainWindowTest, TheEndKeyGoesToTheLastOfManyRows) {
+    Forma.Pto.redim(99999);
+    windows().run([] { Carga_List_Coords("NEWFILE"); });
+    settle();
+    QTest::keyClick(&list(), Qt::Key_End);
+    EXPECT_EQ(list().currentIndex().row(), 99999);
+    EXPECT_TRUE(list().viewport()->rect().intersects(list().visualRect(list().currentIndex())));
+    EXPECT_EQ(list().indexAt(list().visualRect(list().currentIndex()).center()),
+              list().currentIndex());
+}
+
+TEST_F(MainWindowTest, TheCanvasIs2000PixelsASide) {
+    EXPECT_EQ(pic().size(), QSize(2000, 2000));
+}
+
+TEST_F(MainWindowTest, PointerAndKeysReachTheCanvas) {
+    QTest::mouseClick(&pic(), Qt::LeftButton, {}, place(10, 10));
+    EXPECT_EQ(session.PtoSel, 2);
+    EXPECT_TRUE(pic().hasFocus());
+    QTest::keyClick(&pic(), Qt::Key_N);
+    EXPECT_EQ(session.PtoSel, 3);
+    QTest::keyClick(&pic(), Qt::Key_M);
+    EXPECT_EQ(session.PtoSel, 2);
+    QTest::keyClick(&pic(), Qt::Key_S);
+    EXPECT_EQ(Forma.Pto[2].Sinc, 1);
+    QTest::keyClick(&pic(), Qt::Key_Up);
+    EXPECT_EQ(Forma.Pto[2].Y, 10.1);
+}
+
+TEST_F(MainWindowTest, CtrlIsKnownWhileItIsDown) {
+    QTest::keyPress(&pic(), Qt::Key_Control);
+    EXPECT_NE(session.CtrlDown, False);
+    QTest::keyRelease(&pic(), Qt::Key_Control);
+    EXPECT_EQ(session.CtrlDown, False);
+}
+
+TEST_F(MainWindowTest, TheLabelShowsThePointUnderThePointerBelowIt) {
+    const auto& label = control<QLabel>("Velmora", "lbl_xyfloat");
+    EXPECT_FALSE(label.isVisible());
+    move_to(place(10, 10));
+    EXPECT_TRUE(label.isVisible());
+    EXPECT_EQ(label.text(), "  2: (10 10)");
+    EXPECT_EQ(label.pos(), place(10, 10) + QPoint(10, 10));
+    EXPECT_GE(label.width(), label.sizeHint().width());
+    move_to(place(5, 5));
+    EXPECT_FALSE(label.isVisible());
+}
+
+TEST_F(MainWindowTest, ARightClickOnAPointOpensItsMenuWithWhatItAllows) {
+    QTest::mouseClick(&pic(), Qt::RightButton, {}, place(10, 0));
+    EXPECT_EQ(session.PtoSel, 1);
+    EXPECT_TRUE(window("Velmora")->findChild<QMenu*>("OPT_PTO")->isVisible());
+    EXPECT_FALSE(control<QAction>("Velmora", "Pts_To_Next_Sinc").isEnabled());
+}
+
+TEST_F(MainWindowTest, AnEntryOfThePointMenuWorksWithoutTheMenuBeingOpen) {
+    session.PtoSel = 2;
+    control<QAction>("Velmora", "Set_00").trigger();
+    EXPECT_EQ(Forma.Pto[2].X, 0);
+    EXPECT_EQ(Forma.Pto[0].X, -10);
+}
+
+TEST_F(MainWindowTest, APositiveShapeOpensAtTheLowerLeft) {
+    EXPECT_EQ(scroll().horizontalScrollBar()->value(), 0);
+    EXPECT_EQ(scroll().verticalScrollBar()->value(), scroll().verticalScrollBar()->maximum());
+}
+
+TEST_F(MainWindowTest, AShapeWithNegativesOpensFurtherIn) {
+    Forma.Pto[0] = {-5, -5};
+    windows().run([] { Define_Layout(); });
+    const QScrollBar& across = *scroll().horizontalScrollBar();
+    const QScrollBar& down = *scroll().verticalScrollBar();
+    EXPECT_NEAR(across.value(), across.maximum() / 5.0, 0.5);
+    EXPECT_NEAR(down.value(), down.maximum() / 3.0, 0.5);
+}
+
+TEST_F(MainWindowTest, ScrollingByTheUserRepaintsUnlessNoRedrawIsSet) {
+    Forma.Pto.redim(0); // a repaint then tells that there is no shape
+    session.NoRedraw = True;
+    scroll().verticalScrollBar()->triggerAction(QScrollBar::SliderPageStepSub);
+    settle();
+    EXPECT_TRUE(dialogs().boxes.empty());
+    session.NoRedraw = False;
+    scroll().verticalScrollBar()->triggerAction(QScrollBar::SliderPageStepSub);
+    settle();
+    EXPECT_EQ(dialogs().boxes.size(), 1U);
+}
+
+TEST_F(MainWindowTest, ResizingDoesNotRepaint) {
+    Forma.Pto.redim(0);
+    session.NoRedraw = False;
+    window("Velmora")->resize(500, 400);
+    settle();
+    EXPECT_TRUE(dialogs().boxes.empty());
+}
+
+TEST_F(MainWindowTest, TheStatusIsShownWhileTheHandlerRuns) {
+    windows().run([this] {
+        session.Velmora.StatusBar1 = "Invirtiendo Sentido de Corte...";
+        windows().status_changed();
+        const auto labels =
+            window("Velmora")->findChild<QWidget*>("StatusBar1")->findChildren<QLabel*>();
+        ASSERT_FALSE(labels.isEmpty());
+        EXPECT_EQ(labels.first()->text(), "Invirtiendo Sentido de Corte...");
+    });
+}
+
+TEST_F(MainWindowTest, MoveShapeShowsTheUpArrowOnTheCanvas) {
+    session.Velmora.pic_MousePointer = 10;
+    windows().refresh();
+    EXPECT_EQ(pic().cursor().shape(), Qt::UpArrowCursor);
+    session.Velmora.pic_MousePointer = 0;
+    windows().refresh();
+    EXPECT_EQ(pic().cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(MainWindowTest, AMinimizedWindowIsKnownToTheSession) {
+    window("Velmora")->showMinimized();
+    settle();
+    EXPECT_TRUE(session.Velmora.minimized);
+}
+
+} // namespace
+
+} // namespace velmora::test

@@ -1,0 +1,189 @@
+// The floating windows: values both ways, keys, rolling up, the place beside the main window.
+#include "windows/windows_test.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QtTest>
+#include <gmock/gmock.h>
+
+namespace velmora::test {
+
+namespace {
+
+using testing::ElementsAre;
+
+class SideWindowsTest : public WindowsTest {
+  protected:
+    void SetUp() override {
+        start_program();
+        Forma.Pto.redim(2);
+        Forma.Pto[1] = {1.23456789, 0};
+        Forma.Pto[2] = {0, 1};
+        dialogs().boxes.clear();
+    }
+    QLineEdit& box(const char* name) { return control<QLineEdit>("winoptions", name); }
+    QAbstractButton& button(const char* name) {
+        return control<QAbstractButton>("winoptions", name);
+    }
+    int height(const char* name) { return window(name)->height(); }
+};
+
+TEST_F(SideWindowsTest, OptionsShowTheDefaultsAndTheFlags) {
+    EXPECT_EQ(box("TxtPutArc").text(), "25");
+    EXPECT_EQ(box("TxtPutCircle").text(), "50");
+    EXPECT_EQ(box("TxtPrecision").text(), "6");
+    EXPECT_EQ(box("Txt_zoom").text(), "30000");
+    for (const char* on :
+         {"ChkPtos", "ChkPtosCtrl", "ChkCoords", "ChkDATSinc", "chk_optimize", "chk_Redim_Capture"})
+        EXPECT_TRUE(button(on).isChecked()) << on;
+    for (const char* off : {"ChkSCR", "Chk_DATPerfil", "chk_winoptions"})
+        EXPECT_FALSE(button(off).isChecked()) << off;
+}
+
+TEST_F(SideWindowsTest, TheOutputTypesExcludeEachOther) {
+    session.Velmora.TxtDat_File = "/tmp/ala.dat";
+    button("ChkSCR").click();
+    EXPECT_EQ(session.GenSCR, True);
+    EXPECT_EQ(session.GenDATSinc, False);
+    EXPECT_FALSE(button("ChkDATSinc").isChecked());
+    EXPECT_EQ(control<QLineEdit>("Velmora", "TxtDat_File").text(), "/tmp/ala.scr");
+    button("Chk_DATPerfil").click();
+    EXPECT_EQ(session.GenDATPerfil, True);
+    EXPECT_FALSE(button("ChkSCR").isChecked());
+    EXPECT_EQ(session.FileName, "/tmp/ala.dat");
+}
+
+TEST_F(SideWindowsTest, TheOptionsThatTheLogicChoosesAreShown) {
+    session.winoptions.ChkDATSinc = false;
+    session.winoptions.ChkSCR = true;
+    windows().refresh();
+    EXPECT_TRUE(button("ChkSCR").isChecked());
+    EXPECT_FALSE(button("ChkDATSinc").isChecked());
+    session.winoptions.ChkSCR = false;
+    windows().refresh();
+    EXPECT_FALSE(button("ChkSCR").isChecked()) << "the last one chosen can be cleared too";
+}
+
+TEST_F(SideWindowsTest, CheckBoxesSetTheirFlags) {
+    button("chk_optimize").click();
+    EXPECT_EQ(session.OptimizeOnGen, False);
+    button("chk_Redim_Capture").click();
+    EXPECT_EQ(session.RedimCapture, False);
+    button("ChkCoords").click();
+    EXPECT_EQ(session.ShowCoords, False);
+    button("ChkPtos").click();
+    EXPECT_EQ(session.ShowPtos, False);
+    button("ChkPtosCtrl").click();
+    EXPECT_EQ(session.ShowPtosCtrl, False);
+}
+
+TEST_F(SideWindowsTest, ARefusedKeyShowsMessage6AndSetsTheBoxToZero) {
+    for (const char* name : {"TxtPutArc", "TxtPutCircle", "Txt_zoom"}) {
+        dialogs().boxes.clear();
+        QTest::keyClick(&box(name), 'x');
+        ASSERT_EQ(dialogs().boxes.size(), 1U) << name;
+        EXPECT_EQ(dialogs().boxes[0].text, "Sólo se permiten números!");
+        EXPECT_EQ(box(name).text(), "0") << name;
+    }
+}
+
+TEST_F(SideWindowsTest, DigitsAndBackspacePass) {
+    box("TxtPutArc").clear();
+    QTest::keyClicks(&box("TxtPutArc"), "123");
+    QTest::keyClick(&box("TxtPutArc"), Qt::Key_Backspace);
+    windows().refresh();
+    EXPECT_EQ(session.winoptions.TxtPutArc, "12");
+    EXPECT_TRUE(dialogs().boxes.empty());
+}
+
+TEST_F(SideWindowsTest, KeysThatMoveCopyAndPasteAreNoTyping) {
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Home, Qt::Key_Delete, Qt::Key_Tab})
+        QTest::keyClick(&box("TxtPutArc"), key);
+    QTest::keyClick(&box("TxtPutArc"), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(dialogs().boxes.empty());
+}
+
+TEST_F(SideWindowsTest, EnterTakesTheZoomWithEitherSeparator) {
+    box("Txt_zoom").setText("2,5");
+    QTest::keyClick(&box("Txt_zoom"), Qt::Key_Return);
+    EXPECT_EQ(session.ZoomFactor, 2.5);
+    EXPECT_EQ(box("Txt_zoom").text(), "2.5");
+    EXPECT_NE(window("winoptions"), nullptr);
+}
+
+TEST_F(SideWindowsTest, AChangedPrecisionRoundsTheShapeWithThePrecisionInForce) {
+    session.Precision = 2;
+    box("TxtPrecision").setText("3");
+    EXPECT_EQ(Forma.Pto[1].X, 1.23);
+    EXPECT_EQ(session.Precision, 2);
+}
+
+TEST_F(SideWindowsTest, AZeroInThePrecisionBoxRoundsNothing) {
+    box("TxtPrecision").setText("0");
+    EXPECT_EQ(Forma.Pto[1].X, 1.23456789);
+}
+
+TEST_F(SideWindowsTest, InformationShowsTheFiguresAndTakesNoTyping) {
+    session.wininfo.TxtTotalPtos = "24";
+    session.wininfo.TxtAcadFile = "ALA.DWG";
+    windows().refresh();
+    EXPECT_EQ(control<QLineEdit>("wininfo", "TxtTotalPtos").text(), "24");
+    EXPECT_EQ(control<QLineEdit>("wininfo", "TxtAcadFile").text(), "ALA.DWG");
+    for (const QLineEdit* shown : window("wininfo")->findChildren<QLineEdit*>())
+        EXPECT_TRUE(shown->isReadOnly()) << shown->objectName().toStdString();
+}
+
+TEST_F(SideWindowsTest, AWindowRollsUpWhenAnotherTakesTheActivationUnlessPinned) {
+    windows().activate("winoptions");
+    const int unrolled = height("winoptions");
+    EXPECT_GT(unrolled, 200);
+    windows().activate("Velmora");
+    EXPECT_EQ(height("winoptions"), 1);
+    EXPECT_FALSE(window("winoptions")->findChild<QWidget*>("content")->isVisible());
+
+    windows().activate("winoptions");
+    EXPECT_EQ(height("winoptions"), unrolled);
+    button("chk_winoptions").click();
+    windows().activate("Velmora");
+    EXPECT_EQ(height("winoptions"), unrolled);
+}
+
+TEST_F(SideWindowsTest, AMessageBoxTakesNoActivation) {
+    windows().activate("winoptions");
+    const int unrolled = height("winoptions");
+    QTest::keyClick(&box("TxtPutArc"), 'x');
+    EXPECT_EQ(height("winoptions"), unrolled);
+}
+
+TEST_F(SideWindowsTest, LosingTheActivationRollsUpToo) {
+    windows().activate("wininfo");
+    EXPECT_GT(height("wininfo"), 200);
+    windows().deactivate("wininfo");
+    EXPECT_EQ(height("wininfo"), 1);
+}
+
+TEST_F(SideWindowsTest, TheWindowsFollowTheMainWindowsRightSide) {
+    QWidget& main = *window("Velmora");
+    for (const int width : {700, 780}) {
+        main.resize(width, 500);
+        settle();
+        for (const char* name : {"wininfo", "winoptions"})
+            EXPECT_NEAR(window(name)->frameGeometry().right(), main.frameGeometry().right(), 40)
+                << name << " at " << width;
+    }
+}
+
+TEST_F(SideWindowsTest, AClosedSideWindowComesBackByItsMenuEntry) {
+    told.clear();
+    window("wininfo")->close();
+    EXPECT_EQ(window("wininfo"), nullptr);
+    control<QAction>("Velmora", "mnu_wininfo").trigger();
+    ASSERT_NE(window("wininfo"), nullptr);
+    EXPECT_TRUE(window("wininfo")->isVisible());
+    EXPECT_THAT(told, ElementsAre("closed wininfo", "open wininfo"));
+}
+
+} // namespace
+
+} // namespace velmora::test
