@@ -10,12 +10,13 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+#include <algorithm>
 
 namespace velmora {
 
 namespace {
 
-constexpr int kIconSize = 24;
+constexpr int kSmallestIcon = 24;
 constexpr std::string_view kRecentFile = "mnuRecentFile";
 constexpr std::string_view kRecentFileSep = "mnuRecentFileSep";
 
@@ -42,11 +43,16 @@ bool is_enabled(const MenuEntry& row, const VelmoraWindow& state) {
     return changed == state.menus.end() || changed->second.enabled;
 }
 
+/// Icons grow with the desktop's text.
+int icon_size(const QWidget& window) {
+    return std::max(kSmallestIcon, window.fontMetrics().height() * 3 / 2);
+}
+
 void add_line(QBoxLayout& bands) {
     auto* line = new QFrame(bands.parentWidget());
     line->setFrameShape(QFrame::VLine);
     line->setFrameShadow(QFrame::Sunken);
-    line->setFixedHeight(kIconSize);
+    line->setFixedHeight(icon_size(*line));
     bands.addWidget(line, 0, Qt::AlignVCenter);
 }
 
@@ -119,7 +125,7 @@ QToolBar& CommandActions::bar_of(const ToolKey& key, QBoxLayout& bands) {
         add_line(bands);
     auto* bar = new QToolBar(bands.parentWidget());
     bar->setObjectName(qt_text(key.bar));
-    bar->setIconSize({kIconSize, kIconSize});
+    bar->setIconSize({icon_size(*bar), icon_size(*bar)});
     bar->setToolButtonStyle(Qt::ToolButtonIconOnly);
     bands.addWidget(bar);
     return *bar;

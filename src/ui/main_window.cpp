@@ -56,7 +56,7 @@ void MainWindow::add_status_bar() {
     for (auto [bar, name] : {std::pair(&pbar1_, "Pbar1"), std::pair(&pbar2_, "pbar2")}) {
         bar->setObjectName(name);
         bar->setTextVisible(false);
-        bar->setFixedWidth(bar->fontMetrics().horizontalAdvance('0') * 16);
+        bar->setFixedWidth(bar->fontMetrics().horizontalAdvance('0') * 12);
         bar->setMaximumHeight(bar->fontMetrics().height());
         ui.StatusBar1->addPermanentWidget(bar);
     }

@@ -1,19 +1,217 @@
-// What the windows look like.
+// What a window shows: every text whole, in longer languages and at twice the size too; a tab
+// order, mnemonics that do not clash, a name for whoever reads the screen aloud.
 #include "windows/windows_test.h"
 
-#include <QWidget>
+#include "platform/form.h"
+#include "ui/window_registry.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <gmock/gmock.h>
 
 namespace velmora::test {
 
-using LookTest = WindowsTest;
+namespace {
 
-TEST_F(LookTest, EveryWindowCanBePictured) {
-    start_program();
-    for (const char* name : {"Velmora", "wininfo", "winoptions"}) {
-        show(name);
-        ASSERT_NE(window(name), nullptr) << name;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class LookTest : public WindowsTest {
+  protected:
+    void SetUp() override { start_program(); }
+    void TearDown() override { QApplication::setFont(font_); }
+
+    /// All windows loaded and shown, unrolled.
+    void show_all() {
+        for (const std::string_view name : window_names())
+            if (name != "intro")
+                show(std::string(name));
+    }
+    void unroll(std::string_view name) {
+        windows().activate(name);
+        settle();
+    }
+    static void enlarge_font(double factor) {
+        QFont larger = QApplication::font();
+        larger.setPointSizeF(larger.pointSizeF() * factor);
+        QApplication::setFont(larger);
+    }
+    /// Each text half as long again, as another language's can be.
+    void lengthen_texts(std::string_view window) {
+        Form& form = *windows().form(window);
+        for (int i = 0; i < form.control_count(); ++i)
+            for (int part = 0; part < form.control(i).parts(); ++part)
+                lengthen(form.control(i), part);
+    }
+    /// "Label4 'Origen X:'" for each text that its widget cannot show whole, on every tab.
+    std::vector<std::string> cut_texts(std::string_view name) {
+        std::vector<std::string> result;
+        QWidget& shown = *window(name);
+        auto* tabs = shown.findChild<QTabWidget*>();
+        const int pages = tabs == nullptr ? 1 : tabs->count();
+        for (int page = 0; page < pages; ++page) {
+            if (tabs != nullptr)
+                tabs->setCurrentIndex(page);
+            settle();
+            for (const QWidget* widget : shown.findChildren<QWidget*>())
+                if (widget->isVisible() && is_cut(*widget))
+                    result.push_back(widget->objectName().toStdString());
+        }
+        return result;
+    }
+
+  private:
+    static void lengthen(FormControl& control, int part) {
+        if (control.kind() == ControlKind::text_box || control.kind() == ControlKind::status_bar)
+            return;
+        try {
+            const std::string text = control.text(part);
+            control.set_text(part, text + std::string(text.size() / 2, 'n'));
+        } catch (const RuntimeError&) {
+            // a control without a text
+        }
+    }
+    static bool is_cut(const QWidget& widget) {
+        if (const auto* frame = qobject_cast<const QGroupBox*>(&widget))
+            return frame->width() < frame->minimumSizeHint().width();
+        const auto* label = qobject_cast<const QLabel*>(&widget);
+        const bool shows_text =
+            (label != nullptr && label->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored) ||
+            qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+            qobject_cast<const QGroupBox*>(&widget) != nullptr;
+        if (!shows_text)
+            return false;
+        if (label != nullptr && label->wordWrap())
+            return label->height() < label->heightForWidth(label->width());
+        const QSize needed = widget.sizeHint();
+        return widget.width() < needed.width() || widget.height() < needed.height();
+    }
+
+    QFont font_ = QApplication::font();
+};
+
+constexpr const char* kWindows[] = {"Velmora", "wininfo", "winoptions", "Scale_xy"};
+
+TEST_F(LookTest, NoTextIsCut) {
+    show_all();
+    for (const char* name : kWindows) {
+        unroll(name);
+        EXPECT_THAT(cut_texts(name), IsEmpty()) << name;
         picture(*window(name), name);
     }
 }
+
+TEST_F(LookTest, NoTextIsCutInALongerLanguage) {
+    show_all();
+    for (const char* name : kWindows) {
+        lengthen_texts(name);
+        windows().deactivate(name);
+        unroll(name);
+        EXPECT_THAT(cut_texts(name), IsEmpty()) << name;
+        picture(*window(name), std::string(name) + "-long");
+    }
+}
+
+TEST_F(LookTest, NoTextIsCutAtTwiceTheSize) {
+    enlarge_font(2);
+    restart();
+    show_all();
+    for (const char* name : {"wininfo", "winoptions", "Scale_xy"}) {
+        unroll(name);
+        EXPECT_THAT(cut_texts(name), IsEmpty()) << name;
+        picture(*window(name), std::string(name) + "-200");
+    }
+    picture(*window("Velmora"), "Velmora-200");
+}
+
+TEST_F(LookTest, TheStartWindowShowsItsTexts) {
+    rebuild();
+    windows().start();
+    settle();
+    EXPECT_THAT(cut_texts("intro"), IsEmpty());
+    EXPECT_EQ(control<QLabel>("intro", "lblVer").text(), "Ver. 1.0");
+    EXPECT_EQ(control<QLabel>("intro", "lblsubver").text(), "1011");
+    picture(*window("intro"), "intro");
+}
+
+std::vector<std::string> tab_order(QWidget& window) {
+    std::vector<std::string> names;
+    for (QWidget* widget = window.nextInFocusChain(); widget != &window;
+         widget = widget->nextInFocusChain())
+        if ((widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isVisibleTo(&window) &&
+            !widget->objectName().startsWith("qt_") && !widget->objectName().isEmpty())
+            names.push_back(widget->objectName().toStdString());
+    return names;
+}
+
+TEST_F(LookTest, TheTabKeyGoesThroughTheWindowsInReadingOrder) {
+    show_all();
+    unroll("winoptions");
+    EXPECT_THAT(tab_order(*window("winoptions")),
+                ElementsAre("SSTab1", "TxtPrecision", "Txt_zoom", "ChkPtos", "ChkPtosCtrl",
+                            "ChkCoords", "chk_winoptions"));
+    // The arrow keys go from one option to the other.
+    EXPECT_THAT(tab_order(*window("Scale_xy")),
+                ElementsAre("Opt_fixed", "txt_fixed_x", "txt_fixed_y", "txt_percent_x",
+                            "txt_percent_y", "cmd_ok", "cmd_cancel"));
+    EXPECT_THAT(tab_order(*window("Velmora")),
+                ElementsAre("TxtDat_File", "TxtDescDat", "Lst_Coords", "pic"));
+}
+
+/// The letters that are underlined, more than once where they clash.
+QString mnemonics(const QWidget& window) {
+    QString letters;
+    const auto add = [&](const QString& text) {
+        const qsizetype mark = text.indexOf('&');
+        if (mark >= 0 && mark + 1 < text.size())
+            letters += text.at(mark + 1).toLower();
+    };
+    for (const auto* button : window.findChildren<QAbstractButton*>())
+        if (button->isVisible())
+            add(button->text());
+    for (const auto* label : window.findChildren<QLabel*>())
+        if (label->isVisible() && label->buddy() != nullptr)
+            add(label->text());
+    return letters;
+}
+
+TEST_F(LookTest, NoTwoMnemonicsOfAPageClash) {
+    show_all();
+    for (const char* name : {"wininfo", "winoptions", "Scale_xy"}) {
+        unroll(name);
+        auto* tabs = window(name)->findChild<QTabWidget*>();
+        for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
+            if (tabs != nullptr)
+                tabs->setCurrentIndex(page);
+            settle();
+            const QString letters = mnemonics(*window(name));
+            EXPECT_EQ(QSet<QChar>(letters.begin(), letters.end()).size(), letters.size())
+                << name << " page " << page << ": " << letters.toStdString();
+        }
+    }
+}
+
+TEST_F(LookTest, WhateverTakesTheFocusHasAName) {
+    show_all();
+    for (const char* name : kWindows) {
+        unroll(name);
+        for (QWidget* widget : window(name)->findChildren<QWidget*>()) {
+            const bool own = !widget->objectName().isEmpty() &&
+                             !widget->objectName().startsWith("qt_") &&
+                             (widget->focusPolicy() & Qt::TabFocus) != 0;
+            QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
+            EXPECT_TRUE(!own || qobject_cast<QTabWidget*>(widget) != nullptr ||
+                        (spoken != nullptr && !spoken->text(QAccessible::Name).isEmpty()))
+                << name << "." << widget->objectName().toStdString();
+        }
+    }
+}
+
+} // namespace
 
 } // namespace velmora::test

@@ -1,5 +1,6 @@
 #include "windows/windows_test.h"
 
+#include "services/messages.h"
 #include "support/places.h"
 
 #include <QAbstractButton>
@@ -24,10 +25,11 @@ void forget_exit() {
 
 WindowsTest::WindowsTest() {
     std::filesystem::copy_file(test::built_database(), path("VELMORA.MDB"));
-    build_platform();
+    rebuild();
 }
 
-void WindowsTest::build_platform() {
+void WindowsTest::rebuild() {
+    close_messages();
     platform_.reset(); // the windows go before the session that they show
     forget_exit();
     reset_session();
@@ -61,11 +63,12 @@ void WindowsTest::build_platform() {
 }
 
 void WindowsTest::restart() {
-    build_platform();
+    rebuild();
     start_program();
 }
 
 WindowsTest::~WindowsTest() {
+    close_messages();
     platform_.reset();
     forget_exit();
     QGuiApplication::restoreOverrideCursor();

@@ -31,7 +31,8 @@ class WindowsTest : public testing::Test {
 
     /// The start window, then the main window and its first activation.
     void start_program();
-    /// A new program over the same folder, up to its main window.
+    /// A new program over the same folder: not started, or up to its main window.
+    void rebuild();
     void restart();
     /// Lets the windows run until nothing is pending.
     static void settle();
@@ -48,8 +49,6 @@ class WindowsTest : public testing::Test {
     std::vector<std::string> told; ///< "open wininfo", "closed intro", "fault 9", "ended"
 
   private:
-    void build_platform();
-
     QTemporaryDir folder_;
     std::unique_ptr<QtPlatform> platform_;
     RecordingDialogs* dialogs_ = nullptr;

@@ -24,11 +24,11 @@ bool can_be_filled(const QString& folder) {
 /// into the current folder, or tries for ever.
 bool bin_is_ready(const QString& path) {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    if (data.isEmpty() || QStorageInfo(path) != QStorageInfo(QDir::homePath()) ||
-        QStorageInfo(path) != QStorageInfo(data))
-        return false;
     const QString bin = data + "/Trash";
-    return can_be_filled(bin + "/files") && can_be_filled(bin + "/info");
+    if (data.isEmpty() || !can_be_filled(bin + "/files") || !can_be_filled(bin + "/info"))
+        return false;
+    const QStorageInfo storage(path);
+    return storage == QStorageInfo(QDir::homePath()) && storage == QStorageInfo(bin);
 }
 #else
 bool bin_is_ready(const QString&) {

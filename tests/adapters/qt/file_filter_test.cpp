@@ -1,0 +1,41 @@
+#include "adapters/qt/file_filter.h"
+
+#include <gtest/gtest.h>
+
+namespace velmora {
+
+namespace {
+
+std::string lines_of(std::string_view filter) {
+    return toolkit_filter(filter).toStdString();
+}
+
+TEST(FileFilter, TurnsPairsIntoLinesWithBothCases) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"DAT Files |*.DAT", "DAT Files (*.dat *.DAT)"},
+        {"Iconos (*.ico;*.cur)|*.ico;*.cur", "Iconos (*.ico *.ICO *.cur *.CUR)"},
+        {" Mapas de Bits (*.bmp;*.dib)|*.bmp;*.dib|Imágenes GIF (*.gif)|*.gif",
+         "Mapas de Bits (*.bmp *.BMP *.dib *.DIB);;Imágenes GIF (*.gif *.GIF)"},
+        {"Acad Script (*.SCR)|*.SCR", "Acad Script (*.scr *.SCR)"},
+    };
+    for (const auto& [filter, lines] : cases)
+        EXPECT_EQ(lines_of(filter), lines) << filter;
+}
+
+// The open dialog's text lacks a bar, on purpose; the dialog shows four kinds of file all the same.
+TEST(FileFilter, PutsAMissingBarBack) {
+    EXPECT_EQ(lines_of("Archivo DAT (*.DAT)|*.DATAutocad DXF (*.DXF)|*.DXF|Acad Script "
+                       "(*.SCR)|*.SCR|Archivo CUT (*.CUT)|*.CUT"),
+              "Archivo DAT (*.dat *.DAT);;Autocad DXF (*.dxf *.DXF);;Acad Script (*.scr *.SCR);;"
+              "Archivo CUT (*.cut *.CUT)");
+}
+
+TEST(FileFilter, LeavesOutWhatIsNoPatternAndNeverFails) {
+    for (const char* filter : {"", "|", "Nombre", "Nombre|", "Nombre|nada", "|||"})
+        EXPECT_EQ(lines_of(filter), "") << filter;
+    EXPECT_EQ(lines_of("Uno|nada|Dos|*.dos"), "Dos (*.dos *.DOS)");
+}
+
+} // namespace
+
+} // namespace velmora

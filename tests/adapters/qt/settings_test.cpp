@@ -1,0 +1,51 @@
+#include "adapters/qt/qt_settings.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace velmora {
+
+namespace {
+
+class SettingsTest : public testing::Test {
+  protected:
+    std::string file() const { return folder_.filePath("Velmora.conf").toStdString(); }
+    void write(const char* text) const {
+        QFile store(folder_.filePath("Velmora.conf"));
+        ASSERT_TRUE(store.open(QIODevice::WriteOnly));
+        store.write(text);
+    }
+
+    QTemporaryDir folder_;
+};
+
+TEST_F(SettingsTest, WhatWasNeverStoredIsNothing) {
+    EXPECT_EQ(make_file_settings(file())->get("Values", "Def_Dec"), std::nullopt);
+}
+
+TEST_F(SettingsTest, TextsComeBackFromTheFileAsTheyWere) {
+    const char* texts[] = {"",      " ",  "6",   "-2147483648", "1,5", "a;b", "C:\\ala ñ.dat",
+                           "\"x\"", "@x", "%20", "línea"};
+    for (const char* text : texts) {
+        make_file_settings(file())->save("RecentFiles", "RecentFile1", text);
+        EXPECT_EQ(make_file_settings(file())->get("RecentFiles", "RecentFile1"), text);
+    }
+}
+
+TEST_F(SettingsTest, SectionsKeepTheirKeysApart) {
+    auto store = make_file_settings(file());
+    store->save("Colors", "a", "1");
+    store->save("Values", "a", "2");
+    EXPECT_EQ(store->get("Colors", "a"), "1");
+    EXPECT_EQ(store->get("Values", "a"), "2");
+}
+
+TEST_F(SettingsTest, ACommaThatSomeoneWroteIntoTheFileIsPartOfTheText) {
+    write("[Values]\nDef_Zoom=2,5\n");
+    EXPECT_EQ(make_file_settings(file())->get("Values", "Def_Zoom"), "2,5");
+}
+
+} // namespace
+
+} // namespace velmora
