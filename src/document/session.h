@@ -101,6 +101,7 @@ struct Session {
     ScaleXyWindow Scale_xy;
     DelNptoWindow del_Npto;
     MultPtosWindow Mult_Ptos;
+    NewDatWindow New_Dat;
     CompensaWindow Compensa;
     SetupWindow setup;
     AcercaWindow acerca;

@@ -1,5 +1,6 @@
-// The commands that leave, edit the file outside, and bring up the side windows.
+// The commands that leave, edit the file outside, and bring up the program's own windows.
 #include "document/handlers.h"
+#include "document/refresh.h"
 #include "document/session.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
@@ -29,6 +30,20 @@ void mnu_wininfo() {
 
 void mnu_winoptgen() {
     platform().windows.show("winoptions");
+}
+
+// The colours are in force as soon as they are picked, so the canvas is drawn after a cancel too.
+void mnu_paramgenerales() {
+    platform().windows.show_modal("setup");
+    Dibuja();
+}
+
+void mnu_Shortkeys() {
+    platform().windows.show_modal("teclas");
+}
+
+void mnu_about() {
+    platform().windows.show_modal("acerca");
 }
 
 } // namespace velmora

@@ -10,25 +10,13 @@ void not_available() {
 }
 } // namespace
 
-void mnu_newfile() {
-    not_available();
-}
 void mnu_print() {
-    not_available();
-}
-void mnu_paramgenerales() {
     not_available();
 }
 void mnu_seltexto() {
     not_available();
 }
 void mnu_corrpoltrap() {
-    not_available();
-}
-void mnu_Shortkeys() {
-    not_available();
-}
-void mnu_about() {
     not_available();
 }
 void K_PRINT() {

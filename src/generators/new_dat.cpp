@@ -1,0 +1,181 @@
+#include "generators/new_dat.h"
+
+#include "cad/flatten.h"
+#include "document/feedback.h"
+#include "document/number_text.h"
+#include "document/session.h"
+#include "document/shown_counts.h"
+#include "platform/platform.h"
+#include "platform/windows.h"
+#include "runtime/numbers.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+#include "services/settings.h"
+#include "services/window_literals.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <span>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::string_view kWindow = "New_Dat";
+constexpr std::int32_t kFewestCirclePoints = 4;
+constexpr auto kNames = std::to_array<int>({mensaje::square, mensaje::triangle, mensaje::circle});
+constexpr int kTriangle = 1;
+constexpr int kCircle = 2;
+
+constexpr std::int16_t kSync = 1;
+constexpr auto kSquarePoints =
+    std::to_array<Pto>({{0, 0, kSync, 0}, {1, 0, 0, 0}, {1, 1, 0, 0}, {0, 1, 0, 0}});
+constexpr auto kTrianglePoints = std::to_array<Pto>({{0, 0, kSync, 0}, {1, 0, 0, 0}, {1, 1, 0, 0}});
+
+/// Where Option1 to Option8 start, on the unit square.
+constexpr auto kStarts = std::to_array<Pto>({{0, 0, kSync, 0},
+                                             {0, 1, kSync, 0},
+                                             {1, 0, kSync, 0},
+                                             {1, 1, kSync, 0},
+                                             {0, 0.5, kSync, 0},
+                                             {1, 0.5, kSync, 0},
+                                             {0.5, 0, kSync, 0},
+                                             {0.5, 1, kSync, 0}});
+
+void choose(bool predefined) {
+    NewDatWindow& window = session.New_Dat;
+    window.SSOpt_predef = predefined;
+    window.frm_shapes_enabled = predefined;
+    window.Frm_Create_enabled = !predefined;
+    window.cmd_ok_enabled = !predefined;
+    window.Picture1.fill(false);
+    window.Txt_Shape.clear();
+}
+
+/// Takes an answer that is a whole number; any other leaves the number as it is.
+void take_circle_points(std::string_view answer) {
+    trap(
+        [&] {
+            const double number = CDbl(answer);
+            if (runtime::Int(number) == number)
+                session.New_Dat.circle_points = runtime::to_int32(number);
+        },
+        [](const RuntimeError&) {});
+}
+
+void ask_circle_points() {
+    const std::int32_t& points = session.New_Dat.circle_points;
+    take_circle_points(
+        InputBox(GetMensaje(mensaje::ask_circle_points) + " ", box_title(), CStr(points)));
+    while (points < kFewestCirclePoints)
+        take_circle_points(InputBox(GetMensaje(mensaje::circle_points_too_few) + " ", box_title(),
+                                    CStr(kFewestCirclePoints)));
+}
+
+void take_outline(std::span<const Pto> points) {
+    Forma.Pto.redim(static_cast<std::int32_t>(points.size()) - 1);
+    std::ranges::copy(points, Forma.Pto.all().begin());
+    show_TotalPtos(static_cast<std::int32_t>(points.size()));
+}
+
+// The shown count takes the point that closes the circle with it, on purpose; the next
+// Define_Layout puts it right.
+void take_circle() {
+    const std::int32_t points = session.New_Dat.circle_points;
+    Array<Pto> run = flatten({0.5, 0.5, 0.5, 0, 360, points}, Normaliza15);
+    run[0].Sinc = kSync;
+    take_outline(run.all().first(static_cast<std::size_t>(points)));
+    show_TotalPtos(points + 1);
+}
+
+void take_figure() {
+    switch (session.New_Dat.shape) {
+    case kCircle:
+        take_circle();
+        break;
+    case kTriangle:
+        take_outline(kTrianglePoints);
+        break;
+    default:
+        take_outline(kSquarePoints);
+    }
+    show_TotalSinc(1);
+}
+
+/// The start of the chosen button; the first where none is chosen.
+const Pto& chosen_start() {
+    const auto& options = session.New_Dat.Option;
+    const auto chosen = std::ranges::find(options, true);
+    return chosen == options.end()
+               ? kStarts.front()
+               : kStarts.at(static_cast<std::size_t>(std::distance(options.begin(), chosen)));
+}
+
+// The sync total says 0 although the start is a sync point, on purpose.
+void start_by_hand() {
+    session.PtosToInsertMode = True;
+    Forma.Pto.redim(0);
+    Forma.Pto[0] = chosen_start();
+    session.BandaX = Forma.Pto[0].X;
+    session.BandaY = Forma.Pto[0].Y;
+    session.wininfo.TxtPtosSupr = CStr(0);
+    session.PtosSuprimidos = 0;
+    show_TotalSinc(0);
+}
+
+void show_stored_zoom() {
+    session.winoptions.Txt_zoom = CStr(session.Def_Zoom);
+    session.ZoomFactor = session.Def_Zoom;
+}
+
+} // namespace
+
+// The circle's number outlives the window: it is what the next one proposes.
+void New_Dat_Load() {
+    const std::int32_t last_number = session.New_Dat.circle_points;
+    session.New_Dat = {};
+    session.New_Dat.circle_points = last_number;
+    load_literals(kWindow);
+}
+
+void SSOpt_predef_Click() {
+    choose(true);
+}
+
+void SSOpt_create_Click() {
+    choose(false);
+}
+
+void New_Dat_Picture1_Click(int index) {
+    NewDatWindow& window = session.New_Dat;
+    window.shape = static_cast<std::int16_t>(index);
+    window.Picture1.fill(false);
+    window.Picture1.at(static_cast<std::size_t>(index)) = true;
+    window.Txt_Shape = GetMensaje(kNames.at(static_cast<std::size_t>(index)));
+    window.cmd_ok_enabled = true;
+    if (index != kCircle)
+        return;
+    ask_circle_points();
+    window.Txt_Shape += " (" + CStr(window.circle_points) + " pts.)";
+}
+
+void New_Dat_cmd_ok_Click() {
+    LeeSettings();
+    if (session.New_Dat.SSOpt_predef)
+        take_figure();
+    else
+        start_by_hand();
+    show_stored_zoom();
+    session.PtoSel = 0;
+    session.Velmora.TxtDat_File.clear();
+    session.FileName.clear();
+    session.Velmora.TxtDescDat.clear();
+    platform().windows.unload(kWindow);
+}
+
+void New_Dat_cmd_cancel_Click() {
+    platform().windows.unload(kWindow);
+}
+
+} // namespace velmora
