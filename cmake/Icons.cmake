@@ -1,6 +1,6 @@
 # velmora_add_icons(TARGET): renders data/icons/*.svg into pictures of all sizes and takes them into
 # the target as Qt resources ":/icons/light/NAME-SIZE.png" and ":/icons/dark/NAME-SIZE.png". Only
-# the toolbar keys have a dark rendering.
+# the toolbar keys and the tiles have a dark rendering.
 find_program(VELMORA_RSVG rsvg-convert REQUIRED DOC "Renders the icons")
 
 function(_velmora_render svg folder arguments widths result)
@@ -24,7 +24,7 @@ function(velmora_add_icons target)
   set(folder "${CMAKE_BINARY_DIR}/icons")
   set(sizes 16 24 32 48 64)
   set(pictures)
-  file(GLOB keys CONFIGURE_DEPENDS "${source}/K_*.svg")
+  file(GLOB keys CONFIGURE_DEPENDS "${source}/K_*.svg" "${source}/tile_*.svg")
   foreach(svg IN LISTS keys)
     _velmora_render("${svg}" "${folder}/light" "" "${sizes}" pictures)
     _velmora_render("${svg}" "${folder}/dark" "--stylesheet=${source}/dark.css" "${sizes}" pictures)

@@ -1,5 +1,6 @@
 #include "ui/binding.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -89,6 +90,15 @@ void Bindings::check(QAbstractButton& button, bool& field) {
     tie<bool>(
         field, [&button] { return button.isChecked(); },
         [&button](bool checked) { set_checked(button, checked); });
+}
+
+void Bindings::choice(QComboBox& list, std::string& field) {
+    tie<std::string>(
+        field, [&list] { return list.currentText().toStdString(); },
+        [&list](const std::string& entry) {
+            const QSignalBlocker quiet(list);
+            list.setCurrentIndex(list.findText(QString::fromStdString(entry)));
+        });
 }
 
 void Bindings::progress(QProgressBar& bar, const ProgressBar& field) {

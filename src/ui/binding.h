@@ -13,6 +13,7 @@
 
 class QAbstractButton;
 class QAction;
+class QComboBox;
 class QLabel;
 class QLineEdit;
 class QProgressBar;
@@ -26,6 +27,8 @@ class Bindings {
     void title(QWidget& window, std::string& field);
     void label(QLabel& label, std::string& field);
     void check(QAbstractButton& button, bool& field);
+    /// The chosen entry of a list that takes no other text.
+    void choice(QComboBox& list, std::string& field);
     void progress(QProgressBar& bar, const ProgressBar& field);
     void enabled(QWidget& widget, const bool& field);
     void visible(QWidget& widget, const bool& field);

@@ -1,10 +1,17 @@
 #include "ui/window_registry.h"
 
+#include "ui/about_box.h"
+#include "ui/compensa_dialog.h"
+#include "ui/del_npto_dialog.h"
 #include "ui/info_panel.h"
 #include "ui/intro_screen.h"
 #include "ui/main_window.h"
+#include "ui/mult_ptos_dialog.h"
+#include "ui/new_dat_dialog.h"
 #include "ui/options_panel.h"
 #include "ui/scale_xy_dialog.h"
+#include "ui/setup_dialog.h"
+#include "ui/shortcut_list.h"
 
 #include <algorithm>
 #include <array>
@@ -29,6 +36,13 @@ constexpr auto kWindows = std::to_array<Row>({
     {"wininfo", make<InfoPanel>},
     {"winoptions", make<OptionsPanel>},
     {"Scale_xy", make<ScaleXyDialog>},
+    {"New_Dat", make<NewDatDialog>},
+    {"del_Npto", make<DelNptoDialog>},
+    {"Mult_Ptos", make<MultPtosDialog>},
+    {"Compensa", make<CompensaDialog>},
+    {"setup", make<SetupDialog>},
+    {"teclas", make<ShortcutList>},
+    {"acerca", make<AboutBox>},
 });
 
 } // namespace

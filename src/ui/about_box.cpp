@@ -1,0 +1,51 @@
+#include "ui/about_box.h"
+
+#include "document/session.h"
+#include "services/help.h"
+#include "ui/icons.h"
+#include "ui/windows_host.h"
+
+namespace velmora {
+
+namespace {
+constexpr double kNameSize = 1.8; ///< of the desktop's font
+} // namespace
+
+AboutBox::AboutBox(WindowsHost& windows) : FormWindow(windows) {
+    ui.Image1->set_picture(app_icon());
+    QFont font = ui.lblVelmora->font();
+    font.setPointSizeF(font.pointSizeF() * kNameSize);
+    font.setBold(true);
+    ui.lblVelmora->setFont(font);
+    bind();
+    wire();
+    list_controls(
+        {"Image1", "lblVelmora", "lblVer", "SSPanel1", "lbl_web", "lbl_mail", "Command1"});
+    ui.Command1->setFocus();
+}
+
+void AboutBox::bind() {
+    bindings().label(*ui.lblVer, session.acerca.lblVer);
+    // The names come when the box stands already; it makes room for them.
+    bindings().shows<std::string>([] { return session.acerca.SSPanel1; },
+                                  [this](const std::string& names) {
+                                      ui.SSPanel1->setText(QString::fromStdString(names));
+                                      widget().adjustSize();
+                                  });
+}
+
+void AboutBox::wire() {
+    on_click(*ui.Command1, acerca_Command1_Click);
+    connect(ui.lbl_web, &LinkLabel::clicked, this, [this] { host().run(acerca_lbl_web_Click); });
+    connect(ui.lbl_mail, &LinkLabel::clicked, this, [this] { host().run(acerca_lbl_mail_Click); });
+}
+
+void AboutBox::Load() {
+    acerca_Load();
+}
+
+void AboutBox::Activate() {
+    acerca_Activate();
+}
+
+} // namespace velmora

@@ -1,0 +1,17 @@
+// The window `teclas`: the shortcut keys in words.
+#pragma once
+
+#include "ui/window.h"
+
+#include <ui_teclas.h>
+
+namespace velmora {
+
+class ShortcutList : public FormWindow<Ui::teclas> {
+  public:
+    explicit ShortcutList(WindowsHost& windows);
+
+    void Load() override;
+};
+
+} // namespace velmora

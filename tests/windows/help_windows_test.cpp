@@ -1,0 +1,78 @@
+// The list of shortcut keys and the about box.
+#include "windows/dialogs_test.h"
+
+#include "services/deployment.h"
+#include "ui/link_label.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <gmock/gmock.h>
+
+namespace velmora::test {
+
+namespace {
+
+using testing::ElementsAre;
+using HelpWindowsTest = DialogsTest;
+
+TEST_F(HelpWindowsTest, TheShortcutsStandBesideTheirLines) {
+    in_dialog("mnu_Shortkeys", "teclas", [this] {
+        EXPECT_EQ(window("teclas")->windowTitle(), "Teclas Rápidas");
+        EXPECT_EQ(control<QGroupBox>("teclas", "Frame1").title(), "Descripción de Teclas Rápidas");
+        const std::tuple<int, const char*, const char*> lines[] = {
+            {0, "F5", "- Actualiza la lista de coordenadas"},
+            {4, "Ctrl+O", "- Cerrar Archivo"},
+            {7, "Ctrl+A", "- Abrir Archivo"},
+            {9, "Ctrl+F12", "- Aumenta Zoom"},
+            {20, "N", "- Selecciona el punto siguiente"},
+        };
+        for (const auto& [at, key, line] : lines) {
+            const std::string place = '(' + std::to_string(at) + ')';
+            EXPECT_EQ(control<QLabel>("teclas", "lbl_key" + place).text(), key);
+            EXPECT_EQ(control<QLabel>("teclas", "lbl_line" + place).text(), line);
+        }
+        expect_nothing_cut(*window("teclas"));
+        picture(*window("teclas"), "teclas");
+    });
+    EXPECT_THAT(told, ElementsAre("open teclas", "closed teclas"));
+}
+
+TEST_F(HelpWindowsTest, EnterClosesTheShortcuts) {
+    in_dialog("mnu_Shortkeys", "teclas", [this] {
+        EXPECT_TRUE(control<QPushButton>("teclas", "Command1").hasFocus());
+        EXPECT_EQ(control<QPushButton>("teclas", "Command1").text(), "Cerrar");
+        QTest::keyClick(&control<QPushButton>("teclas", "Command1"), Qt::Key_Return);
+        settle();
+        EXPECT_EQ(window("teclas"), nullptr);
+    });
+}
+
+TEST_F(HelpWindowsTest, TheAboutBoxNamesVersionAndHelpers) {
+    in_dialog("mnu_about", "acerca", [this] {
+        EXPECT_EQ(control<QLabel>("acerca", "lblVer").text(), "Velmora Ver.: 1.0 (1011)");
+        EXPECT_EQ(control<QLabel>("acerca", "SSPanel1").text().toStdString(), deployment::helpers);
+        EXPECT_THAT(tab_order(control<QPushButton>("acerca", "Command1")),
+                    ElementsAre("Command1", "lbl_web", "lbl_mail"));
+        expect_nothing_cut(*window("acerca"));
+        picture(*window("acerca"), "acerca");
+    });
+    EXPECT_THAT(told, ElementsAre("open acerca", "closed acerca"));
+}
+
+TEST_F(HelpWindowsTest, TheAboutBoxLeadsToTheWebPageAndToAMail) {
+    in_dialog("mnu_about", "acerca", [this] {
+        QTest::mouseClick(&control<LinkLabel>("acerca", "lbl_web"), Qt::LeftButton);
+        QTest::keyClick(&control<LinkLabel>("acerca", "lbl_mail"), Qt::Key_Space);
+        ASSERT_EQ(shell().opened.size(), 2U);
+        EXPECT_EQ(shell().opened[0], deployment::web_page);
+        EXPECT_THAT(shell().opened[1], testing::StartsWith("mailto:"));
+        control<QPushButton>("acerca", "Command1").click();
+        settle();
+        EXPECT_EQ(window("acerca"), nullptr);
+    });
+}
+
+} // namespace
+
+} // namespace velmora::test

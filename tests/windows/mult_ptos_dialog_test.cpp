@@ -1,0 +1,97 @@
+#include "windows/dialogs_test.h"
+
+#include "support/outline.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <gmock/gmock.h>
+
+namespace velmora::test {
+
+namespace {
+
+using testing::ElementsAre;
+
+class MultPtosDialogTest : public DialogsTest {
+  protected:
+    void in_window(const std::function<void()>& steps) {
+        set_shape({{0, 0}, {4, 0}, {4, 4}});
+        in_dialog("Mult_Points_Shape", "Mult_Ptos", steps);
+    }
+    QComboBox& factor() { return control<QComboBox>("Mult_Ptos", "Combo1"); }
+    QPushButton& ok() { return control<QPushButton>("Mult_Ptos", "cmd_ok"); }
+    void type_factor(const QString& digits) {
+        factor().lineEdit()->selectAll();
+        QTest::keyClicks(&factor(), digits);
+    }
+};
+
+TEST_F(MultPtosDialogTest, OpensWithTheCountAndTheFactor2) {
+    in_window([this] {
+        EXPECT_EQ(control<QLabel>("Mult_Ptos", "Lbl_NPoints").text(), "Nº de puntos actual : 3");
+        EXPECT_EQ(factor().currentText(), "2");
+        EXPECT_TRUE(ok().isEnabled());
+        EXPECT_THAT(tab_order(factor()), ElementsAre("Combo1", "cmd_ok", "cmd_cancel"));
+        expect_nothing_cut(*window("Mult_Ptos"));
+        picture(*window("Mult_Ptos"), "Mult_Ptos");
+    });
+}
+
+TEST_F(MultPtosDialogTest, KeepsItsDesignTextsInEveryLanguage) {
+    session.Idioma = "I";
+    in_window([this] {
+        EXPECT_EQ(window("Mult_Ptos")->windowTitle(), "Multiplicar Puntos de la Forma");
+        EXPECT_EQ(ok().text(), "&Aceptar");
+    });
+    EXPECT_THAT(told, ElementsAre("open Mult_Ptos", "closed Mult_Ptos"));
+}
+
+TEST_F(MultPtosDialogTest, OpensAgainOverItsOwnTable) {
+    in_window([] {});
+    in_window([this] {
+        EXPECT_EQ(control<QLabel>("Mult_Ptos", "Lbl_NPoints").text(), "Nº de puntos actual : 3");
+    });
+}
+
+TEST_F(MultPtosDialogTest, ATypedFactorMultiplies) {
+    in_window([this] {
+        type_factor("4");
+        EXPECT_EQ(session.Mult_Ptos.Combo1, "4");
+        ok().click();
+    });
+    EXPECT_EQ(shape().size(), 12U);
+}
+
+TEST_F(MultPtosDialogTest, AFactorBeyond1000ClearsTheBox) {
+    in_window([this] {
+        type_factor("1000");
+        EXPECT_TRUE(ok().isEnabled());
+        type_factor("1001");
+        EXPECT_EQ(factor().currentText(), " ");
+        EXPECT_FALSE(ok().isEnabled());
+    });
+}
+
+TEST_F(MultPtosDialogTest, AnEntryOfTheListMultiplies) {
+    in_window([this] {
+        QTest::keyClick(&factor(), Qt::Key_Down);
+        EXPECT_EQ(factor().currentText(), "3");
+        ok().click();
+    });
+    EXPECT_EQ(shape().size(), 9U);
+}
+
+TEST_F(MultPtosDialogTest, EscLeavesTheShape) {
+    in_window([this] {
+        QTest::keyClick(window("Mult_Ptos"), Qt::Key_Escape);
+        settle();
+        EXPECT_EQ(window("Mult_Ptos"), nullptr);
+    });
+    EXPECT_EQ(shape().size(), 3U);
+}
+
+} // namespace
+
+} // namespace velmora::test
