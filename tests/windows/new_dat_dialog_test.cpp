@@ -39,16 +39,6 @@ TEST_F(NewDatDialogTest, OpensAtTheFiguresWithNothingPicked) {
     EXPECT_THAT(told, ElementsAre("open New_Dat", "closed New_Dat"));
 }
 
-TEST_F(NewDatDialogTest, TabRunsThroughTheChoiceThatIsInForce) {
-    in_window([this] {
-        EXPECT_THAT(tab_order(part<QRadioButton>("SSOpt_predef")),
-                    ElementsAre("SSOpt_predef", "Picture1_0", "Picture1_1", "Picture1_2",
-                                "SSOpt_create", "cmd_cancel"));
-        part<QRadioButton>("SSOpt_create").click();
-        picture(*window("New_Dat"), "New_Dat-create");
-    });
-}
-
 TEST_F(NewDatDialogTest, AClickedTileNamesItsFigureAndOkMakesIt) {
     in_window([this] {
         QTest::mouseClick(&part<QToolButton>("Picture1(1)"), Qt::LeftButton);
