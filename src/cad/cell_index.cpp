@@ -1,6 +1,7 @@
 #include "cad/cell_index.h"
 
 #include "runtime/numbers.h"
+#include "runtime/prefetch.h"
 
 #include <bit>
 
@@ -36,6 +37,10 @@ std::int32_t CellIndex::mention(double X, double Y) {
     return number;
 }
 
+void CellIndex::expect(double X, double Y) const {
+    runtime::prefetch(&slots_[first_slot_of(cell_of(X, Y))]);
+}
+
 std::int32_t CellIndex::find(double X, double Y) const {
     return slots_[slot_of(cell_of(X, Y))];
 }
@@ -45,10 +50,14 @@ CellIndex::Cell CellIndex::cell_of(double X, double Y) {
     return {runtime::Int(X) + 0.0, runtime::Int(Y) + 0.0};
 }
 
+std::size_t CellIndex::first_slot_of(const Cell& cell) const {
+    return hash_of(cell.X, cell.Y) & (slots_.size() - 1);
+}
+
 /// The slot that holds the cell's number, or the free one where it would stand.
 std::size_t CellIndex::slot_of(const Cell& cell) const {
     const std::size_t mask = slots_.size() - 1;
-    std::size_t slot = hash_of(cell.X, cell.Y) & mask;
+    std::size_t slot = first_slot_of(cell);
     while (slots_[slot] != none && cells_[static_cast<std::size_t>(slots_[slot])] != cell)
         slot = (slot + 1) & mask;
     return slot;

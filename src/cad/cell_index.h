@@ -16,6 +16,8 @@ class CellIndex {
 
     /// The number of the point's cell, a new one where it had none.
     [[nodiscard]] std::int32_t mention(double X, double Y);
+    /// Fetches what a mention of this point will look at first, to be called some mentions ahead.
+    void expect(double X, double Y) const;
     /// The number of the point's cell, `none` where it was never mentioned.
     [[nodiscard]] std::int32_t find(double X, double Y) const;
 
@@ -27,6 +29,7 @@ class CellIndex {
     };
 
     [[nodiscard]] static Cell cell_of(double X, double Y);
+    [[nodiscard]] std::size_t first_slot_of(const Cell& cell) const;
     [[nodiscard]] std::size_t slot_of(const Cell& cell) const;
 
     std::vector<std::int32_t> slots_; ///< open addressing, a power of two; numbers of cells

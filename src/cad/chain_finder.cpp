@@ -8,11 +8,19 @@
 
 namespace velmora {
 
+namespace {
+
+/// How far ahead of its turn an element is looked at: far enough for memory to answer.
+constexpr std::int32_t elements_ahead = 12;
+
+} // namespace
+
 ChainFinder::ChainFinder(Array<ObjCad>& objects)
     : objects_(objects), cells_(2 * objects.size()), behind_(2 * objects.size(), nothing),
       cell_of_end_(2 * objects.size(), nothing), used_(objects.size(), true) {
     // From the last to the first, so that each cell's list rises.
     for (std::int32_t i = objects.upper(); i >= 0; --i) {
+        expect_ends(i - elements_ahead);
         const ObjCad& object = objects[i];
         if (object.Usado != 0)
             continue;
@@ -57,6 +65,16 @@ void ChainFinder::take(std::int32_t index) {
         return;
     used_[static_cast<std::size_t>(index)] = true;
     --unused_;
+}
+
+void ChainFinder::expect_ends(std::int32_t index) const {
+    if (index < 0)
+        return;
+    const ObjCad& object = objects_[index];
+    if (object.Usado != 0 || !object.Ptos.dimensioned())
+        return;
+    cells_.expect(object.Ptos[0].X, object.Ptos[0].Y);
+    cells_.expect(last_point(object).X, last_point(object).Y);
 }
 
 void ChainFinder::add_end(const Pto& point, std::int32_t end) {

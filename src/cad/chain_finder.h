@@ -43,6 +43,7 @@ class ChainFinder {
         std::int32_t second = nothing; ///< the rest of the list hangs on it; most have none
     };
 
+    void expect_ends(std::int32_t index) const;
     void add_end(const Pto& point, std::int32_t end);
     /// The list of a cell without its lowest ends that are used, but for its very last end.
     EndsOfCell& cleared(std::int32_t cell);
