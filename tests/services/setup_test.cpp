@@ -246,7 +246,6 @@ TEST_F(SetupTest, other_decimals_round_the_shape_at_once_to_the_new_precision) {
 }
 
 TEST_F(SetupTest, another_language_is_told_in_the_old_one_and_stored) {
-    machine.database->execute("INSERT INTO Mensajes VALUES ('81','T','domani',0,'Velmora')");
     window.Cmb_Lang = "Italiano";
     setup_cmd_ok_Click();
     EXPECT_THAT(texts_of_boxes(),

@@ -1,5 +1,6 @@
 // What a window shows: every text whole, in longer languages and at twice the size too; a tab
 // order, mnemonics that do not clash, a name for whoever reads the screen aloud.
+#include "windows/shown_texts.h"
 #include "windows/windows_test.h"
 
 #include "platform/form.h"
@@ -48,22 +49,6 @@ class LookTest : public WindowsTest {
             for (int part = 0; part < form.control(i).parts(); ++part)
                 lengthen(form.control(i), part);
     }
-    /// "Label4 'Origen X:'" for each text that its widget cannot show whole, on every tab.
-    std::vector<std::string> cut_texts(std::string_view name) {
-        std::vector<std::string> result;
-        QWidget& shown = *window(name);
-        auto* tabs = shown.findChild<QTabWidget*>();
-        const int pages = tabs == nullptr ? 1 : tabs->count();
-        for (int page = 0; page < pages; ++page) {
-            if (tabs != nullptr)
-                tabs->setCurrentIndex(page);
-            settle();
-            for (const QWidget* widget : shown.findChildren<QWidget*>())
-                if (widget->isVisible() && is_cut(*widget))
-                    result.push_back(widget->objectName().toStdString());
-        }
-        return result;
-    }
 
   private:
     static void lengthen(FormControl& control, int part) {
@@ -76,21 +61,6 @@ class LookTest : public WindowsTest {
             // a control without a text
         }
     }
-    static bool is_cut(const QWidget& widget) {
-        if (const auto* frame = qobject_cast<const QGroupBox*>(&widget))
-            return frame->width() < frame->minimumSizeHint().width();
-        const auto* label = qobject_cast<const QLabel*>(&widget);
-        const bool shows_text =
-            (label != nullptr && label->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored) ||
-            qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
-            qobject_cast<const QGroupBox*>(&widget) != nullptr;
-        if (!shows_text)
-            return false;
-        if (label != nullptr && label->wordWrap())
-            return label->height() < label->heightForWidth(label->width());
-        const QSize needed = widget.sizeHint();
-        return widget.width() < needed.width() || widget.height() < needed.height();
-    }
 
     QFont font_ = QApplication::font();
 };
@@ -101,7 +71,7 @@ TEST_F(LookTest, NoTextIsCut) {
     show_all();
     for (const char* name : kWindows) {
         unroll(name);
-        EXPECT_THAT(cut_texts(name), IsEmpty()) << name;
+        EXPECT_THAT(cut_texts(*window(name)), IsEmpty()) << name;
         picture(*window(name), name);
     }
 }
@@ -112,7 +82,7 @@ TEST_F(LookTest, NoTextIsCutInALongerLanguage) {
         lengthen_texts(name);
         windows().deactivate(name);
         unroll(name);
-        EXPECT_THAT(cut_texts(name), IsEmpty()) << name;
+        EXPECT_THAT(cut_texts(*window(name)), IsEmpty()) << name;
         picture(*window(name), std::string(name) + "-long");
     }
 }
@@ -123,7 +93,7 @@ TEST_F(LookTest, NoTextIsCutAtTwiceTheSize) {
     show_all();
     for (const char* name : {"wininfo", "winoptions", "Scale_xy"}) {
         unroll(name);
-        EXPECT_THAT(cut_texts(name), IsEmpty()) << name;
+        EXPECT_THAT(cut_texts(*window(name)), IsEmpty()) << name;
         picture(*window(name), std::string(name) + "-200");
     }
     picture(*window("Velmora"), "Velmora-200");
@@ -133,7 +103,7 @@ TEST_F(LookTest, TheStartWindowShowsItsTexts) {
     rebuild();
     windows().start();
     settle();
-    EXPECT_THAT(cut_texts("intro"), IsEmpty());
+    EXPECT_THAT(cut_texts(*window("intro")), IsEmpty());
     EXPECT_EQ(control<QLabel>("intro", "lblVer").text(), "Ver. 1.0");
     EXPECT_EQ(control<QLabel>("intro", "lblsubver").text(), "1011");
     picture(*window("intro"), "intro");
@@ -163,36 +133,11 @@ TEST_F(LookTest, TheTabKeyGoesThroughTheWindowsInReadingOrder) {
                 ElementsAre("TxtDat_File", "TxtDescDat", "Lst_Coords", "pic"));
 }
 
-/// The letters that are underlined, more than once where they clash.
-QString mnemonics(const QWidget& window) {
-    QString letters;
-    const auto add = [&](const QString& text) {
-        const qsizetype mark = text.indexOf('&');
-        if (mark >= 0 && mark + 1 < text.size())
-            letters += text.at(mark + 1).toLower();
-    };
-    for (const auto* button : window.findChildren<QAbstractButton*>())
-        if (button->isVisible())
-            add(button->text());
-    for (const auto* label : window.findChildren<QLabel*>())
-        if (label->isVisible() && label->buddy() != nullptr)
-            add(label->text());
-    return letters;
-}
-
 TEST_F(LookTest, NoTwoMnemonicsOfAPageClash) {
     show_all();
     for (const char* name : {"wininfo", "winoptions", "Scale_xy"}) {
         unroll(name);
-        auto* tabs = window(name)->findChild<QTabWidget*>();
-        for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
-            if (tabs != nullptr)
-                tabs->setCurrentIndex(page);
-            settle();
-            const QString letters = mnemonics(*window(name));
-            EXPECT_EQ(QSet<QChar>(letters.begin(), letters.end()).size(), letters.size())
-                << name << " page " << page << ": " << letters.toStdString();
-        }
+        EXPECT_EQ(clashing_mnemonics(*window(name)).toStdString(), "") << name;
     }
 }
 
