@@ -3,6 +3,7 @@
 #include "document/session.h"
 #include "generators/new_dat.h"
 #include "ui/icons.h"
+#include "ui/tab_stops.h"
 
 #include <QEvent>
 #include <array>
@@ -13,6 +14,9 @@ NewDatDialog::NewDatDialog(WindowsHost& windows) : FormWindow(windows) {
     draw_tiles();
     bind();
     wire();
+    new TabStops(widget(), {ui.SSOpt_predef, ui.SSOpt_create, ui.Picture1_0, ui.Picture1_1,
+                            ui.Picture1_2, ui.Option1, ui.Option2, ui.Option3, ui.Option4,
+                            ui.Option5, ui.Option6, ui.Option7, ui.Option8});
     list_controls({"SSOpt_predef", "SSOpt_create", "frm_shapes", "Picture1(0)", "Picture1(1)",
                    "Picture1(2)", "Txt_Shape", "Frm_Create", "Option1", "Option2", "Option3",
                    "Option4", "Option5", "Option6", "Option7", "Option8", "cmd_ok", "cmd_cancel"});

@@ -39,6 +39,36 @@ TEST_F(NewDatDialogTest, OpensAtTheFiguresWithNothingPicked) {
     EXPECT_THAT(told, ElementsAre("open New_Dat", "closed New_Dat"));
 }
 
+TEST_F(NewDatDialogTest, TabRunsThroughTheChoiceThatIsInForce) {
+    in_window([this] {
+        EXPECT_THAT(tab_order(part<QRadioButton>("SSOpt_predef")),
+                    ElementsAre("SSOpt_predef", "Picture1_0", "Picture1_1", "Picture1_2",
+                                "SSOpt_create", "cmd_cancel"));
+        part<QRadioButton>("SSOpt_create").click();
+        EXPECT_THAT(tab_order(part<QRadioButton>("SSOpt_create")),
+                    ElementsAre("SSOpt_create", "Option1", "Option2", "Option3", "Option4",
+                                "Option5", "Option6", "Option7", "Option8", "cmd_ok", "cmd_cancel",
+                                "SSOpt_predef"));
+        picture(*window("New_Dat"), "New_Dat-create");
+    });
+}
+
+TEST_F(NewDatDialogTest, EnterPicksTheTileWithTheFocusAndShowsWhereItIs) {
+    in_window([this] {
+        auto& tile = part<QToolButton>("Picture1(1)");
+        const QImage before = tile.grab().toImage();
+        part<QRadioButton>("SSOpt_predef").setFocus(Qt::TabFocusReason);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        ASSERT_TRUE(tile.hasFocus());
+        EXPECT_NE(tile.grab().toImage(), before);
+        QTest::keyClick(&tile, Qt::Key_Return);
+        EXPECT_EQ(part<QLineEdit>("Txt_Shape").text(), "Triángulo");
+        EXPECT_TRUE(tile.isChecked());
+        picture(*window("New_Dat"), "New_Dat-focus");
+    });
+}
+
 TEST_F(NewDatDialogTest, AClickedTileNamesItsFigureAndOkMakesIt) {
     in_window([this] {
         QTest::mouseClick(&part<QToolButton>("Picture1(1)"), Qt::LeftButton);
