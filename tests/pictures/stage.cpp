@@ -1,0 +1,119 @@
+#include "pictures/stage.h"
+
+#include "canvas/pointer.h"
+#include "canvas/view.h"
+#include "document/refresh.h"
+#include "document/session.h"
+#include "services/messages.h"
+#include "support/places.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCoreApplication>
+#include <filesystem>
+
+namespace velmora::pictures {
+
+namespace {
+
+constexpr auto kSample = "data/samples/raiz.dat";
+constexpr auto kShownPath = "/home/ana/alas/raiz.dat"; // the same in every run
+constexpr auto kZoom = "750";                          // the whole sample in view
+constexpr std::int32_t kSelected = 8;
+constexpr std::int32_t kUnderPointer = 20;
+
+} // namespace
+
+Stage::Stage(std::string_view idioma) {
+    const auto folder = std::filesystem::path(folder_.path().toStdString());
+    std::filesystem::copy_file(test::built_database(), folder / "VELMORA.MDB");
+    reset_session();
+    fill_platform(idioma);
+    session.program_folder = folder.string();
+    WindowEvents& events = platform_->windows->events;
+    events.fault = [this](const RuntimeError& failure) {
+        faults_.push_back(std::to_string(failure.number) + " " + failure.what());
+    };
+    platform_->windows->start();
+    settle();
+}
+
+Stage::~Stage() {
+    close_messages();
+    platform_.reset();
+    QGuiApplication::restoreOverrideCursor();
+}
+
+void Stage::fill_platform(std::string_view idioma) {
+    platform_ = std::make_unique<QtPlatform>();
+    auto dialogs = std::make_unique<test::RecordingDialogs>();
+    dialogs_ = dialogs.get();
+    auto settings = std::make_unique<test::MemorySettings>();
+    settings->save("Values", "Idioma", idioma);
+    settings->save("Values", "Def_Zoom", kZoom);
+    settings->save("Values", "sound", "0");
+    platform_->dialogs = std::move(dialogs);
+    platform_->settings = std::move(settings);
+    platform_->shell = std::make_unique<test::RecordingShell>();
+    platform_->machine = std::make_unique<test::FixedMachine>();
+    platform_->cad = std::make_unique<test::NoCad>();
+    platform_->install();
+}
+
+void Stage::open_main() {
+    QMetaObject::invokeMethod(platform_->windows->control("intro", "Image1"), "clicked");
+    settle();
+    open_outline();
+}
+
+void Stage::open_outline() {
+    const auto sample = std::filesystem::path(folder_.path().toStdString()) / "raiz.dat";
+    std::filesystem::copy_file(test::source_dir() / kSample, sample);
+    dialogs_->paths = {sample.string()};
+    click("Velmora", "mnu_openfile");
+    platform_->windows->run([] {
+        session.Velmora.TxtDat_File = kShownPath;
+        session.PtoSel = kSelected;
+        const Pto& point = Forma.Pto[kUnderPointer];
+        pic_MouseMove(0, 0, static_cast<float>(canvas_x(point.X)),
+                      static_cast<float>(canvas_y(point.Y)));
+        Dibuja();
+    });
+    settle();
+}
+
+QWidget* Stage::show(std::string_view name) {
+    platform_->windows->run([&] { platform_->windows->show(name); });
+    settle();
+    platform_->windows->activate(name);
+    settle();
+    return window(name);
+}
+
+void Stage::unload(std::string_view name) {
+    platform_->windows->run([&] { platform_->windows->unload(name); });
+    settle();
+}
+
+void Stage::click(std::string_view window, std::string_view name) {
+    QObject* found = platform_->windows->control(window, name);
+    if (auto* action = qobject_cast<QAction*>(found))
+        action->trigger();
+    if (auto* button = qobject_cast<QAbstractButton*>(found))
+        button->click();
+    settle();
+}
+
+QWidget* Stage::window(std::string_view name) const {
+    return platform_->windows->window(name);
+}
+
+void Stage::settle() {
+    constexpr int rounds = 5;
+    for (int round = 0; round < rounds; ++round) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+} // namespace velmora::pictures
