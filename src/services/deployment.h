@@ -1,13 +1,24 @@
-// What whoever hands out the program puts in its own place: addresses and names.
+// What whoever hands out the program puts in its own place: addresses and names, in the file
+// "deployment.txt" beside the program.
 #pragma once
 
-#include <string_view>
+#include <iosfwd>
+#include <string>
 
-namespace velmora::deployment {
+namespace velmora {
 
-inline constexpr std::string_view support_address = "soporte@velmora.example";
-inline constexpr std::string_view web_page = "https://velmora.example/";
-/// The names that the about box shows.
-inline constexpr std::string_view helpers = "A todos los que han probado Velmora cortando sus alas";
+/// Empty is what nobody has filled in.
+struct Deployment {
+    std::string support_address;
+    std::string web_page;
+    std::string helpers; ///< the names that the about box shows, a line each
+};
 
-} // namespace velmora::deployment
+/// Lines "key = value" (UTF-8); a key that is not known and a line that begins with "#" are passed
+/// over, "helper" may stand several times.
+[[nodiscard]] Deployment read_deployment(std::istream& lines);
+
+/// The file beside the program as it stands now; all empty where there is none.
+[[nodiscard]] Deployment deployment();
+
+} // namespace velmora

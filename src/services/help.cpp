@@ -1,11 +1,14 @@
 #include "services/help.h"
 
+#include "document/feedback.h"
 #include "document/handlers.h"
 #include "document/number_text.h"
 #include "platform/platform.h"
 #include "platform/shell.h"
 #include "platform/windows.h"
 #include "services/deployment.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
 #include "services/window_literals.h"
 
 namespace velmora {
@@ -20,12 +23,21 @@ std::string version_in_brackets() {
 }
 
 void open_web_page() {
-    platform().shell.open(deployment::web_page);
+    const std::string page = deployment().web_page;
+    if (page.empty()) {
+        set_status(GetMensaje(mensaje::no_web_page));
+        return;
+    }
+    platform().shell.open(page);
 }
 
 void write_to_support() {
-    EnviaMail(deployment::support_address,
-              "Velmora Ver: " + session.Ver + "-" + version_in_brackets(), "", "", "");
+    const std::string address = deployment().support_address;
+    if (address.empty()) {
+        set_status(GetMensaje(mensaje::no_support_address));
+        return;
+    }
+    EnviaMail(address, "Velmora Ver: " + session.Ver + "-" + version_in_brackets(), "", "", "");
 }
 
 } // namespace
@@ -67,7 +79,7 @@ void acerca_Load() {
 }
 
 void acerca_Activate() {
-    session.acerca.SSPanel1 = deployment::helpers;
+    session.acerca.SSPanel1 = deployment().helpers;
 }
 
 void acerca_Command1_Click() {

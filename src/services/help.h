@@ -20,6 +20,8 @@ void acerca_Load();
 /// Shows the names of those who helped.
 void acerca_Activate();
 void acerca_Command1_Click();
+/// The links, as mnu_web and mnu_mail: an address that the deployment left empty has no effect but
+/// a line in the status panel.
 void acerca_lbl_web_Click();
 void acerca_lbl_mail_Click();
 

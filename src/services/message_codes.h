@@ -87,6 +87,8 @@ inline constexpr int new_point_count = 95;
 inline constexpr int format_profili = 96;
 inline constexpr int rotation_angle = 98;
 inline constexpr int rotation_title = 99;
+inline constexpr int no_support_address = 100;
+inline constexpr int no_web_page = 101;
 inline constexpr int open_filter = 132;
 inline constexpr int picture_filter = 144;
 

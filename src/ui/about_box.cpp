@@ -26,10 +26,11 @@ AboutBox::AboutBox(WindowsHost& windows) : FormWindow(windows) {
 
 void AboutBox::bind() {
     bindings().label(*ui.lblVer, session.acerca.lblVer);
-    // The names come when the box stands already; it makes room for them.
+    // The names come when the box stands already; it makes room for them, none for none.
     bindings().shows<std::string>([] { return session.acerca.SSPanel1; },
                                   [this](const std::string& names) {
                                       ui.SSPanel1->setText(QString::fromStdString(names));
+                                      ui.SSPanel1->setVisible(!names.empty());
                                       widget().adjustSize();
                                   });
 }

@@ -1,12 +1,12 @@
 // The list of shortcut keys and the about box.
 #include "windows/dialogs_test.h"
 
-#include "services/deployment.h"
 #include "ui/link_label.h"
 
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <fstream>
 #include <gmock/gmock.h>
 
 namespace velmora::test {
@@ -14,7 +14,13 @@ namespace velmora::test {
 namespace {
 
 using testing::ElementsAre;
-using HelpWindowsTest = DialogsTest;
+
+class HelpWindowsTest : public DialogsTest {
+  protected:
+    void deploy(const std::string& lines) const {
+        std::ofstream(path("deployment.txt"), std::ios::binary) << lines;
+    }
+};
 
 TEST_F(HelpWindowsTest, TheShortcutsStandBesideTheirLines) {
     in_dialog("mnu_Shortkeys", "teclas", [this] {
@@ -49,9 +55,10 @@ TEST_F(HelpWindowsTest, EnterClosesTheShortcuts) {
 }
 
 TEST_F(HelpWindowsTest, TheAboutBoxNamesVersionAndHelpers) {
+    deploy("helper = Ana Ibáñez\nhelper = Luis\n");
     in_dialog("mnu_about", "acerca", [this] {
         EXPECT_EQ(control<QLabel>("acerca", "lblVer").text(), "Velmora Ver.: 1.0 (1011)");
-        EXPECT_EQ(control<QLabel>("acerca", "SSPanel1").text().toStdString(), deployment::helpers);
+        EXPECT_EQ(control<QLabel>("acerca", "SSPanel1").text(), "Ana Ibáñez\nLuis");
         EXPECT_THAT(tab_order(control<QPushButton>("acerca", "Command1")),
                     ElementsAre("Command1", "lbl_web", "lbl_mail"));
         expect_nothing_cut(*window("acerca"));
@@ -60,13 +67,22 @@ TEST_F(HelpWindowsTest, TheAboutBoxNamesVersionAndHelpers) {
     EXPECT_THAT(told, ElementsAre("open acerca", "closed acerca"));
 }
 
+TEST_F(HelpWindowsTest, WithoutNamesTheAboutBoxHasNoEmptyPanel) {
+    in_dialog("mnu_about", "acerca", [this] {
+        EXPECT_FALSE(control<QLabel>("acerca", "SSPanel1").isVisible());
+        expect_nothing_cut(*window("acerca"));
+        picture(*window("acerca"), "acerca-no-names");
+    });
+}
+
 TEST_F(HelpWindowsTest, TheAboutBoxLeadsToTheWebPageAndToAMail) {
+    deploy("web_page = https://taller.example/\nsupport_address = ayuda@taller.example\n");
     in_dialog("mnu_about", "acerca", [this] {
         QTest::mouseClick(&control<LinkLabel>("acerca", "lbl_web"), Qt::LeftButton);
         QTest::keyClick(&control<LinkLabel>("acerca", "lbl_mail"), Qt::Key_Space);
         ASSERT_EQ(shell().opened.size(), 2U);
-        EXPECT_EQ(shell().opened[0], deployment::web_page);
-        EXPECT_THAT(shell().opened[1], testing::StartsWith("mailto:"));
+        EXPECT_EQ(shell().opened[0], "https://taller.example/");
+        EXPECT_THAT(shell().opened[1], testing::StartsWith("mailto:ayuda@taller.example?"));
         control<QPushButton>("acerca", "Command1").click();
         settle();
         EXPECT_EQ(window("acerca"), nullptr);

@@ -13,8 +13,9 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kDatabase = "VELMORA.MDB";
-constexpr const char* kFiles[] = {kDatabase,     "mdbwav0.wav", "mdbwav1.wav",
-                                  "mdbwav7.wav", "velmora.chm", "acad.dwt"};
+constexpr const char* kFiles[] = {kDatabase,     "mdbwav0.wav",    "mdbwav1.wav", "mdbwav7.wav",
+                                  "velmora.chm", "deployment.txt", "acad.dwt"};
+constexpr const char* kHelpPages = "help";
 
 QString qt_path(const fs::path& path) {
     return QString::fromStdString(runtime::path_text(path));
@@ -37,6 +38,8 @@ void copy_missing(const fs::path& from, const fs::path& to) {
             continue;
         fs::permissions(to / name, fs::perms::owner_write, fs::perm_options::add, ignored);
     }
+    fs::copy(from / kHelpPages, to / kHelpPages,
+             fs::copy_options::recursive | fs::copy_options::skip_existing, ignored);
 }
 
 } // namespace

@@ -39,12 +39,16 @@ TEST_F(ProgramFolderTest, IsTheExecutablesWhereTheDatabaseLiesBesideIt) {
 }
 
 TEST_F(ProgramFolderTest, IsTheUsersFilledFromTheInstalledFiles) {
-    for (const char* name : {"VELMORA.MDB", "mdbwav0.wav", "velmora.chm"})
+    for (const char* name : {"VELMORA.MDB", "mdbwav0.wav", "velmora.chm", "deployment.txt"})
         write(places.installed / name, name);
+    fs::create_directories(places.installed / "help");
+    write(places.installed / "help" / "index.html", "pages");
     fs::permissions(places.installed / "VELMORA.MDB", fs::perms::owner_read);
     EXPECT_EQ(choose_program_folder(places), places.user_data);
     EXPECT_EQ(read(places.user_data / "mdbwav0.wav"), "mdbwav0.wav");
     EXPECT_EQ(read(places.user_data / "velmora.chm"), "velmora.chm");
+    EXPECT_EQ(read(places.user_data / "deployment.txt"), "deployment.txt");
+    EXPECT_EQ(read(places.user_data / "help" / "index.html"), "pages");
     EXPECT_TRUE(writable(places.user_data / "VELMORA.MDB"));
 }
 
