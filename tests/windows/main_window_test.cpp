@@ -1,9 +1,7 @@
 // The main window's list, canvas, label, status and scroll bars.
-#include "windows/windows_test.h"
+#include "windows/canvas_test.h"
 
-#include "document/refresh.h"
 #include "ui/coord_list.h"
-#include "ui/pic_widget.h"
 
 #include <QLabel>
 #include <QMenu>
@@ -16,39 +14,15 @@ namespace velmora::test {
 
 namespace {
 
-class MainWindowTest : public WindowsTest {
+class MainWindowTest : public CanvasTest {
   protected:
-    void SetUp() override {
-        start_program();
-        Forma.Pto.redim(3);
-        Forma.Pto[1] = {10, 0};
-        Forma.Pto[2] = {10, 10};
-        Forma.Pto[3] = {0, 10};
-        session.ZoomFactor = 10;
-        windows().run([] {
-            Define_Layout();
-            Dibuja();
-            Carga_List_Coords("NEWFILE");
-        });
-        dialogs().boxes.clear();
-    }
     CoordList& list() { return control<CoordList>("Velmora", "Lst_Coords"); }
-    PicWidget& pic() { return control<PicWidget>("Velmora", "pic"); }
     QScrollArea& scroll() { return control<QScrollArea>("Velmora", "SSScroll"); }
     QString row(int place) { return list().model()->index(place, 0).data().toString(); }
     void click_row(int place) {
         const QModelIndex index = list().model()->index(place, 0);
         list().scrollTo(index);
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, list().visualRect(index).center());
-    }
-    /// Pixels of pic for points of this shape: the origin stands 30 from the left and the bottom.
-    static QPoint place(double x, double y) {
-        return {static_cast<int>(30 + 10 * x), static_cast<int>(1970 - 10 * y)};
-    }
-    void move_to(QPoint at) {
-        QMouseEvent event(QEvent::MouseMove, at, pic().mapToGlobal(at), Qt::NoButton, Qt::NoButton,
-                          Qt::NoModifier);
-        QCoreApplication::sendEvent(&pic(), &event);
     }
 };
 
@@ -63,6 +37,8 @@ TEST_F(MainWindowTest, AClickOnARowSelectsItsPointAndGivesTheCanvasTheFocus) {
     click_row(2);
     EXPECT_EQ(session.PtoSel, 2);
     EXPECT_TRUE(pic().hasFocus());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_N);
+    EXPECT_EQ(session.PtoSel, 3);
 }
 
 TEST_F(MainWindowTest, AnArrowKeyInTheListIsAClickOnItsRow) {

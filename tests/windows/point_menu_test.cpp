@@ -1,0 +1,147 @@
+// The menu of a point: opened by a right click, each entry chosen in it with the pointer.
+#include "support/outline.h"
+#include "windows/canvas_test.h"
+
+#include <QMenu>
+#include <QTimer>
+#include <functional>
+#include <gmock/gmock.h>
+
+namespace velmora::test {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+
+class PointMenuTest : public CanvasTest {
+  protected:
+    QMenu& menu() { return *window("Velmora")->findChild<QMenu*>("OPT_PTO"); }
+    /// A right click on the point (10, 10), number 2, then a click on the entry.
+    void choose(const char* entry) {
+        QTest::mouseClick(&pic(), Qt::RightButton, {}, place(10, 10));
+        ASSERT_TRUE(menu().isVisible());
+        auto& action = control<QAction>("Velmora", entry);
+        ASSERT_TRUE(action.isEnabled()) << entry;
+        QTest::mouseClick(&menu(), Qt::LeftButton, {}, menu().actionGeometry(&action).center());
+        settle();
+        EXPECT_FALSE(menu().isVisible());
+    }
+};
+
+TEST_F(PointMenuTest, HoldsItsEntriesInOrder) {
+    QStringList names;
+    for (const QAction* action : menu().actions())
+        if (action->isVisible())
+            names << (action->isSeparator() ? "-" : action->objectName());
+    EXPECT_THAT(names,
+                ElementsAreArray({"-", "Delete_Pto", "Delete_N_Ptos", "-", "Insert_Pto",
+                                  "insert_ini", "Insert_N_Ptos", "-", "Delete_Pto_Sinc",
+                                  "Insert_Pto_Sinc", "Pts_To_Next_Sinc", "-", "Set_CutStart",
+                                  "Set_00", "set_10", "set_x0", "-", "Move_Shape", "Rotate"}));
+}
+
+TEST_F(PointMenuTest, ARightClickBesideThePointsOpensNothing) {
+    QTest::mouseClick(&pic(), Qt::RightButton, {}, place(5, 5));
+    EXPECT_FALSE(menu().isVisible());
+}
+
+TEST_F(PointMenuTest, EscClosesItAndKeepsTheNewSelection) {
+    QTest::mouseClick(&pic(), Qt::RightButton, {}, place(10, 10));
+    QTest::keyClick(&menu(), Qt::Key_Escape);
+    EXPECT_FALSE(menu().isVisible());
+    EXPECT_EQ(session.PtoSel, 2);
+    EXPECT_EQ(shape().size(), 4U);
+}
+
+TEST_F(PointMenuTest, DeletePto) {
+    choose("Delete_Pto");
+    EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {0, 10}}));
+    EXPECT_EQ(session.PtoSel, 1);
+}
+
+TEST_F(PointMenuTest, DeleteNPtosOpensItsWindow) {
+    bool opened = false;
+    QTimer::singleShot(0, [&] {
+        opened = window("del_Npto") != nullptr;
+        if (opened)
+            window("del_Npto")->close();
+    });
+    choose("Delete_N_Ptos");
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(PointMenuTest, InsertPto) {
+    choose("Insert_Pto");
+    EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {10, 5}, {10, 10}, {0, 10}}));
+    EXPECT_EQ(session.PtoSel, 2);
+}
+
+TEST_F(PointMenuTest, InsertIni) {
+    choose("insert_ini");
+    EXPECT_EQ(shape(),
+              (Points{{1, 0, 1}, {10, 0}, {10, 10}, {0, 10}, {0, 0}, {10, 0}, {10, 10}, {10, 0}}));
+}
+
+TEST_F(PointMenuTest, InsertNPtosTurnsThePointToTheFront) {
+    choose("Insert_N_Ptos");
+    EXPECT_EQ(session.PtosToInsertMode, True);
+    EXPECT_EQ(shape(), (Points{{10, 10}, {0, 10}, {0, 0, 0, 1}, {10, 0}}));
+}
+
+TEST_F(PointMenuTest, InsertAndDeletePtoSinc) {
+    choose("Insert_Pto_Sinc");
+    EXPECT_EQ(Forma.Pto[2].Sinc, 1);
+    EXPECT_EQ(session.TotalSinc, 1);
+    choose("Delete_Pto_Sinc");
+    EXPECT_EQ(Forma.Pto[2].Sinc, 0);
+    EXPECT_EQ(session.TotalSinc, 0);
+}
+
+TEST_F(PointMenuTest, PtsToNextSincTellsOnASyncPointAlone) {
+    QTest::mouseClick(&pic(), Qt::RightButton, {}, place(10, 10));
+    EXPECT_FALSE(control<QAction>("Velmora", "Pts_To_Next_Sinc").isEnabled());
+    menu().close();
+    Forma.Pto[2].Sinc = 1;
+    choose("Pts_To_Next_Sinc");
+    ASSERT_EQ(dialogs().boxes.size(), 1U);
+    EXPECT_EQ(dialogs().boxes[0].text,
+              "Número de puntos hasta el siguiente punto de sincronismo: 3");
+}
+
+TEST_F(PointMenuTest, SetCutStart) {
+    choose("Set_CutStart");
+    EXPECT_EQ(shape(), (Points{{10, 10}, {0, 10}, {0, 0}, {10, 0}}));
+}
+
+TEST_F(PointMenuTest, Set00) {
+    choose("Set_00");
+    EXPECT_EQ(shape(), (Points{{-10, -10}, {0, -10}, {0, 0}, {-10, 0}}));
+}
+
+TEST_F(PointMenuTest, Set10) {
+    choose("set_10");
+    EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {1, 0}, {0, 10}}));
+}
+
+TEST_F(PointMenuTest, SetX0) {
+    choose("set_x0");
+    EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {10, 0}, {0, 10}}));
+}
+
+TEST_F(PointMenuTest, MoveShapeWaitsForThePointer) {
+    choose("Move_Shape");
+    EXPECT_EQ(session.MoveShapeMode, True);
+    EXPECT_EQ(pic().cursor().shape(), Qt::UpArrowCursor);
+}
+
+TEST_F(PointMenuTest, RotateAsksForTheAngle) {
+    dialogs().inputs = {"180"};
+    choose("Rotate");
+    // Straight below the pivot counts as beside it, on purpose.
+    EXPECT_EQ(shape(), (Points{{20, 20}, {0, 10}, {10, 10}, {20, 10}}));
+}
+
+} // namespace
+
+} // namespace velmora::test
