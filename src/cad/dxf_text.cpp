@@ -34,7 +34,8 @@ std::string_view DxfText::line() {
 double DxfText::coordinate() {
     const std::string_view text = runtime::Trim(number_text());
     const double value = CDbl(text);
-    return is_normal(text) ? value : Normaliza15(value);
+    // The text of minus zero is "0": a sum with 0 drops the sign.
+    return is_normal(text) ? value + 0.0 : Normaliza15(value);
 }
 
 double DxfText::measure() {

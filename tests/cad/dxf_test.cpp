@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace velmora {
 namespace {
 
@@ -101,6 +103,14 @@ TEST_F(Dxf, coordinates_have_15_significant_digits) {
     EXPECT_EQ(places[0].second, 1234567890.12346);
     EXPECT_EQ(places[1].first, 1E-20);
     EXPECT_EQ(places[1].second, 1E-28);
+}
+
+TEST_F(Dxf, minus_zero_is_zero) {
+    load_and_stop(dxf_line("-0.0", "-0", "-0.000000000000000000", "-0E5"));
+    for (const auto& [X, Y] : places_of(first().Ptos)) {
+        EXPECT_FALSE(std::signbit(X));
+        EXPECT_FALSE(std::signbit(Y));
+    }
 }
 
 TEST_F(Dxf, a_point_is_the_line_from_what_came_before) {
