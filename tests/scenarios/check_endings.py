@@ -72,7 +72,7 @@ class Endings(unittest.TestCase):
                            ("row 7", "7"),
                            ("tab winoptions.SSTab1 9", "9"),
                            ("tab Velmora.pic 0", "pic"),
-                           ("pointer down none 0 0", "pointer"),
+                           ("pointer down middle 0 0", "pointer"),
                            ("pointer up left 0", "pointer"),
                            ("pointer up left 0 x", "x"),
                            ("pointer up left 0 0 shift", "pointer"),

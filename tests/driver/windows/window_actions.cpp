@@ -161,8 +161,7 @@ void pointer_event(Stage& stage, Words words) {
     const bool ctrl = words.size() == 5;
     const PointerStep step = named(steps, words[0], form);
     const Qt::MouseButton button = named(buttons, words[1], form);
-    const bool needs_button = step != PointerStep::move;
-    if ((ctrl && words[4] != "ctrl") || (needs_button && button == Qt::NoButton))
+    if (ctrl && words[4] != "ctrl")
         fault(std::string("the form is ") + form);
     const QPointF place(real_number(words[2]), real_number(words[3]));
     auto canvas = QPointer<QWidget>(&find_widget(stage.windows(), "Velmora.pic"));
