@@ -1,6 +1,5 @@
 #include "services/settings.h"
 
-#include "document/feedback.h"
 #include "document/session.h"
 #include "platform/platform.h"
 #include "platform/settings_store.h"
@@ -46,17 +45,13 @@ constexpr auto kWholeNumbers = std::to_array<WholeNumber>({
     {"Def_ACircle", &Session::Def_ACircle, 50},
 });
 
-// Reads a number by `read`, with either separator; a fault's description names the key.
+// Reads a number by `read`, with either separator. A text that is none fails the caller.
 template <class Number, class Read>
 Number number(std::string_view section, std::string_view key, Number preset, Read&& read) {
     const auto stored = platform().settings.get(section, key);
     if (!stored)
         return preset;
-    try {
-        return read(runtime::replaced(*stored, ',', '.'), '.');
-    } catch (const RuntimeError& failure) {
-        raise(failure.number, description_of(failure) + ": " + std::string(key));
-    }
+    return read(runtime::replaced(*stored, ',', '.'), '.');
 }
 
 std::int32_t whole_number(std::string_view section, std::string_view key, std::int32_t preset) {

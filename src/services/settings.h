@@ -7,7 +7,7 @@
 namespace velmora {
 
 /// Reads all settings into the session, with their defaults; nothing is validated. A stored value
-/// that is no number raises 13, one that does not fit 6, and the error's description names its key.
+/// that is no number raises 13, one that does not fit 6.
 void LeeSettings();
 /// Writes all of them.
 void GuardaSettings();
