@@ -1,10 +1,12 @@
 #include "adapters/qt/qt_shell.h"
 
+#include "adapters/qt/desktop_programs.h"
 #include "adapters/qt/recycle_bin.h"
 #include "adapters/qt/sound.h"
 #include "runtime/paths.h"
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QUrl>
@@ -28,6 +30,15 @@ bool is_address(const QString& target) {
     return scheme.match(target).hasMatch();
 }
 
+/// The help file itself, or its pages where it is missing or nothing shows it.
+QString shown_help(const QString& help_file) {
+    const QString pages = QFileInfo(help_file).dir().filePath("help/index.html");
+    const bool shows_file =
+        QFileInfo::exists(help_file) &&
+        desktop_opens({"application/vnd.ms-htmlhelp", "application/x-chm", "application/chm"});
+    return shows_file || !QFileInfo::exists(pages) ? help_file : pages;
+}
+
 class QtShell : public Shell {
   public:
     int open(std::string_view target) override {
@@ -35,7 +46,9 @@ class QtShell : public Shell {
             QString::fromUtf8(target.data(), static_cast<qsizetype>(target.size()));
         if (is_address(text))
             return started(QUrl(text, QUrl::TolerantMode));
-        const QString path = path_of(target);
+        QString path = path_of(target);
+        if (path.endsWith(".chm", Qt::CaseInsensitive))
+            path = shown_help(path);
         if (!QFileInfo::exists(path))
             return kFileNotFound;
         return started(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
