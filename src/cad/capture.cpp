@@ -74,7 +74,7 @@ void report(std::int32_t incoherent) {
     }
     const std::string text = GetMensaje(mensaje::found) + " " + CStr(incoherent) + " " +
                              GetMensaje(mensaje::incoherent_lines);
-    MsgBox(text, buttons::critical);
+    MsgBox(text, buttons::critical, box_title());
     set_status(text);
 }
 

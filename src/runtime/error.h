@@ -44,7 +44,8 @@ inline constexpr int item_not_found = 3265;
 inline constexpr int unrecognized_database = 3343;
 } // namespace error
 
-/// A run-time error. `description` is empty where the number's own text of the table holds.
+/// A run-time error. `description` is empty where the number's own text of the table holds. `place`
+/// is one more line of the report: what the user has to mend, empty where the raiser can't tell.
 class RuntimeError : public std::exception {
   public:
     explicit RuntimeError(int error_number, std::string own_description = {});
@@ -52,6 +53,7 @@ class RuntimeError : public std::exception {
 
     int number;
     std::string description;
+    std::string place;
 
   private:
     std::string what_;

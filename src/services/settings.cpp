@@ -45,13 +45,19 @@ constexpr auto kWholeNumbers = std::to_array<WholeNumber>({
     {"Def_ACircle", &Session::Def_ACircle, 50},
 });
 
-// Reads a number by `read`, with either separator. A text that is none fails the caller.
+// Reads a number by `read`, with either separator. A text that is none fails the caller; the report
+// names the setting, for the user to mend it.
 template <class Number, class Read>
 Number number(std::string_view section, std::string_view key, Number preset, Read&& read) {
     const auto stored = platform().settings.get(section, key);
     if (!stored)
         return preset;
-    return read(runtime::replaced(*stored, ',', '.'), '.');
+    try {
+        return read(runtime::replaced(*stored, ',', '.'), '.');
+    } catch (RuntimeError& failure) {
+        failure.place = std::string(section) + "/" + std::string(key) + "=" + *stored;
+        throw;
+    }
 }
 
 std::int32_t whole_number(std::string_view section, std::string_view key, std::int32_t preset) {

@@ -7,7 +7,8 @@
 namespace velmora {
 
 /// Reads all settings into the session, with their defaults; nothing is validated. A stored value
-/// that is no number raises 13, one that does not fit 6.
+/// that is no number raises 13, one that does not fit 6; the error's place names section, key and
+/// value.
 void LeeSettings();
 /// Writes all of them.
 void GuardaSettings();

@@ -18,12 +18,13 @@ constexpr std::chrono::milliseconds kYieldInterval(16);
 constexpr int kInternalError = 51;
 constexpr int kFaultStatus = 1;
 
-/// Names the file that keeps the outline in one more line.
+/// Names what the user has to mend, and the file that keeps the outline, in a line each.
 void report(const RuntimeError& failure, const std::string& recovered) {
     std::string text =
         "Run-time error '" + std::to_string(failure.number) + "':\n\n" + description_of(failure);
-    if (!recovered.empty())
-        text += "\n" + recovered;
+    for (const std::string& line : {failure.place, recovered})
+        if (!line.empty())
+            text += "\n" + line;
     platform().dialogs.message(text, buttons::critical, "Velmora");
 }
 

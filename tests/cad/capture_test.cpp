@@ -267,7 +267,7 @@ TEST_F(CaptureTest, a_stray_line_turns_yellow_and_is_counted) {
     EXPECT_THAT(outline(), ElementsAre(Place(0, 0), Place(10, 0), Place(10, 10)));
     EXPECT_EQ(colour(2), 2);
     EXPECT_EQ(colour(3), driver::kColourByLayer);
-    EXPECT_THAT(machine.dialogs.boxes, ElementsAre(ShownBox{kOneIncoherent, 16, "Velmora"}));
+    EXPECT_THAT(machine.dialogs.boxes, ElementsAre(ShownBox{kOneIncoherent, 16, "Velmora 1.0"}));
     EXPECT_EQ(session.Velmora.StatusBar1, kOneIncoherent);
 }
 

@@ -136,7 +136,11 @@ TEST_F(SettingsTest, a_value_that_is_no_number_raises_13_with_the_numbers_own_te
         EXPECT_EQ(description_of(failure), error_description(13, 'E')) << key;
     }
     machine.settings.values.clear();
+    store("cl_ejes", "azul");
+    EXPECT_EQ(failure_of_reading().place, "Colors/cl_ejes=azul");
+    machine.settings.values.clear();
     store("Def_Dec", "");
+    EXPECT_EQ(failure_of_reading().place, "Values/Def_Dec=");
     EXPECT_EQ(failure_of_reading().number, 13);
 }
 

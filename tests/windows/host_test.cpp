@@ -84,6 +84,19 @@ TEST_F(HostTest, AFaultWithNobodyWatchingIsReportedAndNothingRunsAfterIt) {
     EXPECT_FALSE(ran);
 }
 
+TEST_F(HostTest, TheReportNamesWhatTheUserHasToMend) {
+    windows().events.fault = {};
+    run([] {
+        RuntimeError failure(error::overflow, "Desbordamiento");
+        failure.place = "Values/Def_Dec=9999999999";
+        throw failure;
+    });
+    ASSERT_EQ(dialogs().boxes.size(), 1U);
+    EXPECT_EQ(dialogs().boxes[0],
+              (ShownBox{"Run-time error '6':\n\nDesbordamiento\nValues/Def_Dec=9999999999", 16,
+                        "Velmora"}));
+}
+
 TEST_F(HostTest, AFaultAboveAModalWindowUnwindsTheHandlerThatWaits) {
     bool went_on = false;
     later([this] { run([] { raise(error::type_mismatch); }); });
