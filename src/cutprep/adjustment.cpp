@@ -115,14 +115,13 @@ class Runs {
     explicit Runs(std::int32_t NumSinc) : NumSinc_(NumSinc) {}
 
     void adjust() {
-        const std::string status = session.Velmora.StatusBar1;
         for (std::int32_t tramo = 1; tramo <= NumSinc_; ++tramo) {
-            set_status(std::to_string(tramo) + " / " + std::to_string(NumSinc_));
+            session.ajuste.lbl_estado = std::to_string(tramo) + " / " + std::to_string(NumSinc_);
             DoEvents();
             adjust_run(tramo);
         }
         transaction_.commit();
-        set_status(status);
+        session.ajuste.lbl_estado.clear();
     }
 
   private:

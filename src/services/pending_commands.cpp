@@ -16,9 +16,6 @@ void mnu_print() {
 void mnu_seltexto() {
     not_available();
 }
-void mnu_corrpoltrap() {
-    not_available();
-}
 void K_PRINT() {
     not_available();
 }

@@ -1,6 +1,8 @@
 #include "ui/window_registry.h"
 
 #include "ui/about_box.h"
+#include "ui/ajuste_dialog.h"
+#include "ui/ajuste_opt_dialog.h"
 #include "ui/compensa_dialog.h"
 #include "ui/del_npto_dialog.h"
 #include "ui/info_panel.h"
@@ -40,6 +42,8 @@ constexpr auto kWindows = std::to_array<Row>({
     {"del_Npto", make<DelNptoDialog>},
     {"Mult_Ptos", make<MultPtosDialog>},
     {"Compensa", make<CompensaDialog>},
+    {"ajuste", make<AjusteDialog>},
+    {"ajuste_opt", make<AjusteOptDialog>},
     {"setup", make<SetupDialog>},
     {"teclas", make<ShortcutList>},
     {"acerca", make<AboutBox>},

@@ -1,5 +1,6 @@
 #include "cutprep/adjustment.h"
 
+#include "formats/watching_windows.h"
 #include "platform/database.h"
 #include "support/error_number.h"
 #include "workbench.h"
@@ -260,15 +261,26 @@ TEST_F(AdjustmentTest, the_results_take_the_loaded_names_with_2_behind) {
 }
 
 TEST_F(AdjustmentTest, a_press_tells_its_runs_and_ends_with_the_save_button) {
+    std::vector<std::string> told;
+    const test::WatchingWindows windows(machine, [&] {
+        if (told.empty() || told.back() != session.ajuste.lbl_estado)
+            told.push_back(session.ajuste.lbl_estado);
+    });
+    show_previews();
     set_sides(kThree, kFive);
-    session.Velmora.StatusBar1 = "Cargado: X.DAT";
     Cmd_Ajuste_Click();
-    EXPECT_EQ(machine.windows.statuses,
-              (std::vector<std::string>{"1 / 2", "2 / 2", "Cargado: X.DAT"}));
-    EXPECT_EQ(machine.windows.pointers, (std::vector<int>{11, 0}));
-    EXPECT_GT(machine.windows.yields, 6);
+    // Empty again while the pictures are drawn. The main window's panel is left alone.
+    EXPECT_EQ(told, (std::vector<std::string>{"1 / 2", "2 / 2", ""}));
+    EXPECT_TRUE(machine.windows.statuses.empty());
     EXPECT_TRUE(session.ajuste.Cmd_save_enabled);
     EXPECT_TRUE(machine.dialogs.boxes.empty());
+}
+
+TEST_F(AdjustmentTest, a_press_shows_the_hourglass_and_lets_the_windows_run) {
+    set_sides(kThree, kFive);
+    Cmd_Ajuste_Click();
+    EXPECT_EQ(machine.windows.pointers, (std::vector<int>{11, 0}));
+    EXPECT_GT(machine.windows.yields, 6);
 }
 
 TEST_F(AdjustmentTest, the_merged_outlines_show_before_the_projected_ones) {

@@ -73,14 +73,19 @@ struct Workbench {
     RecordingPreviews previews;
 
     Workbench() {
-        Platform services = platform();
-        services.previews = &previews;
-        set_platform(services);
+        show_previews();
         session.PtosA.redim(0);
         session.PtosB.redim(0);
         session.ajuste.txt_fileA = machine.path("raiz.dat");
         session.ajuste.Txt_FileB = machine.path("punta.dat");
         keep_in_place();
+    }
+
+    /// Also for windows that were put in place of the platform's.
+    void show_previews() {
+        Platform services = platform();
+        services.previews = &previews;
+        set_platform(services);
     }
 
     static void set_sides(const Points& A, const Points& B) {

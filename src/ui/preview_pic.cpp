@@ -1,0 +1,141 @@
+#include "ui/preview_pic.h"
+
+#include "canvas/colours.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace velmora {
+
+namespace {
+
+constexpr double kTwipsToThePixel = 15;
+constexpr double kLineWidth = 1;
+/// Beyond the sheet's edges, so that the end of a clipped line doesn't show.
+constexpr double kClipMargin = 8;
+
+/// The part of a segment that lies in the box; nothing where none does. The painter's own
+/// arithmetic gives up far outside.
+std::optional<QLineF> clipped(const QLineF& line, const QRectF& box) {
+    double from = 0;
+    double to = 1;
+    const auto cut = [&](double step, double room) {
+        if (step == 0)
+            return room >= 0;
+        const double share = room / step;
+        if (step < 0)
+            from = std::max(from, share);
+        else
+            to = std::min(to, share);
+        return from <= to;
+    };
+    const bool meets =
+        cut(-line.dx(), line.x1() - box.left()) && cut(line.dx(), box.right() - line.x1()) &&
+        cut(-line.dy(), line.y1() - box.top()) && cut(line.dy(), box.bottom() - line.y1());
+    if (!meets)
+        return {};
+    return QLineF(line.pointAt(from), line.pointAt(to));
+}
+
+} // namespace
+
+PreviewPic::PreviewPic(QWidget* parent) : QFrame(parent) {
+    setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+double PreviewPic::ScaleWidth() const {
+    return contentsRect().width() * kTwipsToThePixel;
+}
+
+double PreviewPic::ScaleHeight() const {
+    return contentsRect().height() * kTwipsToThePixel;
+}
+
+void PreviewPic::Cls() {
+    marks_.clear();
+    sheet_ = {};
+    drawn_size_ = contentsRect().size();
+    update();
+}
+
+void PreviewPic::Line(double x1, double y1, double x2, double y2, std::uint32_t colour) {
+    add({x1, y1, x2, y2, 0, screen_rgb(colour)});
+}
+
+void PreviewPic::Circle(double x, double y, double radius, std::uint32_t colour) {
+    add({x, y, x, y, radius, screen_rgb(colour)});
+}
+
+void PreviewPic::add(const Mark& mark) {
+    marks_.push_back(mark);
+    if (!std::exchange(repaint_asked_, true))
+        update();
+}
+
+QSize PreviewPic::sizeHint() const {
+    return {340, 190};
+}
+
+QSize PreviewPic::minimumSizeHint() const {
+    return {200, 110};
+}
+
+void PreviewPic::paintEvent(QPaintEvent* event) {
+    repaint_asked_ = false;
+    fit_sheet();
+    bring_up_to_date();
+    QPainter(this).drawPixmap(contentsRect().topLeft(), sheet_);
+    QFrame::paintEvent(event);
+}
+
+void PreviewPic::fit_sheet() {
+    const QSizeF size = QSizeF(contentsRect().size()) * devicePixelRatioF();
+    const QSize pixels(static_cast<int>(std::ceil(size.width())),
+                       static_cast<int>(std::ceil(size.height())));
+    if (sheet_.size() == pixels && sheet_.devicePixelRatio() == devicePixelRatioF())
+        return;
+    sheet_ = QPixmap(pixels);
+    sheet_.setDevicePixelRatio(devicePixelRatioF());
+    // Paper in every theme: the colours of the marks are meant for a light ground.
+    sheet_.fill(Qt::white);
+    painted_ = 0;
+}
+
+QTransform PreviewPic::to_sheet() const {
+    const QRect now = contentsRect();
+    const double stretch =
+        std::min(now.width() / drawn_size_.width(), now.height() / drawn_size_.height());
+    QTransform result;
+    result.translate(0, now.height() - drawn_size_.height() * stretch);
+    result.scale(stretch / kTwipsToThePixel, stretch / kTwipsToThePixel);
+    return result;
+}
+
+void PreviewPic::bring_up_to_date() {
+    if (painted_ == marks_.size() || drawn_size_.isEmpty())
+        return;
+    QPainter painter(&sheet_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QTransform transform = to_sheet();
+    const QRectF sheet(QPointF(), QSizeF(contentsRect().size()));
+    for (; painted_ < marks_.size(); ++painted_) {
+        const Mark& mark = marks_[painted_];
+        painter.setPen(QPen(QColor::fromRgb(mark.colour), kLineWidth));
+        const QPointF place = transform.map(QPointF(mark.x1, mark.y1));
+        const double radius = mark.radius * transform.m11();
+        const double margin = radius + kClipMargin;
+        const QRectF visible = sheet.adjusted(-margin, -margin, margin, margin);
+        if (mark.radius > 0) {
+            if (visible.contains(place))
+                painter.drawEllipse(place, radius, radius);
+        } else if (const auto line =
+                       clipped(QLineF(place, transform.map(QPointF(mark.x2, mark.y2))), visible)) {
+            painter.drawLine(*line);
+        }
+    }
+}
+
+} // namespace velmora
