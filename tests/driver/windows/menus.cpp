@@ -9,8 +9,6 @@
 #include "windows/controls.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QWidget>
 
 namespace velmora::driver {
 
@@ -44,8 +42,6 @@ void click_menu(WindowsHost& windows, Transcript& transcript, const std::string&
     windows.refresh();
     if (!is_entry_enabled(*action, name))
         return transcript.line("disabled", name);
-    if (QWidget* popup = QApplication::activePopupWidget())
-        popup->close();
     if (action->isVisible())
         action->trigger();
     else

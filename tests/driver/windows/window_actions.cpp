@@ -26,10 +26,13 @@ namespace velmora::driver {
 
 namespace {
 
-/// The window that a person works with has the activation.
+/// The window that a person works with has the activation. A pop-up menu goes as soon as something
+/// else is used: while it is open no shortcut works.
 void bring_forward(Stage& stage, const std::string& name) {
     QWidget& window = find_window(stage.windows(), name);
     check_reachable(window);
+    if (QWidget* popup = QApplication::activePopupWidget())
+        popup->close();
     if (QApplication::activeWindow() != &window) {
         window.activateWindow();
         QApplication::setActiveWindow(&window);
