@@ -98,6 +98,33 @@ TEST_F(MergedListTest, a_database_that_another_program_has_locked_raises_3008) {
     expect_former_rows();
 }
 
+TEST_F(MergedListTest, a_folder_that_takes_no_journal_raises_3051) {
+    // What a folder that may not be written is to the database; a folder's own rights would not
+    // stop an administrator.
+    std::filesystem::create_symlink("/missing/folder/journal", machine.path("VELMORA.MDB-journal"));
+    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::database_not_opened);
+    std::filesystem::remove(machine.path("VELMORA.MDB-journal"));
+    expect_no_transaction();
+    expect_former_rows();
+}
+
+TEST_F(MergedListTest, a_disk_that_fills_up_raises_61_and_leaves_the_files_of_the_user_alone) {
+    machine.write("raiz2.DAT", "de antes");
+    test::Points A(3000);
+    for (std::size_t i = 0; i < A.size(); ++i)
+        A[i] = {.X = static_cast<double>(i), .Y = i % 2 == 0 ? 1.0 : 2.0};
+    A[0].Sinc = 1;
+    set_sides(A, {{0, 0, 1}, {4, 0}, {4, 4}});
+    execute("PRAGMA max_page_count = 1"); // no more than there are
+    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::disk_full);
+    expect_no_transaction();
+    expect_former_rows();
+    EXPECT_EQ(test::RecordingPlatform::read(machine.path("raiz2.DAT")), "de antes");
+    EXPECT_FALSE(std::filesystem::exists(machine.path("punta2.DAT")));
+    EXPECT_FALSE(session.ajuste.Cmd_save_enabled);
+    EXPECT_EQ(session.Velmora.MousePointer, 11);
+}
+
 TEST_F(MergedListTest, a_fault_in_the_middle_leaves_the_table_as_it_was) {
     execute("CREATE TRIGGER fault BEFORE INSERT ON TEMP_AJUSTE WHEN NEW.ORDEN = 2 "
             "BEGIN SELECT RAISE(ABORT, 'full'); END");
