@@ -1,7 +1,7 @@
 // Texts of outline files for the tests, put together by hand and not by the writer under test.
 #pragma once
 
-#include "runtime/error.h"
+#include "support/error_number.h"
 
 #include <initializer_list>
 #include <string>
@@ -36,16 +36,6 @@ inline std::string sync_file(std::initializer_list<Fields> outline,
                              std::string_view description = "ala") {
     return record("Fichero DAT(KMR)2002", description) + record("SLATEWORKS", "") +
            records(outline) + record("Puntos Sincronismo", "") + record("", "") + records(sync);
-}
-
-/// The number of the run-time error that the body raises, 0 for none.
-int number_of(auto&& body) {
-    try {
-        body();
-    } catch (const RuntimeError& failure) {
-        return failure.number;
-    }
-    return 0;
 }
 
 } // namespace velmora::test
