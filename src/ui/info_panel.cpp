@@ -10,16 +10,11 @@ namespace velmora {
 namespace {
 constexpr int kRow = 0; // twips below the main window's top
 constexpr int kPictureSize = 24;
-
-void show_as_read_only(QLineEdit& box) {
-    QPalette palette = box.palette();
-    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-    box.setPalette(palette);
-}
 } // namespace
 
 InfoPanel::InfoPanel(WindowsHost& windows) : SidePanel(windows, kRow) {
     ui.Image1->setPixmap(app_icon().pixmap(kPictureSize));
+    colour_boxes();
     bind();
     list_controls(
         {"TxtAcadFile",  "TxtOpensw",       "txtAcadVer",       "Frame3",     "TxtNArcs",
@@ -46,7 +41,6 @@ void InfoPanel::bind() {
     };
     for (const auto& [box, field] : boxes) {
         bindings().text(*box, *field);
-        show_as_read_only(*box);
     }
     bindings().check(*ui.chk_wininfo, state.chk_wininfo);
     const std::pair<Lamp*, const std::uint32_t*> lamps[] = {
@@ -57,6 +51,19 @@ void InfoPanel::bind() {
         bindings().shows<std::uint32_t>([colour] { return *colour; },
                                         [lamp](std::uint32_t shown) { lamp->set_colour(shown); });
     bind_height(wininfo_height, state.rolled_up);
+}
+
+void InfoPanel::colour_boxes() {
+    QPalette palette;
+    palette.setColor(QPalette::Base, widget().palette().color(QPalette::Window));
+    for (auto* box : widget().findChildren<QLineEdit*>())
+        box->setPalette(palette);
+}
+
+bool InfoPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &widget() && event->type() == QEvent::PaletteChange)
+        colour_boxes();
+    return SidePanel::eventFilter(watched, event);
 }
 
 void InfoPanel::Load() {

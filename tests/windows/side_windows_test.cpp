@@ -134,6 +134,14 @@ TEST_F(SideWindowsTest, InformationShowsTheFiguresAndTakesNoTyping) {
         EXPECT_TRUE(shown->isReadOnly()) << shown->objectName().toStdString();
 }
 
+TEST_F(SideWindowsTest, InformationFollowsTheDesktopsColours) {
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor("#202327"));
+    window("wininfo")->setPalette(dark);
+    for (const QLineEdit* shown : window("wininfo")->findChildren<QLineEdit*>())
+        EXPECT_EQ(shown->palette().color(QPalette::Base), QColor("#202327"));
+}
+
 TEST_F(SideWindowsTest, AWindowRollsUpWhenAnotherTakesTheActivationUnlessPinned) {
     windows().activate("winoptions");
     const int unrolled = height("winoptions");
