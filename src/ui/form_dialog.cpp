@@ -2,6 +2,8 @@
 
 #include <QAbstractButton>
 #include <QKeyEvent>
+#include <QPushButton>
+#include <algorithm>
 
 namespace velmora {
 
@@ -17,7 +19,11 @@ void FormDialog::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         return QDialog::keyPressEvent(event);
     if (auto* button = qobject_cast<QAbstractButton*>(focusWidget()))
-        button->click();
+        return button->click();
+    const auto buttons = findChildren<QPushButton*>();
+    const auto found = std::ranges::find_if(buttons, &QPushButton::isDefault);
+    if (found != buttons.end())
+        (*found)->click();
 }
 
 } // namespace velmora

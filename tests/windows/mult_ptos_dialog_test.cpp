@@ -64,6 +64,16 @@ TEST_F(MultPtosDialogTest, ATypedFactorMultiplies) {
     EXPECT_EQ(shape().size(), 12U);
 }
 
+TEST_F(MultPtosDialogTest, EnterInTheListIsOk) {
+    in_window([this] {
+        type_factor("3");
+        QTest::keyClick(&factor(), Qt::Key_Return);
+        settle();
+        EXPECT_EQ(window("Mult_Ptos"), nullptr);
+    });
+    EXPECT_EQ(shape().size(), 9U);
+}
+
 TEST_F(MultPtosDialogTest, AFactorBeyond1000ClearsTheBox) {
     in_window([this] {
         type_factor("1000");
