@@ -125,13 +125,22 @@ void end_drag() {
     Dibuja();
 }
 
+void open_menu_of_selected() {
+    session.Velmora.menus["Pts_To_Next_Sinc"].enabled = Forma.Pto[session.PtoSel].Sinc == 1;
+    platform().windows.popup_menu("OPT_PTO");
+}
+
 void open_point_menu(float X, float Y) {
     session.HoverPto = HitPto(X, Y);
     if (session.HoverPto < 0)
         return;
     session.PtoSel = session.HoverPto;
-    session.Velmora.menus["Pts_To_Next_Sinc"].enabled = Forma.Pto[session.PtoSel].Sinc == 1;
-    platform().windows.popup_menu("OPT_PTO");
+    open_menu_of_selected();
+}
+
+/// The canvas waits for a place or a point, or shows no shape.
+bool no_point_can_be_picked() {
+    return session.MoveShapeMode || session.PtosToInsertMode || session.NoRedraw;
 }
 
 } // namespace
@@ -155,7 +164,7 @@ std::int32_t HitPto(float X, float Y) {
 }
 
 void pic_MouseDown(int Button, int, float X, float Y) {
-    if (session.MoveShapeMode || session.PtosToInsertMode || session.NoRedraw)
+    if (no_point_can_be_picked())
         return;
     session.HoverPto = HitPto(X, Y);
     if (session.HoverPto < 0)
@@ -187,6 +196,11 @@ void pic_MouseUp(int Button, int, float X, float Y) {
         open_point_menu(X, Y);
     else
         end_drag();
+}
+
+void pic_MenuKey() {
+    if (!no_point_can_be_picked() && hay_seleccion())
+        open_menu_of_selected();
 }
 
 } // namespace velmora

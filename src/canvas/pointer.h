@@ -22,5 +22,8 @@ void pic_MouseMove(int Button, int Shift, float X, float Y);
 /// The target of Move_Shape, a point more or less in insertion mode, the end of a drag (the list is
 /// left stale, on purpose), the point menu. Raises 11 with a zoom of 0.
 void pic_MouseUp(int Button, int Shift, float X, float Y);
+/// The point menu of the selected point, asked for without the pointer. Nothing where the pointer
+/// could pick no point either.
+void pic_MenuKey();
 
 } // namespace velmora

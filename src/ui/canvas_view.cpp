@@ -107,6 +107,9 @@ void CanvasView::wire(Dispatch dispatch) {
     pic_.key_up = [this](int key, bool ctrl) {
         dispatch_([=] { pic_KeyUp(key, shift_state(ctrl)); });
     };
+    pic_.menu_key = [this] {
+        dispatch_(pic_MenuKey);
+    };
     wire_scroll_bars();
 }
 

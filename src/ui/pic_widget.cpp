@@ -103,4 +103,10 @@ void PicWidget::keyReleaseEvent(QKeyEvent* event) {
     key_up(key, key != kControlKey && event->modifiers().testFlag(Qt::ControlModifier));
 }
 
+// The release of the right button has opened the pointer's menu already.
+void PicWidget::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Keyboard && menu_key)
+        menu_key();
+}
+
 } // namespace velmora

@@ -33,6 +33,8 @@ class PicWidget : public QWidget {
     /// A key's code, as the logic knows it, and whether Ctrl is down.
     std::function<void(int key, bool ctrl)> key_down;
     std::function<void(int key, bool ctrl)> key_up;
+    /// The key that opens context menus.
+    std::function<void()> menu_key;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -41,6 +43,7 @@ class PicWidget : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
     const QImage* image_ = nullptr;

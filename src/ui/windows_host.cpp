@@ -23,6 +23,12 @@ void attach(QWidget& widget, const QWidget* owner) {
     widget.windowHandle()->setTransientParent(owner->windowHandle());
 }
 
+/// Where the pointer is; in the middle of a window that a key asked and the pointer is not over.
+QPoint popup_place(const QWidget& window) {
+    const QRect on_screen(window.mapToGlobal(QPoint(0, 0)), window.size());
+    return on_screen.contains(QCursor::pos()) ? QCursor::pos() : on_screen.center();
+}
+
 Qt::CursorShape cursor_of(int pointer) {
     switch (pointer) {
     case 2:
@@ -245,7 +251,7 @@ void WindowsHost::Private::show_popup() {
     const QWidget* main = host.window(kMain);
     open_popup = main == nullptr ? nullptr : main->findChild<QMenu*>(name);
     if (open_popup)
-        open_popup->popup(QCursor::pos());
+        open_popup->popup(popup_place(*main));
 }
 
 Form* WindowsHost::form(std::string_view window) {

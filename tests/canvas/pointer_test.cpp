@@ -253,6 +253,23 @@ TEST(MouseUp, OfTheRightButtonOnAPointOpensTheMenu) {
     EXPECT_EQ(canvas.windows.calls.size(), 2U);
 }
 
+TEST(MenuKey, OpensTheMenuOfTheSelectedPointWhereThePointerCouldPickOne) {
+    Pointer canvas;
+    session.PtoSel = 1;
+    pic_MenuKey();
+    EXPECT_THAT(canvas.windows.calls, ElementsAre("popup OPT_PTO"));
+    EXPECT_TRUE(session.Velmora.menus["Pts_To_Next_Sinc"].enabled);
+    for (std::int16_t* mode :
+         {&session.MoveShapeMode, &session.PtosToInsertMode, &session.NoRedraw}) {
+        *mode = True;
+        pic_MenuKey();
+        *mode = False;
+    }
+    session.PtoSel = -1;
+    pic_MenuKey();
+    EXPECT_EQ(canvas.windows.calls.size(), 1U);
+}
+
 TEST(MouseUp, WithNoRedrawDoesNothing) {
     Pointer canvas;
     session.NoRedraw = True;

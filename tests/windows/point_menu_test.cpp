@@ -54,6 +54,18 @@ TEST_F(PointMenuTest, EscClosesItAndKeepsTheNewSelection) {
     EXPECT_EQ(shape().size(), 4U);
 }
 
+TEST_F(PointMenuTest, TheMenuKeyOpensItForTheSelectedPoint) {
+    session.PtoSel = 2;
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, {}, {});
+    QCoreApplication::sendEvent(&pic(), &key);
+    EXPECT_TRUE(menu().isVisible());
+    EXPECT_FALSE(control<QAction>("Velmora", "Pts_To_Next_Sinc").isEnabled());
+    menu().close();
+    session.PtosToInsertMode = True;
+    QCoreApplication::sendEvent(&pic(), &key);
+    EXPECT_FALSE(menu().isVisible());
+}
+
 TEST_F(PointMenuTest, DeletePto) {
     choose("Delete_Pto");
     EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {0, 10}}));
