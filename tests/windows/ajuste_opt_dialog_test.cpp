@@ -70,10 +70,10 @@ TEST_F(AjusteOptDialogTest, OpensEmptyWithTheDrawingAndAButtonThatWaits) {
 
 TEST_F(AjusteOptDialogTest, NothingIsCutInAnyLanguage) {
     const std::pair<const char*, const char*> titles[] = {{"E", "Opciones del Ajuste"},
-                                                          {"I", "Matching options"},
-                                                          {"F", "Options de l'ajustement"},
+                                                          {"I", "Adjustment Options"},
+                                                          {"F", "Options de l’ajustement"},
                                                           {"P", "Opções do ajuste"},
-                                                          {"T", "Opzioni dell'adattamento"}};
+                                                          {"T", "Opzioni dell’adattamento"}};
     for (const auto& [language, title] : titles) {
         SCOPED_TRACE(language);
         session.Idioma = language;
