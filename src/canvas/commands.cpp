@@ -1,5 +1,6 @@
 // The canvas's commands.
 #include "canvas/background.h"
+#include "canvas/print.h"
 #include "canvas/surface.h"
 #include "canvas/zoom.h"
 #include "document/handlers.h"
@@ -7,6 +8,8 @@
 #include "document/refresh.h"
 #include "document/session.h"
 #include "platform/platform.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
 
 namespace velmora {
 
@@ -29,6 +32,17 @@ void mnu_zoom_down() {
     if (session.ZoomFactor <= 1)
         return;
     zoom_to(zoom_below(session.ZoomFactor));
+}
+
+void mnu_print() {
+    PrintPic();
+}
+
+void K_PRINT() {
+    if (hay_forma())
+        PrintPic();
+    else
+        MuestraMensaje(mensaje::no_shape);
 }
 
 void mnu_loadimg() {

@@ -105,6 +105,7 @@ struct Session {
     CompensaWindow Compensa;
     SetupWindow setup;
     AcercaWindow acerca;
+    SeltextoWindow seltexto;
     AjusteWindow ajuste;
     AjusteOptWindow ajuste_opt;
 };

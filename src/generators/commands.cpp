@@ -1,4 +1,4 @@
-// The commands that start a new shape.
+// The commands that make a new shape.
 #include "document/handlers.h"
 #include "document/refresh.h"
 #include "document/session.h"
@@ -21,6 +21,10 @@ void mnu_newfile() {
         Dibuja();
         Carga_List_Coords("NEWFILE");
     }
+}
+
+void mnu_seltexto() {
+    platform().windows.show_modal("seltexto");
 }
 
 } // namespace velmora

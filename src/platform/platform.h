@@ -14,6 +14,8 @@ class Machine;
 class Surface;
 class Autocad;
 class Previews;
+class Printer;
+class TextOutlines;
 
 struct Platform {
     Dialogs& dialogs;
@@ -26,6 +28,8 @@ struct Platform {
     Surface& pic; ///< drawing operations of the canvas
     Autocad& cad;
     Previews* previews = nullptr; ///< of the adjustment; null while its window is shut
+    Printer* printer = nullptr;
+    TextOutlines* text_outlines = nullptr;
 };
 
 void set_platform(const Platform& services);

@@ -12,6 +12,7 @@
 #include "ui/new_dat_dialog.h"
 #include "ui/options_panel.h"
 #include "ui/scale_xy_dialog.h"
+#include "ui/seltexto_dialog.h"
 #include "ui/setup_dialog.h"
 #include "ui/shortcut_list.h"
 
@@ -44,6 +45,7 @@ constexpr auto kWindows = std::to_array<Row>({
     {"Compensa", make<CompensaDialog>},
     {"ajuste", make<AjusteDialog>},
     {"ajuste_opt", make<AjusteOptDialog>},
+    {"seltexto", make<SeltextoDialog>},
     {"setup", make<SetupDialog>},
     {"teclas", make<ShortcutList>},
     {"acerca", make<AboutBox>},

@@ -15,6 +15,8 @@ struct Command {
 constexpr Command kNeedAShape[] = {
     {"mnu_savefile", mnu_savefile},
     {"mnu_savefileas", mnu_savefileas},
+    {"mnu_print", mnu_print},
+    {"K_PRINT", K_PRINT},
     {"Delete_All_Pto_Sinc", Delete_All_Pto_Sinc},
     {"Insert_All_Pto_Sinc", Insert_All_Pto_Sinc},
     {"Mult_Points_Shape", Mult_Points_Shape},
@@ -45,6 +47,7 @@ TEST(NeedsShape, one_point_is_none_and_each_command_says_so_and_ends) {
         EXPECT_TRUE(platform.windows.calls.empty());
         EXPECT_TRUE(platform.windows.statuses.empty());
         EXPECT_TRUE(platform.pic.operations.empty());
+        EXPECT_TRUE(platform.printer.operations.empty());
         EXPECT_TRUE(platform.shell.recycled.empty());
     }
 }

@@ -194,6 +194,35 @@ void RecordingSurface::present() {
     note("present");
 }
 
+void RecordingPrinter::set_Orientation(Orientation orientation) {
+    turned_ = orientation == Orientation::landscape;
+    operations.push_back(line_of("orientation", static_cast<int>(orientation)));
+}
+
+void RecordingPrinter::Line(float x1, float y1, float x2, float y2) {
+    operations.push_back(line_of("line", x1, y1, x2, y2));
+}
+
+void RecordingPrinter::Circle(float x, float y, float radius, std::uint32_t colour) {
+    operations.push_back(line_of("circle", x, y, radius, colour));
+}
+
+void RecordingPrinter::EndDoc() {
+    if (end_error != 0)
+        raise(end_error);
+    operations.emplace_back("end");
+}
+
+std::vector<Figure> RecordingOutlines::figures(std::string_view text, const FontChoice& font,
+                                               OutlinePoint corner) {
+    calls.push_back(line_of(text, font.name, font.size) + (font.bold ? " bold" : "") +
+                    (font.italic ? " italic" : "") + line_of("", corner.x, corner.y));
+    if (failure != 0)
+        raise(failure);
+    const auto found = letters.find(std::string(text));
+    return found == letters.end() ? std::vector<Figure>{} : found->second;
+}
+
 std::shared_ptr<AcadApplication> NoCad::GetObject() {
     raise(error::cannot_create_object);
 }
@@ -210,7 +239,8 @@ RecordingPlatform::RecordingPlatform(bool without_database) {
     std::filesystem::create_directories(folder);
     database = make_sqlite_database();
     reset_session();
-    set_platform({dialogs, windows, shell, settings, *database, clock, machine, pic, cad});
+    set_platform({dialogs, windows, shell, settings, *database, clock, machine, pic, cad, nullptr,
+                  &printer, &outlines});
     session.program_folder = runtime::path_text(folder);
     if (!without_database) {
         std::filesystem::copy_file(built_database(), folder / "VELMORA.MDB");

@@ -4,7 +4,9 @@
 #pragma once
 
 #include "cad/autocad.h"
+#include "canvas/printer.h"
 #include "canvas/surface.h"
+#include "generators/text_outlines.h"
 #include "platform/clock.h"
 #include "platform/database.h"
 #include "platform/dialogs.h"
@@ -132,6 +134,44 @@ class RecordingSurface : public Surface {
     void note(std::string operation);
 };
 
+/// A sheet of `width` by `height` in portrait; turned, the sides change places. Each operation is a
+/// line: "orientation 1", "line 500 0 500 16840", "circle 600 16240 30 255", "end". Raises
+/// `end_error` at the end of a sheet, where there is one.
+class RecordingPrinter : public Printer {
+  public:
+    std::vector<std::string> operations;
+    double width = 11900;
+    double height = 16840;
+    int end_error = 0;
+
+    void set_Orientation(Orientation orientation) override;
+    double Width() const override { return turned_ ? height : width; }
+    double Height() const override { return turned_ ? width : height; }
+    void set_CurrentX(float x) override { x_ = x; }
+    void set_CurrentY(float y) override { y_ = y; }
+    float CurrentX() const override { return x_; }
+    float CurrentY() const override { return y_; }
+    void Line(float x1, float y1, float x2, float y2) override;
+    void Circle(float x, float y, float radius, std::uint32_t colour) override;
+    void EndDoc() override;
+
+  private:
+    bool turned_ = false;
+    float x_ = 0;
+    float y_ = 0;
+};
+
+/// A font of which each test says what it prints.
+class RecordingOutlines : public TextOutlines {
+  public:
+    std::map<std::string, std::vector<Figure>> letters; ///< by whole texts; others have no figure
+    std::vector<std::string> calls;                     ///< "Ala Arial 10 bold 20 20"
+    int failure = 0;                                    ///< raised, where there is one
+
+    std::vector<Figure> figures(std::string_view text, const FontChoice& font,
+                                OutlinePoint corner) override;
+};
+
 /// No CAD runs.
 class NoCad : public Autocad {
   public:
@@ -158,6 +198,8 @@ class RecordingPlatform {
     SteadyClock clock;
     RecordingSurface pic;
     NoCad cad;
+    RecordingPrinter printer;
+    RecordingOutlines outlines;
     std::unique_ptr<Database> database;
 
     /// Writes a file of the folder, bytes as they stand; its path as UTF-8 text.

@@ -119,7 +119,9 @@ class QtDialogs : public Dialogs {
     }
 
     std::optional<FontChoice> choose_font(const FontChoice& present) override {
-        QFont font(qt_text(present.name));
+        QFont font = QApplication::font();
+        if (!present.name.empty())
+            font.setFamilies({qt_text(present.name)});
         if (present.size > 0)
             font.setPointSizeF(present.size);
         font.setBold(present.bold);

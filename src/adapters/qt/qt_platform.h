@@ -12,6 +12,8 @@
 namespace velmora {
 
 class Autocad;
+class Printer;
+class TextOutlines;
 
 /// Owns the services. The members that are null at `install` are filled with the real ones.
 struct QtPlatform {
@@ -26,6 +28,8 @@ struct QtPlatform {
     std::unique_ptr<Clock> clock;
     std::unique_ptr<Surface> pic;
     std::unique_ptr<Autocad> cad;
+    std::unique_ptr<Printer> printer;
+    std::unique_ptr<TextOutlines> text_outlines;
     std::unique_ptr<WindowsHost> windows; ///< last: the windows go before what they show
 
     /// Sets the process's platform. Needs a QApplication.

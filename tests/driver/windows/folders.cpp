@@ -65,6 +65,9 @@ void Folders::enter() const {
         set_folder("XDG_RUNTIME_DIR", own_ / "run");
         fs::permissions(own_ / "run", fs::perms::owner_all);
     }
+    // Nor are the user's printers: without a server of the caller's there is none.
+    if (!qEnvironmentVariableIsSet("CUPS_SERVER"))
+        qputenv("CUPS_SERVER", QByteArray::fromStdString((own_ / "no-printers").string()));
     fs::current_path(work_);
 }
 
