@@ -56,12 +56,7 @@ class ScriptedEntity : public AcadEntity {
         : state_(state), entity_(entity) {}
 
     std::string ObjectName() override { return use("AcadEntity.ObjectName")->ObjectName; }
-    void set_Color(int index) override {
-        auto entity = use("AcadEntity.Color");
-        if (entity->shape == CadShape::other)
-            raise(error::no_such_member);
-        entity->color = index;
-    }
+    void set_Color(int index) override { use("AcadEntity.Color")->color = index; }
     std::vector<double> StartPoint() override {
         return place(*of("AcadLine.StartPoint", {CadShape::line}), 0);
     }

@@ -100,8 +100,14 @@ TEST_F(ScriptedCadTest, lacks_the_members_of_other_shapes) {
     EXPECT_EQ(error_of([&] { (void)document->Item(0)->Radius(); }), 438);
     EXPECT_EQ(error_of([&] { (void)document->Item(0)->Coordinates(); }), 438);
     EXPECT_EQ(error_of([&] { (void)document->Item(1)->StartPoint(); }), 438);
-    EXPECT_EQ(error_of([&] { document->Item(1)->set_Color(2); }), 438);
     EXPECT_EQ(error_of([&] { (void)document->Item(2); }), 5);
+}
+
+TEST_F(ScriptedCadTest, colours_an_entity_of_any_class) {
+    const auto document = open_drawing();
+    line("other AcDbText");
+    document->Item(0)->set_Color(2);
+    EXPECT_EQ(state.application->active->model_space[0]->color, 2);
 }
 
 TEST_F(ScriptedCadTest, keeps_what_the_program_writes) {
