@@ -1,0 +1,1 @@
+# Without windows nothing is served until serve.py is run.

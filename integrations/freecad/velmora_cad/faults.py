@@ -1,0 +1,18 @@
+"""What goes wrong, with the number that Velmora shows."""
+
+INVALID_CALL = 5
+OBJECT_REQUIRED = 424
+NO_SUCH_MEMBER = 438
+AUTOMATION_ERROR = 440
+GONE = 462
+CANCELLED = 0x80004004
+
+
+class Fault(Exception):
+    def __init__(self, number, text):
+        super().__init__(text)
+        self.number = number
+
+    @property
+    def bus_name(self):
+        return f"org.velmora.Cad1.Error.E{self.number:08X}"

@@ -1,0 +1,118 @@
+"""The interface on the session bus, as its introspection file says."""
+import os
+
+import FreeCAD
+from gi.repository import Gio, GLib
+
+from .application import Application, _document
+from .faults import AUTOMATION_ERROR, Fault
+from .picking import Picks
+
+NAME = "org.velmora.Cad1"
+PATH = "/org/velmora/Cad1"
+
+_service = None
+
+
+def publish():
+    """Owns the name, or waits in line for it behind another running CAD."""
+    global _service
+    if _service is None:
+        _service = Service(Gio.bus_get_sync(Gio.BusType.SESSION, None))
+
+
+def interface_text():
+    """The published file: beside this one where it is installed, else among Velmora's sources."""
+    here = os.path.dirname(os.path.abspath(__file__))
+    sources = os.path.join(here, "..", "..", "..", "data", "dbus")
+    for folder in (here, sources):
+        path = os.path.join(folder, NAME + ".xml")
+        if os.path.exists(path):
+            with open(path, encoding="utf-8") as file:
+                return file.read()
+    raise FileNotFoundError(NAME + ".xml")
+
+
+class Service:
+    def __init__(self, bus):
+        self._bus = bus
+        self._application = Application()
+        self._picks = Picks()
+        self._interface = Gio.DBusNodeInfo.new_for_xml(interface_text()).lookup_interface(NAME)
+        bus.register_object(PATH, self._interface, self._call, self._property, None)
+        Gio.bus_own_name_on_connection(bus, NAME, Gio.BusNameOwnerFlags.NONE, None, None)
+
+    def _property(self, bus, sender, path, interface, name):
+        return GLib.Variant("s", getattr(self._application, name))
+
+    def _call(self, bus, sender, path, interface, method, parameters, invocation):
+        arguments = parameters.unpack()
+        if method == "GetPoint":
+            self._pick(sender, arguments, invocation)
+            return
+        self._answer(invocation, lambda: getattr(self._application, method)(*arguments))
+
+    def _answer(self, invocation, work):
+        """Every call is answered, whatever happens in it."""
+        try:
+            value = work()
+            answer = self._variant(invocation.get_method_name(), value)
+        except Fault as fault:
+            invocation.return_dbus_error(fault.bus_name, str(fault))
+        except Exception as failure:
+            FreeCAD.Console.PrintError(f"Velmora: {failure}\n")
+            fault = Fault(AUTOMATION_ERROR, str(failure))
+            invocation.return_dbus_error(fault.bus_name, str(fault))
+        else:
+            invocation.return_value(answer)
+
+    def _pick(self, sender, arguments, invocation):
+        watch = None
+
+        def done(answer):
+            Gio.bus_unwatch_name(watch)
+            self._answer(invocation, lambda: _point(answer))
+
+        def caller_gone(*_):
+            Gio.bus_unwatch_name(watch)
+            self._picks.give_up()
+
+        watch = Gio.bus_watch_name_on_connection(
+            self._bus, sender, Gio.BusNameWatcherFlags.NONE, None, caller_gone
+        )
+        document, prompt = arguments
+        try:
+            self._picks.ask(_document(document), prompt, done)
+        except Fault as fault:
+            done(fault)
+
+    def _variant(self, method, value):
+        if method == "ReadEntities":
+            return _entities_variant(value)
+        answers = self._interface.lookup_method(method).out_args
+        if not answers:
+            return None
+        return GLib.Variant(f"({answers[0].signature})", (value,))
+
+
+def _point(answer):
+    if isinstance(answer, Fault):
+        raise answer
+    return list(answer)
+
+
+def _entities_variant(entities):
+    """By hand, as the general road takes a step in Python for each number."""
+    records = GLib.VariantBuilder.new(GLib.VariantType.new("a(ssbad)"))
+    numbers = GLib.VariantType.new("d")
+    for entity in entities:
+        values = [GLib.Variant.new_double(number) for number in entity.numbers]
+        records.add_value(
+            GLib.Variant.new_tuple(
+                GLib.Variant.new_string(entity.handle),
+                GLib.Variant.new_string(entity.class_name),
+                GLib.Variant.new_boolean(entity.closed),
+                GLib.Variant.new_array(numbers, values),
+            )
+        )
+    return GLib.Variant.new_tuple(records.end())
