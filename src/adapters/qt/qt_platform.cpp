@@ -1,12 +1,12 @@
 #include "adapters/qt/qt_platform.h"
 
 #include "adapters/qt/image_surface.h"
-#include "adapters/qt/no_cad.h"
 #include "adapters/qt/qt_dialogs.h"
 #include "adapters/qt/qt_printer.h"
 #include "adapters/qt/qt_settings.h"
 #include "adapters/qt/qt_shell.h"
 #include "adapters/qt/qt_text_outlines.h"
+#include "adapters/running_cad.h"
 #include "adapters/sqlite/sqlite_database.h"
 #include "platform/clock.h"
 #include "platform/machine.h"
@@ -51,7 +51,7 @@ void QtPlatform::install() {
     fill(machine, [] { return std::make_unique<QtMachine>(); });
     fill(clock, [] { return std::make_unique<SteadyClock>(); });
     fill(pic, [] { return std::make_unique<ImageSurface>(); });
-    fill(cad, [] { return std::make_unique<NoAutocad>(); });
+    fill(cad, make_running_cad);
     fill(printer, [] { return make_qt_printer(); });
     fill(text_outlines, make_qt_text_outlines);
     set_platform({*dialogs, *windows, *shell, *settings, *database, *clock, *machine, *pic, *cad,
