@@ -73,6 +73,10 @@ PrintedSheet::PrintedSheet(const QString& pdf) {
                                  " pages");
 }
 
+PrintedSheet PrintedSheet::turned() const {
+    return PrintedSheet(picture_.transformed(QTransform().rotate(90)));
+}
+
 QSizeF PrintedSheet::size() const {
     return QSizeF(picture_.size()) * kTwipsPerPixel;
 }

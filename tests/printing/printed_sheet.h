@@ -17,6 +17,9 @@ class PrintedSheet {
     /// exactly one page.
     explicit PrintedSheet(const QString& pdf);
 
+    /// Turned clockwise, as one turns a landscape sheet that comes out of the printer upright.
+    [[nodiscard]] PrintedSheet turned() const;
+
     [[nodiscard]] QSizeF size() const;
     /// The middles of the black strokes that cross the row at `y`, from the left.
     [[nodiscard]] std::vector<double> black_across(double y) const;
@@ -32,6 +35,8 @@ class PrintedSheet {
     void keep(const QString& name) const;
 
   private:
+    explicit PrintedSheet(QImage picture) : picture_(std::move(picture)) {}
+
     QImage picture_;
 };
 

@@ -30,7 +30,7 @@ void expect_circles_at(const PrintedSheet& sheet, const std::vector<QPointF>& pl
 // Where rows and columns meet the slanted side, by similar triangles: the row at 12002.5 lies
 // 5742.5 of 8640 down from its upper end, so at 4820 - 2880 * 0.66464.
 void expect_tall(const PrintedSheet& sheet) {
-    EXPECT_EQ(sheet.size(), QSizeF(11900, 16840));
+    ASSERT_EQ(sheet.size(), QSizeF(11900, 16840));
     EXPECT_THAT(sheet.black_across(1000), StrokesAt(Strokes{500}));
     EXPECT_THAT(sheet.black_across(12002.5), StrokesAt(Strokes{500, 2905.8, 4820}));
     EXPECT_THAT(sheet.black_across(16000), StrokesAt(Strokes{500}));
@@ -43,7 +43,7 @@ void expect_tall(const PrintedSheet& sheet) {
 
 // The row at 8502.5 lies 1422.5 of 2880 down, so at 10580 - 8640 * 0.49392.
 void expect_wide(const PrintedSheet& sheet) {
-    EXPECT_EQ(sheet.size(), QSizeF(16840, 11900));
+    ASSERT_EQ(sheet.size(), QSizeF(16840, 11900));
     EXPECT_THAT(sheet.black_across(1000), StrokesAt(Strokes{500}));
     EXPECT_THAT(sheet.black_across(8502.5), StrokesAt(Strokes{500, 6312.5, 10580}));
     EXPECT_THAT(sheet.black_across(11850), StrokesAt(Strokes{500}));

@@ -25,7 +25,8 @@ def run(driver, scenario):
         work = Path(folder) / "work"
         shutil.copytree(scenario.parent / "fixtures", work)
         # A driver that is stopped leaves its folder behind; here it goes with ours.
-        environment = dict(os.environ, TMPDIR=folder)
+        # No printer answers: a tester's own is not for test sheets.
+        environment = dict(os.environ, TMPDIR=folder, CUPS_SERVER=f"{folder}/no-printers")
         return subprocess.run([driver, "--work", work, scenario], capture_output=True,
                               env=environment, timeout=280, check=False)
 
