@@ -1,38 +1,110 @@
-"""A drawing for the tests, offered to Velmora from a FreeCAD of its own. The outline runs round a
-plate: lines, one drawn backwards, an arc of a sketch, a wire and a spline, a circle that
-touches the corner at the start, and two strays far away, of which the second is the last one left."""
+"""Drawings for the tests, made in a FreeCAD of their own, and looks at what Velmora did to them.
+
+Without windows FreeCAD offers itself by the add-on's serve.py, whose path stands in VELMORA_SERVE;
+with windows it does so by the add-on installed."""
 import math
 import os
 import runpy
+import sys
 
 import Draft
 import FreeCAD
 import Part
 
 V = FreeCAD.Vector
-document = FreeCAD.newDocument("pieza")
-Draft.make_line(V(0.5, 0.5), V(40.5, 0.5))
-backwards = document.addObject("Part::Line", "Backwards")
-backwards.X1, backwards.Y1, backwards.X2, backwards.Y2 = 40.5, 20.5, 40.5, 0.5
-sketch = document.addObject("Sketcher::SketchObject", "Sketch")
-circle = Part.Circle(V(35.5, 20.5), V(0, 0, 1), 5)
-sketch.addGeometry(Part.ArcOfCircle(circle, 0, math.pi / 2), False)
-sketch.addGeometry(Part.LineSegment(V(1, 1), V(2, 2)), True)
-Draft.make_wire([V(35.5, 25.5), V(30.5, 22.5), V(20.5, 25.5)], closed=False, face=False)
-spline = Part.BSplineCurve()
-spline.buildFromPolesMultsKnots(
-    [V(0.5, 25.5), V(5.5, 30.5), V(15.5, 20.5), V(20.5, 25.5)], [4, 4], [0.0, 1.0], False, 3
-)
-document.addObject("Part::Feature", "Curve").Shape = spline.toShape()
-Draft.make_text(["no outline"], V(0, 0))
-Draft.make_line(V(0.5, 25.5), V(0.5, 0.5))
-round_hole = document.addObject("Part::Circle", "Hole")
-round_hole.Radius = 2
-round_hole.Placement.Base = V(-1.5, 0.75)
-Draft.make_line(V(500, 500), V(600, 600))
-Draft.make_line(V(700, 700), V(800, 800))
-hidden = Draft.make_line(V(0.5, 0.5), V(99, 99))
-hidden.Visibility = False
-document.recompute()
+YELLOW = (1.0, 1.0, 0.0)
 
-runpy.run_path(os.environ["VELMORA_SERVE"])
+
+def plate():
+    """The outline runs round a plate: lines, one drawn backwards, an arc of a sketch, a wire and a
+    spline, a circle that touches the corner at the start, and two strays far away, of which the
+    second is the last one left. Something hidden and a text are no part of it."""
+    document = FreeCAD.newDocument("pieza")
+    Draft.make_line(V(0.5, 0.5), V(40.5, 0.5))
+    backwards = document.addObject("Part::Line", "Backwards")
+    backwards.X1, backwards.Y1, backwards.X2, backwards.Y2 = 40.5, 20.5, 40.5, 0.5
+    sketch = document.addObject("Sketcher::SketchObject", "Sketch")
+    circle = Part.Circle(V(35.5, 20.5), V(0, 0, 1), 5)
+    sketch.addGeometry(Part.ArcOfCircle(circle, 0, math.pi / 2), False)
+    sketch.addGeometry(Part.LineSegment(V(1, 1), V(2, 2)), True)
+    Draft.make_wire([V(35.5, 25.5), V(30.5, 22.5), V(20.5, 25.5)], closed=False, face=False)
+    spline = Part.BSplineCurve()
+    spline.buildFromPolesMultsKnots(
+        [V(0.5, 25.5), V(5.5, 30.5), V(15.5, 20.5), V(20.5, 25.5)], [4, 4], [0.0, 1.0], False, 3
+    )
+    document.addObject("Part::Feature", "Curve").Shape = spline.toShape()
+    hidden = Draft.make_line(V(0.5, 0.5), V(99, 99))
+    hidden.Label, hidden.Visibility = "Hidden", False
+    Draft.make_line(V(0.5, 25.5), V(0.5, 0.5)).Label = "Left"
+    round_hole = document.addObject("Part::Circle", "Hole")
+    round_hole.Radius = 2
+    round_hole.Placement.Base = V(-1.5, 0.75)
+    Draft.make_line(V(60, 10), V(65, 20)).Label = "Stray"
+    Draft.make_line(V(70, 10), V(75, 20)).Label = "Last"
+    Draft.make_text(["no outline"], V(10, 10))
+    document.recompute()
+    return document.Name
+
+
+def imported(path):
+    """A drawing read from a DXF file."""
+    import importDXF
+
+    importDXF.open(path)
+    return FreeCAD.ActiveDocument.Name
+
+
+def many_lines(count):
+    """An object each, one behind the other."""
+    document = FreeCAD.newDocument("muchas")
+    for i in range(count):
+        line = document.addObject("Part::Feature", "Line")
+        line.Shape = Part.makeLine(V(i, 0), V(i + 1, 0))
+    return document.Name
+
+
+def painted():
+    """The labels of what is yellow in the active document."""
+    return [obj.Label for obj in FreeCAD.ActiveDocument.Objects if _is_yellow(obj)]
+
+
+def _is_yellow(obj):
+    if obj.ViewObject is None:
+        return "2" in getattr(obj, "VelmoraPaint", {}).values()
+    colour = getattr(obj.ViewObject, "LineColor", None)
+    return colour is not None and colour[:3] == YELLOW
+
+
+def sent():
+    """The closed wire of the active document: X0, Y0, X1, Y1 ... without the closing point."""
+    (wire,) = [obj for obj in FreeCAD.ActiveDocument.Objects if hasattr(obj, "Points")]
+    assert wire.Closed
+    return [number for point in wire.Points for number in (point.x, point.y)]
+
+
+def save_copy(path):
+    """A copy has the ending of FreeCAD's own documents, whatever it is named afterwards."""
+    FreeCAD.ActiveDocument.saveCopy(path + ".FCStd")
+    os.replace(path + ".FCStd", path)
+
+
+def close(name):
+    FreeCAD.closeDocument(name)
+
+
+def close_all():
+    for name in list(FreeCAD.listDocuments()):
+        close(name)
+
+
+def erase(label):
+    (obj,) = FreeCAD.ActiveDocument.getObjectsByLabel(label)
+    FreeCAD.ActiveDocument.removeObject(obj.Name)
+
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+import probe  # noqa: E402
+
+probe.publish(globals())
+if not FreeCAD.GuiUp:
+    runpy.run_path(os.environ["VELMORA_SERVE"])

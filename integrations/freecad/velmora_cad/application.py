@@ -3,7 +3,7 @@ import os
 
 import FreeCAD
 
-from . import outline, windows
+from . import outline, templates, windows
 from .faults import GONE, INVALID_CALL, OBJECT_REQUIRED, Fault
 from .model_space import ModelSpaces
 from .paint import paint
@@ -39,8 +39,7 @@ class Application:
         return FreeCAD.ActiveDocument.Name
 
     def AddDocument(self, template):
-        """FreeCAD starts from an empty document; a drawing template is nothing to it."""
-        document = FreeCAD.newDocument()
+        document = templates.new_document(template)
         windows.look_from_above()
         return document.Name
 

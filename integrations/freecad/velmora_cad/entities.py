@@ -18,16 +18,24 @@ def entities_of(obj):
     if not obj.Visibility or _is_holder(obj):
         return []
     shape = _placed_shape(obj)
-    if shape is None or _is_spatial(shape):
-        return [_other(obj.Name, obj.TypeId)]
-    edges = _EdgeNames(shape)
-    if obj.isDerivedFrom("Sketcher::SketchObject"):
-        found = [_edge(obj.Name, edge, edges) for edge in shape.Edges]
-    else:
-        found = [entity for piece in _pieces(shape) for entity in _piece(obj.Name, piece, edges)]
+    if shape is None:
+        return [_other(obj)]
+    only_edge = _only_edge(shape)
+    if only_edge is not None:
+        return [_edge(obj.Name, only_edge)]
+    if _is_spatial(shape):
+        return [_other(obj)]
+    found = _parts(obj, shape)
     if len(found) == 1:
         found[0] = found[0]._replace(handle=obj.Name)
     return found
+
+
+def _parts(obj, shape):
+    names = _EdgeNames(obj.Name, shape)
+    if obj.isDerivedFrom("Sketcher::SketchObject"):
+        return [_edge(names.handle([edge]), edge) for edge in shape.Edges]
+    return [entity for piece in _pieces(shape) for entity in _piece(piece, names)]
 
 
 def _is_holder(obj):
@@ -49,8 +57,17 @@ def _placed_shape(obj):
     return shape
 
 
+def _only_edge(shape):
+    """Looked for first, as large drawings are made of lines."""
+    if shape.ShapeType == "Edge":
+        return shape
+    if shape.ShapeType == "Wire" and len(shape.Edges) == 1:
+        return shape.Edges[0]
+    return None
+
+
 def _is_spatial(shape):
-    if shape.ShapeType in ("Edge", "Wire", "Vertex"):
+    if shape.ShapeType in ("Wire", "Vertex"):
         return False
     return bool(shape.Shells) or any(not _lies_flat(face) for face in shape.Faces)
 
@@ -59,24 +76,29 @@ def _lies_flat(face):
     return face.Surface.TypeId == "Part::GeomPlane" and abs(face.Surface.Axis.z) >= UPRIGHT
 
 
-def _other(handle, type_id):
-    return Entity(handle, "FreeCAD." + type_id.replace("::", "."), False, [])
+def _other(obj):
+    return Entity(obj.Name, _own_class(obj), False, [])
+
+
+def _own_class(thing):
+    return "FreeCAD." + thing.TypeId.replace("::", ".")
 
 
 class _EdgeNames:
-    """The names of a shape's edges, by which one of them is painted."""
+    """The names of an object's edges, by which one of them is painted."""
 
-    def __init__(self, shape):
+    def __init__(self, name, shape):
+        self.object_name = name
         self._shape = shape
         self._names = None
 
-    def handle(self, name, edges):
+    def handle(self, edges):
         if self._names is None:
             self._names = {
                 edge.hashCode(): f"Edge{number}"
                 for number, edge in enumerate(self._shape.Edges, 1)
             }
-        return name + "." + "+".join(self._names[edge.hashCode()] for edge in edges)
+        return self.object_name + "." + "+".join(self._names[edge.hashCode()] for edge in edges)
 
 
 def _pieces(shape):
@@ -89,39 +111,42 @@ def _pieces(shape):
         yield shape
 
 
-def _piece(name, piece, edges):
+def _piece(piece, names):
     if piece.ShapeType == "Vertex":
-        return [Entity(name, "AcDbPoint", False, [piece.X, piece.Y])]
-    if piece.ShapeType == "Edge" or len(piece.Edges) == 1:
-        return [_edge(name, piece.Edges[0], edges)]
-    if all(_is_straight(edge) for edge in piece.Edges):
-        numbers = [number for v in piece.OrderedVertexes for number in (v.X, v.Y)]
-        handle = edges.handle(name, piece.Edges)
-        return [Entity(handle, "AcDbPolyline", piece.isClosed(), numbers)]
-    return [_edge(name, edge, edges) for edge in piece.OrderedEdges]
+        return [Entity(names.object_name, "AcDbPoint", False, [piece.X, piece.Y])]
+    if piece.ShapeType != "Edge" and len(piece.Edges) > 1:
+        return _wire(piece, names)
+    edge = piece.Edges[0]
+    return [_edge(names.handle([edge]), edge)]
 
 
-def _is_straight(edge):
-    return edge.Curve.TypeId in ("Part::GeomLine", "Part::GeomLineSegment")
+def _wire(wire, names):
+    if all(_is_straight(edge.Curve) for edge in wire.Edges):
+        numbers = [number for v in wire.OrderedVertexes for number in (v.X, v.Y)]
+        return [Entity(names.handle(wire.Edges), "AcDbPolyline", wire.isClosed(), numbers)]
+    return [_edge(names.handle([edge]), edge) for edge in wire.OrderedEdges]
 
 
-def _edge(name, edge, edges):
-    class_name, numbers = _curve(edge)
-    return Entity(edges.handle(name, [edge]), class_name, False, numbers)
+def _is_straight(curve):
+    return curve.TypeId in ("Part::GeomLine", "Part::GeomLineSegment")
 
 
-def _curve(edge):
-    kind = edge.Curve.TypeId
-    if _is_straight(edge):
+def _edge(handle, edge):
+    class_name, numbers = _curve(edge, edge.Curve)
+    return Entity(handle, class_name, False, numbers)
+
+
+def _curve(edge, curve):
+    if _is_straight(curve):
         start, end = edge.firstVertex(True), edge.lastVertex(True)
         return "AcDbLine", [start.X, start.Y, end.X, end.Y]
-    if kind == "Part::GeomCircle" and abs(edge.Curve.Axis.z) >= UPRIGHT:
+    if curve.TypeId == "Part::GeomCircle" and abs(curve.Axis.z) >= UPRIGHT:
         return _circle(edge)
-    if kind in ("Part::GeomBSplineCurve", "Part::GeomBezierCurve"):
+    if curve.TypeId in ("Part::GeomBSplineCurve", "Part::GeomBezierCurve"):
         return "AcDbSpline", _control_points(edge)
-    if kind == "Part::GeomEllipse":
+    if curve.TypeId == "Part::GeomEllipse":
         return "AcDbEllipse", []
-    return "FreeCAD." + kind.replace("::", "."), []
+    return _own_class(curve), []
 
 
 def _circle(edge):

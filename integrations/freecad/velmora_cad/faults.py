@@ -1,6 +1,7 @@
 """What goes wrong, with the number that Velmora shows."""
 
 INVALID_CALL = 5
+FILE_NOT_FOUND = 53
 OBJECT_REQUIRED = 424
 NO_SUCH_MEMBER = 438
 AUTOMATION_ERROR = 440

@@ -1,4 +1,6 @@
 """A point of the user's: picked in the 3-D view, or typed where there are no windows."""
+import math
+import os
 import sys
 
 import FreeCAD
@@ -11,6 +13,7 @@ class Picks:
 
     def __init__(self):
         self._done = None
+        self._terminal_watch = None
 
     def ask(self, document, prompt, done):
         if self._done is not None:
@@ -36,6 +39,10 @@ class Picks:
             FreeCADGui.Control.closeDialog()
             FreeCADGui.Snapper.getPoint()
             FreeCADGui.Snapper.off()
+        else:
+            from gi.repository import GLib
+
+            GLib.source_remove(self._terminal_watch)
 
     def _finish(self, answer):
         done, self._done = self._done, None
@@ -60,14 +67,33 @@ class Picks:
         from gi.repository import GLib
 
         print(prompt + " X,Y: ", end="", flush=True)
-        GLib.io_add_watch(sys.stdin.fileno(), GLib.IO_IN | GLib.IO_HUP, self._read_terminal)
+        self._terminal_watch = GLib.io_add_watch(
+            sys.stdin.fileno(), GLib.IO_IN | GLib.IO_HUP, self._read_terminal
+        )
 
-    def _read_terminal(self, *_):
-        line = sys.stdin.readline()
-        try:
-            x, y = (float(text) for text in line.split(","))
-        except ValueError:
+    def _read_terminal(self, terminal, _):
+        point = _typed_point(_line_of(terminal))
+        if point is None:
             self._finish(Fault(CANCELLED, "the point was not given"))
         else:
-            self._finish((x, y))
+            self._finish(point)
         return False
+
+
+def _line_of(terminal):
+    """One line and no more, so that one typed ahead is for the next question."""
+    line = b""
+    while not line.endswith(b"\n"):
+        byte = os.read(terminal, 1)
+        if not byte:
+            break
+        line += byte
+    return line.decode(errors="replace")
+
+
+def _typed_point(line):
+    try:
+        x, y = (float(text) for text in line.split(","))
+    except ValueError:
+        return None
+    return (x, y) if math.isfinite(x) and math.isfinite(y) else None

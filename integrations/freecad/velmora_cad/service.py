@@ -6,6 +6,7 @@ from gi.repository import Gio, GLib
 
 from .application import Application, _document
 from .faults import AUTOMATION_ERROR, Fault
+from .packing import entities_answer
 from .picking import Picks
 
 NAME = "org.velmora.Cad1"
@@ -88,7 +89,7 @@ class Service:
 
     def _variant(self, method, value):
         if method == "ReadEntities":
-            return _entities_variant(value)
+            return entities_answer(value)
         answers = self._interface.lookup_method(method).out_args
         if not answers:
             return None
@@ -99,20 +100,3 @@ def _point(answer):
     if isinstance(answer, Fault):
         raise answer
     return list(answer)
-
-
-def _entities_variant(entities):
-    """By hand, as the general road takes a step in Python for each number."""
-    records = GLib.VariantBuilder.new(GLib.VariantType.new("a(ssbad)"))
-    numbers = GLib.VariantType.new("d")
-    for entity in entities:
-        values = [GLib.Variant.new_double(number) for number in entity.numbers]
-        records.add_value(
-            GLib.Variant.new_tuple(
-                GLib.Variant.new_string(entity.handle),
-                GLib.Variant.new_string(entity.class_name),
-                GLib.Variant.new_boolean(entity.closed),
-                GLib.Variant.new_array(numbers, values),
-            )
-        )
-    return GLib.Variant.new_tuple(records.end())
