@@ -37,11 +37,28 @@ void refuse_folder(const std::filesystem::path& path) {
         raise(error::path_access);
 }
 
+/// The longest name of a file on the systems that are reached, in their units.
+constexpr std::size_t longest_name = 255;
+
+// Windows says of each of these that the path is not there; other systems tell them apart.
+int opening_fault(const std::filesystem::path& path, FileNeed need) {
+    const std::error_code fault = last_fault();
+    if (fault != std::errc::no_such_file_or_directory)
+        return fault_number(fault, need);
+    if (path.filename().native().size() > longest_name)
+        return error::bad_file_number;
+    std::error_code ignored;
+    const auto above = std::filesystem::status(path.parent_path(), ignored);
+    const bool below_a_file =
+        std::filesystem::exists(above) && !std::filesystem::is_directory(above);
+    return below_a_file ? error::path_not_found : fault_number(fault, need);
+}
+
 FileHandle open_or_raise(const std::filesystem::path& path, const char* mode, FileNeed need) {
     refuse_folder(path);
     FileHandle file = system_open(path, mode);
     if (!file)
-        raise(fault_number(last_fault(), need));
+        raise(opening_fault(path, need));
     return unbuffered(std::move(file));
 }
 

@@ -1,7 +1,9 @@
 #include "runtime/paths.h"
-#include "runtime/file_faults.h"
+#include "runtime/error.h"
+#include "runtime/file_stream.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace velmora::runtime {
 
@@ -44,19 +46,23 @@ bool remove_file(std::string_view path) {
     return !std::filesystem::exists(std::filesystem::symlink_status(target, fault));
 }
 
+// By the run-time's own files: not every standard library copies over a file that is there.
 void copy_file(std::string_view from, std::string_view to) {
-    std::error_code fault;
     const auto source = native_path(from);
     const auto target = native_path(to);
-    if (std::filesystem::is_directory(source, fault) ||
-        std::filesystem::is_directory(target, fault))
-        raise(error::path_access);
-    if (!std::filesystem::exists(source, fault))
-        raise(error::file_not_found);
-    std::filesystem::copy_file(source, target, std::filesystem::copy_options::overwrite_existing,
-                               fault);
-    if (fault)
-        raise(fault_number(fault, FileNeed::made));
+    const FileHandle in = open_present(source);
+    std::error_code fault;
+    if (std::filesystem::equivalent(source, target, fault))
+        raise(error::permission_denied);
+    FileHandle out = open_anew(target);
+    ReadBuffer reading;
+    WriteBuffer writing;
+    while (reading.more(in.get())) {
+        writing.add(out.get(), reading.waiting());
+        reading.clear();
+    }
+    writing.flush(out.get());
+    close_checked(std::move(out));
 }
 
 } // namespace velmora::runtime

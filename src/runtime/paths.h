@@ -19,7 +19,7 @@ namespace velmora::runtime {
 [[nodiscard]] bool file_exists(std::string_view path);
 /// A plain delete; a missing file is no error. Never raises; false when the file still stands.
 bool remove_file(std::string_view path);
-/// Copies over what is there. Raises 53, 61, 70, 75.
+/// Copies over what is there. Raises 53, 61, 70 (a file over itself too), 75, 76.
 void copy_file(std::string_view from, std::string_view to);
 
 } // namespace velmora::runtime

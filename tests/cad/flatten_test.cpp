@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numbers>
 #include <random>
 
 namespace velmora {
@@ -22,14 +23,15 @@ void expect_point(const Pto& point, double X, double Y) {
 }
 
 void expect_on_circle(const Array<Pto>& points, std::int32_t j, double radius, double degrees) {
-    const double angle = degrees * M_PI / 180;
+    const double angle = degrees * std::numbers::pi / 180;
     expect_point(points[j], radius * std::cos(angle), radius * std::sin(angle));
 }
 
 TEST(Flatten, an_arc_of_3_segments_from_0_to_90_has_points_at_0_30_60_90) {
     RecordingPlatform platform;
     session.PutArc = 3;
-    for (const auto& points : {dxf_arc(0, 0, 10, 0, 90), capture_arc(0, 0, 10, 0, M_PI / 2)}) {
+    for (const auto& points :
+         {dxf_arc(0, 0, 10, 0, 90), capture_arc(0, 0, 10, 0, std::numbers::pi / 2)}) {
         ASSERT_EQ(points.upper(), 3);
         for (std::int32_t j = 0; j <= 3; ++j)
             expect_on_circle(points, j, 10, 30.0 * j);
@@ -42,7 +44,7 @@ TEST(Flatten, an_arc_over_the_east_runs_counter_clockwise) {
     const auto points = dxf_arc(1, 2, 10, 350, 10);
     ASSERT_EQ(points.upper(), 4);
     for (std::int32_t j = 0; j <= 4; ++j) {
-        const double angle = (350 + 5.0 * j) * M_PI / 180;
+        const double angle = (350 + 5.0 * j) * std::numbers::pi / 180;
         expect_point(points[j], 1 + 10 * std::cos(angle), 2 + 10 * std::sin(angle));
     }
 }
@@ -59,8 +61,8 @@ TEST(Flatten, an_arc_without_sweep_gives_equal_points) {
 TEST(Flatten, a_captured_sweep_is_whole_degrees_from_the_unrounded_start) {
     RecordingPlatform platform;
     session.PutArc = 2;
-    const double start = 10.4 * M_PI / 180;
-    const auto points = capture_arc(0, 0, 100, start, 50.6 * M_PI / 180);
+    const double start = 10.4 * std::numbers::pi / 180;
+    const auto points = capture_arc(0, 0, 100, start, 50.6 * std::numbers::pi / 180);
     // 51 less 10 degrees, laid on from 10.4: the end lies 0.8 degrees behind the true one.
     expect_on_circle(points, 0, 100, 10.4);
     expect_on_circle(points, 1, 100, 10.4 + 20.5);
@@ -70,7 +72,8 @@ TEST(Flatten, a_captured_sweep_is_whole_degrees_from_the_unrounded_start) {
 TEST(Flatten, a_captured_arc_within_one_whole_degree_stays_at_its_start) {
     RecordingPlatform platform;
     session.PutArc = 3;
-    const auto points = capture_arc(0, 0, 10, 0.4 * M_PI / 180, 0.1 * M_PI / 180);
+    const auto points =
+        capture_arc(0, 0, 10, 0.4 * std::numbers::pi / 180, 0.1 * std::numbers::pi / 180);
     for (std::int32_t j = 0; j <= 3; ++j)
         expect_on_circle(points, j, 10, 0.4);
 }
@@ -78,9 +81,10 @@ TEST(Flatten, a_captured_arc_within_one_whole_degree_stays_at_its_start) {
 TEST(Flatten, captured_angles_are_taken_modulo_360_with_their_sign) {
     RecordingPlatform platform;
     session.PutArc = 3;
-    const auto negative = capture_arc(0, 0, 10, 10 * M_PI / 180, -370 * M_PI / 180);
+    const auto negative =
+        capture_arc(0, 0, 10, 10 * std::numbers::pi / 180, -370 * std::numbers::pi / 180);
     expect_on_circle(negative, 3, 10, 10 + 340);
-    const auto full = capture_arc(0, 0, 10, 0, 2 * M_PI);
+    const auto full = capture_arc(0, 0, 10, 0, 2 * std::numbers::pi);
     expect_on_circle(full, 3, 10, 0);
 }
 

@@ -76,5 +76,21 @@ TEST(CopyFile, raises_the_numbers_of_files) {
     EXPECT_EQ(number_of([&] { copy_file(here, path_text(folder.path())); }), 75);
 }
 
+TEST(CopyFile, a_file_is_not_copied_over_itself) {
+    const test::TemporaryFolder folder;
+    const auto here = folder.write("x", "1");
+    EXPECT_EQ(number_of([&] { copy_file(here, folder.path("./x")); }), 70);
+    EXPECT_EQ(folder.read("x"), "1");
+}
+
+TEST(CopyFile, a_file_of_many_buffers_comes_whole) {
+    const test::TemporaryFolder folder;
+    std::string bytes;
+    while (bytes.size() < 1'000'000)
+        bytes += std::to_string(bytes.size());
+    copy_file(folder.write("from", bytes), folder.path("to"));
+    EXPECT_EQ(folder.read("to"), bytes);
+}
+
 } // namespace
 } // namespace velmora

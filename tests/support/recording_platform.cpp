@@ -258,11 +258,11 @@ RecordingPlatform::~RecordingPlatform() {
 }
 
 std::string RecordingPlatform::path(const std::string& name) const {
-    return runtime::path_text(folder / name);
+    return runtime::join(runtime::path_text(folder), name);
 }
 
 std::string RecordingPlatform::write(const std::string& name, std::string_view bytes) const {
-    std::ofstream(folder / name, std::ios::binary) << bytes;
+    std::ofstream(runtime::native_path(path(name)), std::ios::binary) << bytes;
     return path(name);
 }
 

@@ -1,6 +1,7 @@
 #include "adapters/sqlite/sqlite_database.h"
 
 #include "platform/platform.h"
+#include "runtime/paths.h"
 #include "support/error_number.h"
 #include "support/places.h"
 #include "support/recording_platform.h"
@@ -63,8 +64,9 @@ TEST_F(SqliteDatabaseTest, a_file_locked_by_another_program_raises_3008) {
 }
 
 TEST_F(SqliteDatabaseTest, either_separator_leads_to_the_file) {
-    std::filesystem::create_directory(machine.folder / "ñandú");
-    std::filesystem::copy_file(test::built_database(), machine.folder / "ñandú" / "V.MDB");
+    const auto folder = runtime::native_path(machine.path("ñandú"));
+    std::filesystem::create_directory(folder);
+    std::filesystem::copy_file(test::built_database(), folder / "V.MDB");
     database->open(machine.path("") + "ñandú\\V.MDB");
     EXPECT_TRUE(database->is_open());
 }

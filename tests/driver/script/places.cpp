@@ -50,7 +50,7 @@ std::string Places::resolve(std::string_view path) const {
         return work_ + std::string(path.substr(kWork.size()));
     if (begins_with_place(path, kProgram))
         return program_ + std::string(path.substr(kProgram.size()));
-    if (std::filesystem::path(path).is_absolute())
+    if (std::filesystem::path(path).has_root_directory())
         return std::string(path);
     return work_ + '/' + std::string(path);
 }
