@@ -1,0 +1,42 @@
+// The stand-in CAD in a process of its own, for the life of a test.
+#pragma once
+
+#include "adapters/com/late_bound.h"
+
+#include <initializer_list>
+#include <optional>
+#include <string>
+
+namespace velmora::test {
+
+struct CloseWindowsHandle {
+    void operator()(void* handle) const noexcept { CloseHandle(handle); }
+};
+using WindowsHandle = std::unique_ptr<void, CloseWindowsHandle>;
+
+class CadServer {
+  public:
+    /// Starts the program that stands beside the test's own and waits until it can be found.
+    CadServer();
+    /// Ends it, whether it still answers or not, and waits for its end.
+    ~CadServer();
+    CadServer(const CadServer&) = delete;
+    CadServer& operator=(const CadServer&) = delete;
+
+    /// Lines of a scenario without their `cad`, and the server's own: `busy N`, `die-at MEMBER`,
+    /// `failures plain|exceptions`, `arrays of-numbers|of-variants`, `shorten` (the last entity
+    /// loses its last number), `erase` (the last entity goes).
+    void say(std::initializer_list<const char*> lines);
+    /// What a scenario's `show cad` prints.
+    [[nodiscard]] std::string shown();
+    /// The prompt that GetPoint was asked with last.
+    [[nodiscard]] std::string prompt();
+    /// Ends the process from outside, as a crash would.
+    void kill();
+
+  private:
+    WindowsHandle process_;
+    std::optional<com::LateBound> application_;
+};
+
+} // namespace velmora::test
