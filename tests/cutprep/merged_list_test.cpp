@@ -98,6 +98,7 @@ TEST_F(MergedListTest, a_database_that_another_program_has_locked_raises_3008) {
     expect_former_rows();
 }
 
+#ifdef __linux__
 TEST_F(MergedListTest, a_folder_that_takes_no_journal_raises_3051) {
     // What a folder that may not be written is to the database; a folder's own rights would not
     // stop an administrator.
@@ -107,6 +108,7 @@ TEST_F(MergedListTest, a_folder_that_takes_no_journal_raises_3051) {
     expect_no_transaction();
     expect_former_rows();
 }
+#endif
 
 TEST_F(MergedListTest, a_disk_that_fills_up_raises_61_and_leaves_the_files_of_the_user_alone) {
     machine.write("raiz2.DAT", "de antes");

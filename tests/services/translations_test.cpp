@@ -15,6 +15,7 @@ namespace velmora {
 namespace {
 
 using testing::AllOf;
+using testing::AnyOf;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -141,7 +142,8 @@ TEST_F(TranslationsTest, numbers_in_texts_are_those_of_the_Spanish_ones) {
 TEST_F(TranslationsTest, a_file_and_what_befell_it_make_one_sentence) {
     for (const char* language : kTranslations) {
         for (const int beginning : {8, 12, 17, 24, 64})
-            EXPECT_THAT(message(beginning, language), Not(testing::MatchesRegex(".*[.!?,]")))
+            EXPECT_THAT(message(beginning, language),
+                        Not(AnyOf(EndsWith("."), EndsWith("!"), EndsWith("?"), EndsWith(","))))
                 << beginning << language;
         for (const int going_on : {9, 13, 15, 16, 25, 35, 42, 62, 65, 66}) {
             const char first = message(going_on, language).front();
