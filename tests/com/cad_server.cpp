@@ -18,11 +18,13 @@ std::wstring server_path() {
     return std::filesystem::path(own).replace_filename(L"velmora-cad-server.exe").wstring();
 }
 
-WindowsHandle start(const std::wstring& program) {
+WindowsHandle start(const wchar_t* word = L"") {
+    const std::wstring program = server_path();
+    std::wstring line = L"\"" + program + L"\" " + word;
     STARTUPINFOW look{};
     look.cb = sizeof(look);
     PROCESS_INFORMATION made{};
-    if (CreateProcessW(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+    if (CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                        &look, &made) == FALSE)
         throw std::runtime_error("the CAD server does not start");
     CloseHandle(made.hThread);
@@ -49,9 +51,17 @@ com::LateBound running_server() {
 
 } // namespace
 
+unsigned long run_cad_server(const wchar_t* word) {
+    const WindowsHandle process = start(word);
+    unsigned long code = STILL_ACTIVE;
+    WaitForSingleObject(process.get(), kPatienceMilliseconds);
+    GetExitCodeProcess(process.get(), &code);
+    return code;
+}
+
 CadServer::CadServer() {
     const WindowsHandle ready(CreateEventW(nullptr, TRUE, FALSE, L"velmora-cad-server-ready"));
-    process_ = start(server_path());
+    process_ = start();
     wait_until_ready(ready.get(), process_.get());
     application_ = running_server();
 }

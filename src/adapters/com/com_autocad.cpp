@@ -1,6 +1,5 @@
 // The CAD of Windows: the running application that is registered as "AutoCAD.Application", by its
 // automation interface, late bound. It and what it gives out belong to the thread that made it.
-#include "adapters/com/fault.h"
 #include "adapters/com/foreground.h"
 #include "adapters/com/late_bound.h"
 #include "adapters/running_cad.h"
@@ -95,13 +94,6 @@ class ComApplication : public AcadApplication {
     LateBound application_;
 };
 
-/// An application that crashed stays among the active objects for a while.
-bool is_alive(IDispatch& object) {
-    UINT count = 0;
-    const HRESULT result = object.GetTypeInfoCount(&count);
-    return SUCCEEDED(result) || com::fault_of(result).number != error::server_unavailable;
-}
-
 /// The running object of a class, null where the class or the object is not there.
 ComPtr<IDispatch> running_object(const wchar_t* class_name) {
     CLSID id{};
@@ -118,10 +110,15 @@ ComPtr<IDispatch> running_object(const wchar_t* class_name) {
 class ComAutocad : public Autocad {
   public:
     std::shared_ptr<AcadApplication> GetObject() override {
-        ComPtr<IDispatch> application = running_object(L"AutoCAD.Application");
-        if (application == nullptr || !is_alive(*application))
+        ComPtr<IDispatch> found = running_object(L"AutoCAD.Application");
+        if (found == nullptr)
             raise(error::cannot_create_object);
-        return std::make_shared<ComApplication>(LateBound(apartment_, std::move(application)));
+        LateBound application(apartment_, std::move(found));
+        // One that crashed stays among the active objects for a while, and anybody can take a
+        // class.
+        if (!application.offers(L"Documents"))
+            raise(error::cannot_create_object);
+        return std::make_shared<ComApplication>(std::move(application));
     }
     void AppActivate() override { com::activate_window(L"Autocad"); }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <tuple>
 
 namespace velmora::com {
 
@@ -63,6 +64,12 @@ Variant LateBound::invoke(const wchar_t* member, WORD flags,
     if (FAILED(result))
         throw fault_of(result, exception);
     return value;
+}
+
+bool LateBound::offers(const wchar_t* member) {
+    bool known = true;
+    trap([&] { std::ignore = id_of(member); }, [&](const RuntimeError&) { known = false; });
+    return known;
 }
 
 void LateBound::put(const wchar_t* member, Variant value) {

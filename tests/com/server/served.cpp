@@ -71,7 +71,7 @@ class Served : public IDispatch {
 HRESULT Served::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) {
     const auto found = std::ranges::find_if(
         members_, [&](const Member& member) { return same_name(member.name, names[0]); });
-    if (found == members_.end()) {
+    if (found == members_.end() || found->name == manners_.hidden_member) {
         ids[0] = DISPID_UNKNOWN;
         return DISP_E_UNKNOWNNAME;
     }
@@ -80,8 +80,10 @@ HRESULT Served::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) 
 }
 
 void Served::use(const Member& member, WORD flags, const DISPPARAMS& parameters, VARIANT* value) {
-    if (manners_.fatal_member == member.name)
-        TerminateProcess(GetCurrentProcess(), 1);
+    if (manners_.awaited_member == member.name) {
+        manners_.awaited_member.clear();
+        manners_.laid_out();
+    }
     const Arguments arguments = arguments_of(parameters);
     const bool writes = (flags & DISPATCH_PROPERTYPUT) != 0;
     if (writes ? !member.write : !member.read)

@@ -25,8 +25,10 @@ struct Manners {
     bool plain_results = false;  ///< a failure is the call's own result, not an exception's
     bool variant_arrays = false; ///< numbers travel as values of any kind
     int busy = 0;                ///< calls still to be turned away
-    std::wstring fatal_member;   ///< its use ends the process
-    std::string prompt;          ///< of the last GetPoint
+    std::wstring hidden_member;  ///< is not there
+    std::wstring awaited_member; ///< what is laid out happens before its next use
+    std::function<void()> laid_out;
+    std::string prompt; ///< of the last GetPoint
 };
 
 /// The object; it refers to `manners` for its life. A RuntimeError of a member becomes the call's

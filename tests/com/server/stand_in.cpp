@@ -22,13 +22,38 @@ driver::CadDrawing& active_drawing(driver::CadState& state) {
     return *state.application->active;
 }
 
+void erase_last(driver::CadState& state) {
+    active_drawing(state).model_space.pop_back();
+}
+
+/// What happens in the middle of a call. False for any other line.
+bool line_of_a_moment(Manners& manners, driver::CadState& state, const Words& words) {
+    const std::string& action = words.at(0);
+    if (action == "die-at")
+        manners.laid_out = [] {
+            TerminateProcess(GetCurrentProcess(), 1);
+        };
+    else if (action == "erase-at")
+        manners.laid_out = [&state] {
+            erase_last(state);
+        };
+    else if (action == "close-at")
+        manners.laid_out = [&state] {
+            driver::cad_line(state, Words{"no-document"});
+        };
+    else
+        return false;
+    manners.awaited_member = com::wide_text(words.at(1));
+    return true;
+}
+
 /// Lines that a scenario has no use for. False for any other line.
 bool own_line(Manners& manners, driver::CadState& state, const Words& words) {
     const std::string& action = words.at(0);
     if (action == "busy")
         manners.busy = driver::count_number(words.at(1));
-    else if (action == "die-at")
-        manners.fatal_member = com::wide_text(words.at(1));
+    else if (action == "hide")
+        manners.hidden_member = com::wide_text(words.at(1));
     else if (action == "failures")
         manners.plain_results = words.at(1) == "plain";
     else if (action == "arrays")
@@ -36,9 +61,9 @@ bool own_line(Manners& manners, driver::CadState& state, const Words& words) {
     else if (action == "shorten")
         active_drawing(state).model_space.back()->numbers.pop_back();
     else if (action == "erase")
-        active_drawing(state).model_space.pop_back();
+        erase_last(state);
     else
-        return false;
+        return line_of_a_moment(manners, state, words);
     return true;
 }
 
