@@ -2,9 +2,12 @@
 
 #include <QFont>
 #include <QFontMetrics>
+#include <QGlyphRun>
 #include <QGuiApplication>
 #include <QPainterPath>
 #include <QPolygonF>
+#include <QRawFont>
+#include <QTextLayout>
 #include <algorithm>
 
 namespace velmora {
@@ -27,11 +30,50 @@ QFont font_of(const FontChoice& choice) {
     return font;
 }
 
-Figure figure_of(const QPolygonF& polygon) {
+/// A pasted text can have tabs and line ends; they are blanks, as the box shows them.
+QString one_line(std::string_view text) {
+    QString line = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    for (QChar& letter : line)
+        if (letter.category() == QChar::Other_Control ||
+            letter.category() == QChar::Separator_Line ||
+            letter.category() == QChar::Separator_Paragraph)
+            letter = ' ';
+    return line;
+}
+
+/// A sign of a font, its origin on the base line.
+struct Sign {
+    QPointF origin;
+    QPainterPath outline;
+};
+
+/// The signs of the text as one line. A word that is written from right to left comes in the order
+/// of its letters; here it is taken from the left like the rest, so that no way leads back over it.
+std::vector<Sign> signs_of(const QString& text, const QFont& font) {
+    QTextLayout layout(text, font);
+    QTextOption option;
+    option.setUseDesignMetrics(true);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    std::vector<Sign> signs;
+    for (const QGlyphRun& run : line.glyphRuns()) {
+        const QList<quint32> glyphs = run.glyphIndexes();
+        const QList<QPointF> origins = run.positions();
+        for (qsizetype i = 0; i < glyphs.size(); ++i)
+            signs.push_back(
+                {origins[i] - QPointF(0, line.ascent()), run.rawFont().pathForGlyph(glyphs[i])});
+    }
+    std::ranges::stable_sort(signs, {}, [](const Sign& sign) { return sign.origin.x(); });
+    return signs;
+}
+
+Figure figure_of(const QPolygonF& polygon, const QPointF& origin) {
     Figure figure;
     figure.reserve(static_cast<std::size_t>(polygon.size()));
     for (const QPointF& point : polygon)
-        figure.push_back({point.x(), point.y()});
+        figure.push_back({origin.x() + point.x(), origin.y() + point.y()});
     return figure;
 }
 
@@ -40,12 +82,11 @@ class QtTextOutlines : public TextOutlines {
     std::vector<Figure> figures(std::string_view text, const FontChoice& choice,
                                 OutlinePoint corner) override {
         const QFont font = font_of(choice);
-        QPainterPath path;
-        path.addText(corner.x, corner.y + QFontMetrics(font).ascent(), font,
-                     QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+        const QPointF base(corner.x, corner.y + QFontMetrics(font).ascent());
         std::vector<Figure> figures;
-        for (const QPolygonF& polygon : path.toSubpathPolygons())
-            figures.push_back(figure_of(polygon));
+        for (const Sign& sign : signs_of(one_line(text), font))
+            for (const QPolygonF& polygon : sign.outline.toSubpathPolygons())
+                figures.push_back(figure_of(polygon, base + sign.origin));
         return figures;
     }
 };
