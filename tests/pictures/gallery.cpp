@@ -25,6 +25,13 @@ struct Face {
     std::string_view control;
 };
 constexpr Face kFaces[] = {{"New_Dat", "SSOpt_create"}, {"Scale_xy", "Opt_percent"}};
+/// Another one, behind a text typed into a box.
+struct Filled {
+    std::string_view window;
+    std::string_view box;
+    std::string_view text;
+};
+constexpr Filled kFilled[] = {{"seltexto", "char", "Ala ñ 28 %"}};
 
 QPalette dark_palette() {
     const QColor ground("#2b2f36");
@@ -85,6 +92,12 @@ class Camera {
                 continue;
             stage_.click(name, face.control);
             take(page + "-" + QString::fromUtf8(face.control.data()), shown);
+        }
+        for (const Filled& filled : kFilled) {
+            if (filled.window != name)
+                continue;
+            stage_.fill(name, filled.box, filled.text);
+            take(page + "-" + QString::fromUtf8(filled.box.data()), shown);
         }
         if (name != "Velmora")
             stage_.unload(name);

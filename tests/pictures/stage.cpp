@@ -10,6 +10,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QCoreApplication>
+#include <QLineEdit>
 #include <filesystem>
 
 namespace velmora::pictures {
@@ -101,6 +102,12 @@ void Stage::click(std::string_view window, std::string_view name) {
         action->trigger();
     if (auto* button = qobject_cast<QAbstractButton*>(found))
         button->click();
+    settle();
+}
+
+void Stage::fill(std::string_view window, std::string_view name, std::string_view text) {
+    if (auto* box = qobject_cast<QLineEdit*>(platform_->windows->control(window, name)))
+        box->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
     settle();
 }
 

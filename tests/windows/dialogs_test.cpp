@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -130,6 +131,44 @@ TEST_F(DialogsTest, AColourGoesInAndComesOutWithRedInTheLowByte) {
         box.accept();
     });
     EXPECT_EQ(dialogs->choose_colour(255), 1U + 256 * 2 + 65536 * 3);
+}
+
+TEST_F(DialogsTest, TheFontDialogStartsWithThePresentFontAndGivesTheChosenOne) {
+    when_open<QFontDialog>([](QFontDialog& box) {
+        EXPECT_EQ(box.currentFont().family(), "DejaVu Serif");
+        EXPECT_EQ(box.currentFont().pointSize(), 72);
+        EXPECT_TRUE(box.currentFont().bold());
+        EXPECT_FALSE(box.currentFont().italic());
+        const auto boxes = box.findChildren<QLineEdit*>();
+        const auto size = std::ranges::find_if_not(boxes, &QLineEdit::isReadOnly);
+        ASSERT_NE(size, boxes.end());
+        (*size)->setText("36");
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    const auto chosen = dialogs->choose_font({"DejaVu Serif", 72, true, false});
+    ASSERT_TRUE(chosen.has_value());
+    EXPECT_EQ(chosen->name, "DejaVu Serif");
+    EXPECT_EQ(chosen->size, 36);
+    EXPECT_TRUE(chosen->bold);
+    EXPECT_FALSE(chosen->italic);
+}
+
+TEST_F(DialogsTest, TheFontDialogTellsOfALeaningStyle) {
+    when_open<QFontDialog>([](QFontDialog& box) {
+        QFont leaning("DejaVu Sans", 20);
+        leaning.setItalic(true);
+        box.setCurrentFont(leaning);
+        box.accept();
+    });
+    const auto chosen = dialogs->choose_font({"", 72, false, false});
+    ASSERT_TRUE(chosen.has_value());
+    EXPECT_EQ(chosen->name, "DejaVu Sans");
+    EXPECT_TRUE(chosen->italic);
+}
+
+TEST_F(DialogsTest, ACancelledFontDialogGivesNothing) {
+    when_open<QFontDialog>([](QFontDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_FALSE(dialogs->choose_font({"DejaVu Sans", 72, false, false}).has_value());
 }
 
 /// A box with a rule for leaving it, beside a button.
