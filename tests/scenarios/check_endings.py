@@ -108,6 +108,15 @@ class Endings(unittest.TestCase):
             self.drive(script + "write a.txt x\n")
             self.assertEqual(list(self.temporary.iterdir()), [])
 
+    def test_a_file_makes_its_folder(self):
+        done = self.drive("write sub/deep/a.txt 1\ncopy sub/deep/a.txt other/b.txt\n"
+                          "append third/c.txt 2\nshow files sub\nshow file other/b.txt\n"
+                          "show file third/c.txt\n")
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertTrue(done.stdout.endswith(
+            b"files sub\ndeep\n> show file other/b.txt\nfile other/b.txt 1\n\"1\"\n"
+            b"> show file third/c.txt\nfile third/c.txt 1\n\"2\"\n"), done.stdout)
+
     def test_keep_leaves_the_work_folder(self):
         self.drive("write a.txt \"1 2\"\n", "--keep")
         self.assertEqual([path.read_text() for path in self.temporary.rglob("a.txt")], ["1 2"])

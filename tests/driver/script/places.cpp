@@ -45,14 +45,19 @@ bool begins_with_place(std::string_view path, std::string_view name) {
 Places::Places(std::string work, std::string program)
     : work_(std::move(work)), program_(std::move(program)) {}
 
+std::string Places::expanded(std::string_view text) const {
+    if (begins_with_place(text, kWork))
+        return work_ + std::string(text.substr(kWork.size()));
+    if (begins_with_place(text, kProgram))
+        return program_ + std::string(text.substr(kProgram.size()));
+    return std::string(text);
+}
+
 std::string Places::resolve(std::string_view path) const {
-    if (begins_with_place(path, kWork))
-        return work_ + std::string(path.substr(kWork.size()));
-    if (begins_with_place(path, kProgram))
-        return program_ + std::string(path.substr(kProgram.size()));
-    if (std::filesystem::path(path).has_root_directory())
-        return std::string(path);
-    return work_ + '/' + std::string(path);
+    std::string place = expanded(path);
+    if (std::filesystem::path(place).has_root_directory())
+        return place;
+    return work_ + '/' + place;
 }
 
 std::string Places::named(std::string_view text) const {

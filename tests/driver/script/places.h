@@ -18,6 +18,9 @@ class Places {
     /// The absolute path of a script's path. A relative one lies in the work folder; one may also
     /// begin with $WORK or $PROGRAM, as transcripts print them.
     [[nodiscard]] std::string resolve(std::string_view path) const;
+    /// A text that begins with $WORK or $PROGRAM, with the folder's path for the name; any other as
+    /// it stands.
+    [[nodiscard]] std::string expanded(std::string_view text) const;
     /// The text with the names for the folders' paths, also where it shows them in capitals.
     [[nodiscard]] std::string named(std::string_view text) const;
     /// `named` as a word of the transcript.

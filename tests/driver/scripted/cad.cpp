@@ -41,6 +41,26 @@ constexpr auto kMembers = std::to_array<std::string_view>({
     "AcadSpline.GetControlPoint",
 });
 
+/// "Documents.Add" taken apart; a name alone has no object.
+struct Member {
+    std::string_view object;
+    std::string_view name;
+};
+
+Member split(std::string_view text) {
+    const auto point = text.find('.');
+    if (point == std::string_view::npos)
+        return {{}, text};
+    return {text.substr(0, point), text.substr(point + 1)};
+}
+
+bool is_entity_class(std::string_view name) {
+    constexpr auto classes =
+        std::to_array<std::string_view>({"AcadEntity", "AcadLine", "AcadPoint", "AcadLWPolyline",
+                                         "AcadArc", "AcadCircle", "AcadSpline"});
+    return std::ranges::find(classes, name) != classes.end();
+}
+
 /// The object, or 462 when it is gone.
 template <class T>
 std::shared_ptr<T> alive(const std::weak_ptr<T>& object) {
@@ -223,10 +243,18 @@ class ScriptedApplication : public AcadApplication {
 } // namespace
 
 bool names_member(std::string_view word, std::string_view member) {
-    const auto point = member.find('.');
-    return word == member ||
-           (point != std::string_view::npos &&
-            (word == member.substr(0, point) || word == member.substr(point + 1)));
+    const Member own = split(member);
+    if (word == member || word == own.name || (!own.object.empty() && word == own.object))
+        return true;
+    const Member asked = split(word);
+    if (asked.object.empty() || own.object.empty())
+        return false;
+    if (asked.name == own.object)
+        return asked.object == "AcadApplication" || asked.object == "AcadDocument";
+    if (asked.name != own.name)
+        return false;
+    return asked.object == "Acad" + std::string(own.object) ||
+           (is_entity_class(asked.object) && is_entity_class(own.object));
 }
 
 bool is_cad_member(std::string_view word) {

@@ -39,7 +39,7 @@ struct CadState {
     /// Nothing runs any more; what the program holds of it is gone.
     void stop();
     /// Raises the first failure that is laid out for a member. "Documents.Add" answers to itself,
-    /// to "Add" and to "Documents".
+    /// to "Add", "Documents", "AcadDocuments.Add" and "AcadApplication.Documents".
     void use(std::string_view member);
 };
 

@@ -191,6 +191,21 @@ TEST_F(ScriptedCadTest, tells_counts_of_documents_and_entities_apart) {
     EXPECT_EQ(error_of([&] { (void)document->Count(); }), 0);
 }
 
+TEST_F(ScriptedCadTest, knows_a_member_by_its_class_too) {
+    const auto document = open_drawing();
+    line("circle 1 2 3");
+    line("fail AcadModelSpace.Count 9");
+    EXPECT_EQ(error_of([&] { (void)cad.GetObject()->Documents_Count(); }), 0);
+    EXPECT_EQ(error_of([&] { (void)document->Count(); }), 9);
+    line("fail AcadApplication.Documents 8");
+    EXPECT_EQ(error_of([&] { (void)cad.GetObject()->Documents_Count(); }), 8);
+    line("fail AcadCircle.Center 7");
+    EXPECT_EQ(error_of([&] { (void)document->Item(0)->Radius(); }), 0);
+    EXPECT_EQ(error_of([&] { (void)document->Item(0)->Center(); }), 7);
+    EXPECT_THROW(line("fail AcadCircle.Add 7"), ScriptFault);
+    EXPECT_THROW(line("fail AcadCircle 7"), ScriptFault);
+}
+
 TEST_F(ScriptedCadTest, what_the_program_holds_goes_with_the_application) {
     const auto document = open_drawing();
     const auto application = cad.GetObject();

@@ -41,6 +41,15 @@ TEST(Places, resolves_against_the_work_folder) {
     EXPECT_EQ(places.resolve("$PROGRAMS"), "/tmp/x/work/$PROGRAMS");
 }
 
+TEST(Places, expands_a_text_that_begins_with_a_folder) {
+    const Places places("/tmp/x/work", "/tmp/x/program");
+    EXPECT_EQ(places.expanded("$WORK/a.dat"), "/tmp/x/work/a.dat");
+    EXPECT_EQ(places.expanded("$PROGRAM/a.dat"), "/tmp/x/program/a.dat");
+    EXPECT_EQ(places.expanded("a.dat"), "a.dat");
+    EXPECT_EQ(places.expanded("de $WORK/a.dat"), "de $WORK/a.dat");
+    EXPECT_EQ(places.expanded(""), "");
+}
+
 TEST(Places, quotes_a_word_behind_the_naming) {
     const Places places("/tmp/a b", "/tmp/x/program");
     EXPECT_EQ(places.word("/tmp/a b/ala.dat"), "$WORK/ala.dat");

@@ -29,7 +29,15 @@ void check_done(const std::string& what, const std::error_code& failure) {
         fault(what + ": " + failure.message());
 }
 
+/// A script has no line of its own for a folder: what is put into one makes it.
+void make_folder_of(const fs::path& path) {
+    std::error_code failure;
+    fs::create_directories(path.parent_path(), failure);
+    check_done("making " + path.parent_path().string(), failure);
+}
+
 void copy_over(const fs::path& from, const fs::path& to) {
+    make_folder_of(to);
     std::error_code failure;
     fs::copy_file(from, to, fs::copy_options::overwrite_existing, failure);
     check_done("copying " + from.string(), failure);
@@ -42,6 +50,7 @@ void remove_if_there(const fs::path& path) {
 }
 
 void write_bytes(const fs::path& path, const std::string& text, std::ios::openmode mode) {
+    make_folder_of(path);
     std::ofstream file(path, std::ios::binary | mode);
     file << runtime::to_1252(text);
     file.close();
@@ -60,7 +69,7 @@ void locale(Stage& stage, Words words) {
 
 void setting(Stage& stage, Words words) {
     want_words(words, 3, "setting SECTION KEY VALUE");
-    stage.settings().save(words[0], words[1], words[2]);
+    stage.settings().save(words[0], words[1], stage.places.expanded(words[2]));
 }
 
 void program_file(Stage& stage, Words words) {
