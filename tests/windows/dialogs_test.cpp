@@ -1,6 +1,7 @@
 // The desktop's dialogs as the program asks for them.
 #include "adapters/qt/qt_dialogs.h"
 #include "ui/key_filter.h"
+#include "ui/translations.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -133,11 +134,16 @@ TEST_F(DialogsTest, AColourGoesInAndComesOutWithRedInTheLowByte) {
     EXPECT_EQ(dialogs->choose_colour(255), 1U + 256 * 2 + 65536 * 3);
 }
 
-TEST_F(DialogsTest, TheFontDialogStartsWithThePresentFontAndGivesTheChosenOne) {
-    when_open<QFontDialog>([](QFontDialog& box) {
+class FontDialog : public DialogsTest, public testing::WithParamInterface<bool> {};
+
+// In the program's language, which the dialog also uses for the names of styles.
+TEST_P(FontDialog, StartsWithThePresentFontAndGivesTheChosenOne) {
+    install_translations("E");
+    const bool bold = GetParam();
+    when_open<QFontDialog>([bold](QFontDialog& box) {
         EXPECT_EQ(box.currentFont().family(), "DejaVu Serif");
         EXPECT_EQ(box.currentFont().pointSize(), 72);
-        EXPECT_TRUE(box.currentFont().bold());
+        EXPECT_EQ(box.currentFont().bold(), bold);
         EXPECT_FALSE(box.currentFont().italic());
         const auto boxes = box.findChildren<QLineEdit*>();
         const auto size = std::ranges::find_if_not(boxes, &QLineEdit::isReadOnly);
@@ -145,25 +151,26 @@ TEST_F(DialogsTest, TheFontDialogStartsWithThePresentFontAndGivesTheChosenOne) {
         (*size)->setText("36");
         QTest::keyClick(&box, Qt::Key_Return);
     });
-    const auto chosen = dialogs->choose_font({"DejaVu Serif", 72, true, false});
+    const auto chosen = dialogs->choose_font({"DejaVu Serif", 72, bold, false});
     ASSERT_TRUE(chosen.has_value());
     EXPECT_EQ(chosen->name, "DejaVu Serif");
     EXPECT_EQ(chosen->size, 36);
-    EXPECT_TRUE(chosen->bold);
+    EXPECT_EQ(chosen->bold, bold);
     EXPECT_FALSE(chosen->italic);
 }
 
-TEST_F(DialogsTest, TheFontDialogTellsOfALeaningStyle) {
+INSTANTIATE_TEST_SUITE_P(Weights, FontDialog, testing::Bool());
+
+TEST_F(DialogsTest, WithoutANameTheFontDialogStartsWithTheDesktopsFont) {
     when_open<QFontDialog>([](QFontDialog& box) {
-        QFont leaning("DejaVu Sans", 20);
-        leaning.setItalic(true);
-        box.setCurrentFont(leaning);
+        EXPECT_EQ(box.currentFont().family(), QFontInfo(QApplication::font()).family());
+        EXPECT_FALSE(box.currentFont().bold());
+        EXPECT_FALSE(box.currentFont().italic());
         box.accept();
     });
     const auto chosen = dialogs->choose_font({"", 72, false, false});
     ASSERT_TRUE(chosen.has_value());
-    EXPECT_EQ(chosen->name, "DejaVu Sans");
-    EXPECT_TRUE(chosen->italic);
+    EXPECT_EQ(chosen->size, 72);
 }
 
 TEST_F(DialogsTest, ACancelledFontDialogGivesNothing) {

@@ -7,9 +7,14 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFontDatabase>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <algorithm>
+#include <cmath>
+#include <tuple>
 
 namespace velmora {
 
@@ -54,6 +59,28 @@ QMessageBox::Icon icon_of(int value) {
     default:
         return QMessageBox::NoIcon;
     }
+}
+
+/// The style of a family that comes nearest to the font. The dialog looks for a style by its name,
+/// in the language of the program; where it finds none it takes whichever is the first.
+QString style_of(const QString& family, const FontChoice& font) {
+    const int weight = font.bold ? QFont::Bold : QFont::Normal;
+    const auto distance = [&](const QString& style) {
+        const QFont styled = QFontDatabase::font(family, style, 1);
+        return std::tuple(styled.italic() != font.italic, std::abs(styled.weight() - weight),
+                          style.size()); // "Book" before "Condensed"
+    };
+    const QStringList styles = QFontDatabase::styles(family);
+    const auto nearest = std::ranges::min_element(styles, {}, distance);
+    return nearest == styles.end() ? QString() : *nearest;
+}
+
+QFont font_of(const FontChoice& choice) {
+    const QFont named = choice.name.empty() ? QApplication::font() : QFont(qt_text(choice.name));
+    const QString family = QFontInfo(named).family();
+    QFont font = QFontDatabase::font(family, style_of(family, choice), 1);
+    font.setPointSizeF(choice.size > 0 ? choice.size : QApplication::font().pointSizeF());
+    return font;
 }
 
 int answer_of(int button) {
@@ -119,15 +146,8 @@ class QtDialogs : public Dialogs {
     }
 
     std::optional<FontChoice> choose_font(const FontChoice& present) override {
-        QFont font = QApplication::font();
-        if (!present.name.empty())
-            font.setFamilies({qt_text(present.name)});
-        if (present.size > 0)
-            font.setPointSizeF(present.size);
-        font.setBold(present.bold);
-        font.setItalic(present.italic);
         bool taken = false;
-        const QFont chosen = QFontDialog::getFont(&taken, font, owner());
+        const QFont chosen = QFontDialog::getFont(&taken, font_of(present), owner());
         if (!taken)
             return {};
         return FontChoice{chosen.family().toStdString(), chosen.pointSizeF(), chosen.bold(),
