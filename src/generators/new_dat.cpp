@@ -17,6 +17,7 @@
 #include <array>
 #include <iterator>
 #include <span>
+#include <utility>
 
 namespace velmora {
 
@@ -53,21 +54,29 @@ void choose(bool predefined) {
     window.Txt_Shape.clear();
 }
 
-/// Takes an answer that is a whole number; any other leaves the number as it is.
-void take_circle_points(std::string_view answer) {
-    trap(
-        [&] {
-            const double number = CDbl(answer);
-            if (runtime::Int(number) == number)
-                session.New_Dat.circle_points = runtime::to_int32(number);
-        },
-        [](const RuntimeError&) {});
+/// A click on a tile passes over its errors, step by step.
+template <class Step>
+void ignoring_errors(Step&& step) {
+    trap(std::forward<Step>(step), [](const RuntimeError&) {});
 }
 
+/// Takes an answer that is a whole number; any other leaves the number as it is.
+void take_circle_points(std::string_view answer) {
+    ignoring_errors([&] {
+        const double number = CDbl(answer);
+        if (runtime::Int(number) == number)
+            session.New_Dat.circle_points = runtime::to_int32(number);
+    });
+}
+
+// A prompt that can't be read is passed over too, but not the one that is asked until there are
+// enough points: that loop would never end.
 void ask_circle_points() {
     const std::int32_t& points = session.New_Dat.circle_points;
-    take_circle_points(
-        InputBox(GetMensaje(mensaje::ask_circle_points) + " ", box_title(), CStr(points)));
+    ignoring_errors([&] {
+        take_circle_points(
+            InputBox(GetMensaje(mensaje::ask_circle_points) + " ", box_title(), CStr(points)));
+    });
     while (points < kFewestCirclePoints)
         take_circle_points(InputBox(GetMensaje(mensaje::circle_points_too_few) + " ", box_title(),
                                     CStr(kFewestCirclePoints)));
@@ -152,7 +161,8 @@ void New_Dat_Picture1_Click(int index) {
     window.shape = static_cast<std::int16_t>(index);
     window.Picture1.fill(false);
     window.Picture1.at(static_cast<std::size_t>(index)) = true;
-    window.Txt_Shape = GetMensaje(kNames.at(static_cast<std::size_t>(index)));
+    ignoring_errors(
+        [&] { window.Txt_Shape = GetMensaje(kNames.at(static_cast<std::size_t>(index))); });
     window.cmd_ok_enabled = true;
     if (index != kCircle)
         return;

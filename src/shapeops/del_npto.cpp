@@ -52,7 +52,7 @@ void show_maximum(double points) {
 
 /// Place of the k-th point to go, brought back by at most one turn.
 std::int32_t position(double step, std::int32_t k, std::int32_t upper) {
-    const std::int32_t place = runtime::to_int32(runtime::Int(step * k + session.PtoSel));
+    const std::int32_t place = runtime::to_int32(step * k + session.PtoSel);
     return place > upper ? place - upper - 1 : place;
 }
 

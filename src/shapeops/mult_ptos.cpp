@@ -25,8 +25,9 @@ constexpr std::string_view kWindow = "Mult_Ptos";
 constexpr double kShift = 1000;
 constexpr double kTooManyPoints = 32001;
 
-double factor() {
-    return runtime::Int(runtime::Val(session.Mult_Ptos.Combo1));
+/// A factor with a fraction goes to the nearest whole one, as every number kept in an integer.
+std::int32_t factor() {
+    return runtime::to_int32(runtime::Val(session.Mult_Ptos.Combo1));
 }
 
 double between(double p, double q, double parts, double k) {
@@ -53,7 +54,7 @@ void Interpola(const Array<Pto>& backup, std::int32_t d, std::int32_t nxt, std::
 
 void multiply_points() {
     const Array<Pto> backup = Forma.Pto;
-    const std::int32_t parts = runtime::to_int32(factor());
+    const std::int32_t parts = factor();
     const double points = static_cast<double>(parts) * static_cast<double>(backup.size());
     Forma.Pto.redim(runtime::to_int32(points - 1));
     for (std::int32_t i = 0; i <= backup.upper(); ++i) {

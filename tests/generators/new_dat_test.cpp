@@ -2,6 +2,7 @@
 
 #include "document/handlers.h"
 #include "document/session.h"
+#include "support/error_number.h"
 #include "support/outline.h"
 #include "support/recording_platform.h"
 
@@ -120,6 +121,21 @@ TEST_F(NewDat, the_last_number_is_proposed_by_the_next_window_too) {
     platform_.dialogs.inputs = {"8"};
     New_Dat_Picture1_Click(kCircle);
     EXPECT_EQ(platform_.dialogs.input_calls.back(), (Texts{kAsk, "Velmora 1.0", "7"}));
+}
+
+TEST(NewDatWithoutTexts, a_tile_is_picked_all_the_same) {
+    const test::RecordingPlatform platform(true);
+    New_Dat_Load();
+    New_Dat_Picture1_Click(kSquare);
+    EXPECT_EQ(session.New_Dat.Txt_Shape, "");
+    EXPECT_TRUE(session.New_Dat.cmd_ok_enabled);
+}
+
+TEST(NewDatWithoutTexts, the_circle_cannot_ask_for_its_points) {
+    const test::RecordingPlatform platform(true);
+    New_Dat_Load();
+    EXPECT_EQ(test::number_of([] { New_Dat_Picture1_Click(kCircle); }), 91);
+    EXPECT_TRUE(platform.dialogs.input_calls.empty());
 }
 
 TEST_F(NewDat, the_square_runs_from_the_origin) {

@@ -76,6 +76,16 @@ TEST_F(DelNpto, load_shows_how_many_may_go) {
     EXPECT_EQ(window_.Lbl_Maxpoints, "(3)");
 }
 
+TEST_F(DelNpto, a_jump_with_a_fraction_goes_to_the_nearest_point) {
+    set_shape(numbered(9));
+    session.PtoSel = 0;
+    del_Npto_Load();
+    window_.Txt_Numpoints2del = std::string("3");
+    window_.Txt_JumpPoints = std::string("0.9"); // 0, 1.9 and 3.8
+    del_Npto_cmd_ok_Click();
+    EXPECT_EQ(places(), (std::vector<double>{1, 3, 5, 6, 7, 8}));
+}
+
 TEST_F(DelNpto, a_jump_changes_the_maximum) {
     struct Case {
         const char* jump;

@@ -127,10 +127,13 @@ TEST_F(MultPtos, factor_1_leaves_the_shape) {
     EXPECT_EQ(shape(), before);
 }
 
-TEST_F(MultPtos, a_factor_with_a_fraction_counts_whole) {
+TEST_F(MultPtos, a_factor_with_a_fraction_goes_to_the_nearest_whole_one) {
     choose("2.9");
     Mult_Ptos_cmd_ok_Click();
-    EXPECT_EQ(shape().size(), 6U);
+    EXPECT_EQ(shape().size(), 9U);
+    choose("2.5");
+    Mult_Ptos_cmd_ok_Click();
+    EXPECT_EQ(shape().size(), 18U);
 }
 
 TEST_F(MultPtos, a_factor_below_1_has_no_array) {
