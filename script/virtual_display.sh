@@ -61,7 +61,7 @@ start_program() {
     running=$!
     display_processes+=("$running")
     local splash
-    splash=$(until_done xdotool search --onlyvisible --pid "$running" | tail -n 1)
+    splash=$(until_done xdotool search --onlyvisible --pid "$running" | tail -n 1) || true
     [ -n "$splash" ] || fail "the program did not start: $(cat "$display_folder/program.log")"
     [ -z "${3:-}" ] || { sleep 0.5; picture "$3"; }
     eval "$(xdotool getwindowgeometry --shell "$splash")"

@@ -20,28 +20,28 @@ def plate():
     spline, a circle that touches the corner at the start, and two strays far away, of which the
     second is the last one left. Something hidden and a text are no part of it."""
     document = FreeCAD.newDocument("pieza")
-    Draft.make_line(V(0.5, 0.5), V(40.5, 0.5))
+    Draft.make_line(V(10.5, 10.5), V(50.5, 10.5))
     backwards = document.addObject("Part::Line", "Backwards")
-    backwards.X1, backwards.Y1, backwards.X2, backwards.Y2 = 40.5, 20.5, 40.5, 0.5
+    backwards.X1, backwards.Y1, backwards.X2, backwards.Y2 = 50.5, 30.5, 50.5, 10.5
     sketch = document.addObject("Sketcher::SketchObject", "Sketch")
-    circle = Part.Circle(V(35.5, 20.5), V(0, 0, 1), 5)
+    circle = Part.Circle(V(45.5, 30.5), V(0, 0, 1), 5)
     sketch.addGeometry(Part.ArcOfCircle(circle, 0, math.pi / 2), False)
-    sketch.addGeometry(Part.LineSegment(V(1, 1), V(2, 2)), True)
-    Draft.make_wire([V(35.5, 25.5), V(30.5, 22.5), V(20.5, 25.5)], closed=False, face=False)
+    sketch.addGeometry(Part.LineSegment(V(11, 11), V(12, 12)), True)
+    Draft.make_wire([V(45.5, 35.5), V(40.5, 32.5), V(30.5, 35.5)], closed=False, face=False)
     spline = Part.BSplineCurve()
     spline.buildFromPolesMultsKnots(
-        [V(0.5, 25.5), V(5.5, 30.5), V(15.5, 20.5), V(20.5, 25.5)], [4, 4], [0.0, 1.0], False, 3
+        [V(10.5, 35.5), V(15.5, 40.5), V(25.5, 30.5), V(30.5, 35.5)], [4, 4], [0.0, 1.0], False, 3
     )
     document.addObject("Part::Feature", "Curve").Shape = spline.toShape()
-    hidden = Draft.make_line(V(0.5, 0.5), V(99, 99))
+    hidden = Draft.make_line(V(10.5, 10.5), V(99, 99))
     hidden.Label, hidden.Visibility = "Hidden", False
-    Draft.make_line(V(0.5, 25.5), V(0.5, 0.5)).Label = "Left"
+    Draft.make_line(V(10.5, 35.5), V(10.5, 10.5)).Label = "Left"
     round_hole = document.addObject("Part::Circle", "Hole")
     round_hole.Radius = 2
-    round_hole.Placement.Base = V(-1.5, 0.75)
-    Draft.make_line(V(60, 10), V(65, 20)).Label = "Stray"
-    Draft.make_line(V(70, 10), V(75, 20)).Label = "Last"
-    Draft.make_text(["no outline"], V(10, 10))
+    round_hole.Placement.Base = V(8.5, 10.75)
+    Draft.make_line(V(70, 20), V(75, 30)).Label = "Stray"
+    Draft.make_line(V(80, 20), V(85, 30)).Label = "Last"
+    Draft.make_text(["no outline"], V(20, 20))
     document.recompute()
     return document.Name
 
@@ -86,6 +86,34 @@ def save_copy(path):
     """A copy has the ending of FreeCAD's own documents, whatever it is named afterwards."""
     FreeCAD.ActiveDocument.saveCopy(path + ".FCStd")
     os.replace(path + ".FCStd", path)
+
+
+def show_all():
+    """The whole drawing in view, from above."""
+    import FreeCADGui
+
+    FreeCADGui.getMainWindow().showMaximized()
+    FreeCADGui.updateGui()
+    FreeCADGui.SendMsgToActiveView("ViewTop")
+    FreeCADGui.SendMsgToActiveView("ViewFit")
+
+
+def pixel_of(x, y):
+    """Where on the screen a place of the drawing is."""
+    import FreeCADGui
+    from PySide import QtCore
+
+    view = FreeCADGui.ActiveDocument.ActiveView
+    graphics = view.graphicsView()
+    across, up = view.getPointOnScreen(V(x, y, 0))
+    spot = graphics.mapToGlobal(QtCore.QPoint(across, graphics.height() - 1 - up))
+    return f"{spot.x()} {spot.y()}"
+
+
+def is_picking():
+    import FreeCADGui
+
+    return getattr(getattr(FreeCADGui, "Snapper", None), "callbackClick", None) is not None
 
 
 def close(name):

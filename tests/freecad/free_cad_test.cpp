@@ -119,12 +119,12 @@ TEST_F(FreeCadTest, its_drawing_is_captured_and_the_stray_turns_yellow) {
 
 TEST_F(FreeCadTest, the_origin_is_picked_in_its_terminal) {
     open("plate()");
-    started->type_when_asked("40.75, 20.25\n");
+    started->type_when_asked("50.75, 30.25\n");
     menu_select_orig();
     EXPECT_THAT(started->output().toStdString(),
                 HasSubstr("Selecciona el punto inicial de la linea de corte."));
-    EXPECT_EQ(session.CadOrigX, 40.75);
-    EXPECT_EQ(session.CadOrigY, 20.25);
+    EXPECT_EQ(session.CadOrigX, 50.75);
+    EXPECT_EQ(session.CadOrigY, 30.25);
     expect_outline(test::plate_outline_from_corner());
     EXPECT_THAT(labels("painted()"), testing::UnorderedElementsAre("Hole", "Last"));
 }
@@ -152,7 +152,7 @@ TEST_F(FreeCadTest, a_line_typed_ahead_answers_the_next_pick) {
 TEST_F(FreeCadTest, the_outline_comes_back_to_the_last_bit) {
     use_installed_template();
     open("plate()");
-    started->type_when_asked("40.75, 20.25\n");
+    started->type_when_asked("50.75, 30.25\n");
     menu_select_orig();
     machine.dialogs.boxes.clear();
     SendToCad();

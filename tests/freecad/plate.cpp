@@ -16,7 +16,7 @@ Place on_spline(double t) {
         const double u = 1 - t;
         return u * u * u * p0 + 3 * u * u * t * p1 + 3 * u * t * t * p2 + t * t * t * p3;
     };
-    return {mix(0.5, 5.5, 15.5, 20.5), mix(25.5, 30.5, 20.5, 25.5)};
+    return {mix(10.5, 15.5, 25.5, 30.5), mix(35.5, 40.5, 30.5, 35.5)};
 }
 
 /// As it is drawn: the first point twice, then 49 steps, then the last one.
@@ -32,7 +32,7 @@ Places spline_points() {
 Places arc_points() {
     Places points;
     for (int step = 0; step <= 7; ++step)
-        points.push_back(on_circle({35.5, 20.5}, 5, step * kTurn / 28));
+        points.push_back(on_circle({45.5, 30.5}, 5, step * kTurn / 28));
     return points;
 }
 
@@ -50,20 +50,20 @@ void add_behind(Places& outline, const Places& run) {
 } // namespace
 
 Places plate_outline() {
-    Places outline{{0.5, 0.5}, {40.5, 0.5}, {40.5, 20.5}};
+    Places outline{{10.5, 10.5}, {50.5, 10.5}, {50.5, 30.5}};
     add_behind(outline, arc_points());
-    add_behind(outline, {{35.5, 25.5}, {30.5, 22.5}, {20.5, 25.5}});
+    add_behind(outline, {{45.5, 35.5}, {40.5, 32.5}, {30.5, 35.5}});
     add_behind(outline, reversed(spline_points()));
-    outline.emplace_back(0.5, 0.5);
+    outline.emplace_back(10.5, 10.5);
     for (int step = 1; step <= 12; ++step)
-        outline.push_back(on_circle({-1.5, 0.75}, 2, step * kTurn / 12));
+        outline.push_back(on_circle({8.5, 10.75}, 2, step * kTurn / 12));
     return outline;
 }
 
 Places plate_outline_from_corner() {
-    Places outline{{40.5, 20.5}, {40.5, 0.5}, {0.5, 0.5}, {0.5, 25.5}};
+    Places outline{{50.5, 30.5}, {50.5, 10.5}, {10.5, 10.5}, {10.5, 35.5}};
     add_behind(outline, spline_points());
-    add_behind(outline, {{20.5, 25.5}, {30.5, 22.5}, {35.5, 25.5}});
+    add_behind(outline, {{30.5, 35.5}, {40.5, 32.5}, {45.5, 35.5}});
     add_behind(outline, reversed(arc_points()));
     return outline;
 }

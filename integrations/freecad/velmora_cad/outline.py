@@ -14,6 +14,11 @@ def add_outline(document, coordinates):
     points = [FreeCAD.Vector(x, y, 0) for x, y in zip(flat, flat)]
     wire = Draft.make_wire(points, closed=False, face=False)
     document.recompute()
+    if FreeCAD.GuiUp:
+        import FreeCADGui
+
+        # Draft selects what it makes, and a selection hides the colours.
+        FreeCADGui.Selection.clearSelection()
     return wire
 
 
