@@ -31,7 +31,7 @@ Lamp::Lamp(QWidget* parent) : QWidget(parent) {
 }
 
 void Lamp::set_colour(std::uint32_t colour) {
-    green_ = colour == kGreen;
+    colour_ = colour;
     update();
 }
 
@@ -41,15 +41,16 @@ QSize Lamp::sizeHint() const {
 }
 
 void Lamp::paintEvent(QPaintEvent*) {
+    const bool green = colour_ == kGreen;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(width() / 24.0, height() / 24.0);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(green_ ? QColor("#1f9d55") : QColor("#c53a3a"));
+    painter.setBrush(green ? QColor("#1f9d55") : QColor("#c53a3a"));
     painter.drawEllipse(QPointF(12, 12), 11, 11);
     painter.setPen(QPen(Qt::white, 2.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
-    painter.drawPath(mark_of(green_));
+    painter.drawPath(mark_of(green));
 }
 
 } // namespace velmora

@@ -12,6 +12,7 @@ class Lamp : public QWidget {
     explicit Lamp(QWidget* parent = nullptr);
     /// Fill colour: 65280 is the green one, any other the red one.
     void set_colour(std::uint32_t colour);
+    [[nodiscard]] std::uint32_t colour() const { return colour_; }
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -19,7 +20,7 @@ class Lamp : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    bool green_ = false;
+    std::uint32_t colour_ = 255;
 };
 
 } // namespace velmora

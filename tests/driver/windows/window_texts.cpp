@@ -1,6 +1,7 @@
 #include "windows/window_texts.h"
 
 #include "script/fault.h"
+#include "ui/lamp.h"
 #include "windows/controls.h"
 #include "windows/menus.h"
 
@@ -61,6 +62,14 @@ MaybeText read_list(const QObject& object) {
     return list->currentIndex().data().toString();
 }
 
+/// A lamp's value is its colour.
+MaybeText read_lamp(const QObject& object) {
+    const auto* lamp = qobject_cast<const Lamp*>(&object);
+    if (lamp == nullptr)
+        return {};
+    return QString::number(lamp->colour());
+}
+
 MaybeText read_title(const QObject& object) {
     const auto* window = qobject_cast<const QWidget*>(&object);
     if (window == nullptr || !window->isWindow())
@@ -79,6 +88,7 @@ constexpr auto kReaders = std::to_array<MaybeText (*)(const QObject&)>({
     read_tabs,
     read_progress,
     read_list,
+    read_lamp,
     read_title,
 });
 
