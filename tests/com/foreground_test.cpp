@@ -3,6 +3,8 @@
 #include "adapters/com/windows_headers.h"
 #include "support/error_number.h"
 
+#include <algorithm>
+#include <array>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -21,19 +23,23 @@ Window window_titled(const wchar_t* title, DWORD style = WS_OVERLAPPEDWINDOW | W
                                   nullptr, nullptr));
 }
 
+/// In the order of their rank.
+constexpr std::array kTitles = {L"Sondeo", L"Sondeo 2000 - [Ala.dwg]", L"Mi Sondeo 2024"};
+
 TEST(ActivateWindow, the_whole_title_goes_before_its_beginning_and_that_before_a_part) {
-    const Window part = window_titled(L"Mi Sondeo 2024");
-    Window whole = window_titled(L"Sondeo");
-    Window beginning = window_titled(L"Sondeo 2000 - [Ala.dwg]");
     const Window another = window_titled(L"Otro");
-    activate_window(L"SONDEO");
-    EXPECT_EQ(GetForegroundWindow(), whole.get());
-    whole.reset();
-    activate_window(L"sondeo");
-    EXPECT_EQ(GetForegroundWindow(), beginning.get());
-    beginning.reset();
-    activate_window(L"Sondeo");
-    EXPECT_EQ(GetForegroundWindow(), part.get());
+    std::array<std::size_t, kTitles.size()> from_back_to_front = {0, 1, 2};
+    do {
+        std::array<Window, kTitles.size()> windows;
+        for (const std::size_t rank : from_back_to_front)
+            windows.at(rank) = window_titled(kTitles.at(rank));
+        for (Window& best : windows) {
+            activate_window(L"SONDEO");
+            EXPECT_EQ(GetForegroundWindow(), best.get())
+                << testing::PrintToString(from_back_to_front);
+            best.reset();
+        }
+    } while (std::ranges::next_permutation(from_back_to_front).found);
 }
 
 TEST(ActivateWindow, a_hidden_window_is_none_and_none_is_5) {
