@@ -131,14 +131,22 @@ bool CadServer::say_own(const QStringList& words) {
     } else if (what == "run-of-lines") {
         for (int i = 0; i < words[1].toInt(); ++i)
             say(QString("line %1 0 %2 0").arg(i).arg(i + 1));
+    } else if (what == "run-of-polylines") {
+        const QString points = QString(" 0.5 0.25").repeated(words[2].toInt());
+        for (int i = 0; i < words[1].toInt(); ++i)
+            say("raw AcDbPolyline open" + points);
     } else if (what == "block") {
         most_in_block_ = words[1].toInt();
     } else if (what == "erase-after-read") {
         erase_after_read_ = words[1].toInt();
+    } else if (what == "close-after-read") {
+        close_after_read_ = true;
     } else if (what == "pick-wait") {
         pick_wait_ = words[1].toInt();
-    } else if (what == "pick-dies") {
-        pick_dies_ = true;
+    } else if (what == "pick-short") {
+        pick_short_ = true;
+    } else if (what == "dies") {
+        dying_.insert(words[1]);
     } else if (what == "answer") {
         other_answers_[words[1]] = words[2];
     } else if (what == "unknown") {
@@ -209,6 +217,10 @@ bool CadServer::answer_call(const QDBusMessage& message, const QDBusConnection& 
         bus.send(message.createReply(other_answers_.take(method)));
         return true;
     }
+    if (dying_.contains(method)) {
+        QTimer::singleShot(pick_wait_, [] { std::_Exit(1); });
+        return true;
+    }
     if (method == "GetPoint") {
         QTimer::singleShot(pick_wait_, this, [=, this] { send_pick(message, bus); });
         return true;
@@ -223,8 +235,6 @@ bool CadServer::answer_call(const QDBusMessage& message, const QDBusConnection& 
 }
 
 void CadServer::send_pick(const QDBusMessage& message, const QDBusConnection& bus) {
-    if (pick_dies_)
-        std::_Exit(1);
     try {
         bus.send(message.createReply(value_of("GetPoint", message.arguments())));
     } catch (const RuntimeError& failure) {
@@ -291,7 +301,8 @@ QVariant CadServer::document_value(const QString& method, driver::CadDrawing& dr
         entity(drawing, arguments[1].toString()).closed = arguments[2].toBool();
     } else if (method == "GetPoint") {
         const auto point = driver::ScriptedCad(state_).GetObject()->ActiveDocument()->GetPoint("");
-        return QVariant::fromValue(QList<double>(point.begin(), point.end()));
+        return QVariant::fromValue(
+            QList<double>(point.begin(), pick_short_ ? point.begin() + 1 : point.end()));
     }
     return {};
 }
@@ -313,6 +324,8 @@ QVariant CadServer::entities(driver::CadDrawing& drawing, int first, int count) 
         drawing.model_space.erase(drawing.model_space.begin() + *erase_after_read_);
         erase_after_read_.reset();
     }
+    if (close_after_read_)
+        say("no-document");
     return QVariant::fromValue(block);
 }
 

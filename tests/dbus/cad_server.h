@@ -3,10 +3,13 @@
 //
 //     raw CLASS open|closed NUMBER ...   an entity with these numbers, whatever its class needs
 //     run-of-lines N                     lines of length 1 along X
+//     run-of-polylines N POINTS          open polylines of so many points each
 //     block N                            no more than N entities an answer
 //     erase-after-read N                 the next block read, entity N goes
+//     close-after-read                   the next block read, the active document is closed
 //     pick-wait MILLISECONDS             the picks that follow are answered so much later
-//     pick-dies                          the next pick ends the process
+//     pick-short                         the picks that follow have no Y
+//     dies METHOD                        the next call of the method ends the process
 //     answer METHOD TEXT                 the next call of the method answers a text
 //     unknown METHOD                     the method is not there
 //     stray-error METHOD NAME TEXT       the next call fails with another error of the bus
@@ -59,7 +62,9 @@ class CadServer : public QDBusVirtualObject {
     int most_in_block_ = 1000000;
     std::optional<int> erase_after_read_;
     int pick_wait_ = 0;
-    bool pick_dies_ = false;
+    bool pick_short_ = false;
+    bool close_after_read_ = false;
+    QSet<QString> dying_;
     QHash<QString, QString> other_answers_;
     QHash<QString, StrayError> stray_errors_;
     QSet<QString> unknown_;

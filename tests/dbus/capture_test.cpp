@@ -3,7 +3,7 @@
 #include "cad/drawing.h"
 #include "cad/send.h"
 #include "document/handlers.h"
-#include "remote_cad.h"
+#include "remote_cad_session.h"
 #include "script/words.h"
 #include "scripted/cad_lines.h"
 #include "support/error_number.h"
@@ -155,9 +155,6 @@ TEST_F(BusCaptureTest, a_polyline_of_odd_length_raises_9) {
     EXPECT_EQ(session.UltimoPto, 2);
 }
 
-struct ShortCase {
-    const char* entity;
-};
 struct ShortTest : BusCaptureTest, testing::WithParamInterface<const char*> {};
 
 TEST_P(ShortTest, numbers_that_are_missing_raise_9) {
@@ -205,6 +202,38 @@ TEST_F(BusCaptureTest, a_cad_closed_before_the_capture_raises_462) {
     EXPECT_EQ(number_of(capture), 462);
 }
 
+// A command leaves the fault to the dispatcher's report, and the outline as it was.
+struct LostCase {
+    const char* name;
+    std::vector<const char*> lines;
+};
+struct LostTest : BusCaptureTest, testing::WithParamInterface<LostCase> {};
+
+TEST_P(LostTest, a_command_on_a_lost_cad_raises_462_and_keeps_the_outline) {
+    open_drawing({"line 0 0 10 0", "line 10 0 10 10", "line 10 10 0 0"});
+    remote->say("block 2");
+    test::set_shape({{.X = 1}, {.X = 2}});
+    for (const char* line : GetParam().lines)
+        remote->say(line);
+    EXPECT_EQ(number_of(mnu_capture), 462);
+    EXPECT_EQ(test::shape(), (test::Points{{.X = 1}, {.X = 2}}));
+    EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Ways, LostTest,
+                         testing::Values(LostCase{"closed_document", {"no-document"}},
+                                         LostCase{"closed_document_while_read",
+                                                  {"close-after-read"}},
+                                         LostCase{"ended_when_counted", {"dies EntityCount"}},
+                                         LostCase{"ended_while_read", {"dies ReadEntities"}}),
+                         [](const auto& instance) { return instance.param.name; });
+
+TEST_F(BusCaptureTest, a_cad_that_ends_before_the_stray_is_coloured_raises_462) {
+    open_drawing({"line 0 0 10 0", "line 50 50 60 60", "line 70 70 80 80"});
+    remote->say("dies SetColor");
+    EXPECT_EQ(number_of(mnu_capture), 462);
+}
+
 TEST_F(BusCaptureTest, ten_thousand_entities_arrive_in_order) {
     open_drawing({"run-of-lines 10000"});
     capture();
@@ -241,6 +270,28 @@ TEST_F(BusPickTest, another_error_is_a_wrong_point) {
     EXPECT_EQ(session.SelOrigenActivo, True);
 }
 
+TEST_F(BusPickTest, a_point_of_one_number_raises_9) {
+    open_drawing({"line 0 0 10 0"});
+    remote->say("pick-short");
+    remote->say("pick 3 4");
+    EXPECT_EQ(number_of([] { std::ignore = SelOrigen(); }), 9);
+}
+
+TEST_F(BusPickTest, an_answer_that_is_no_point_is_a_wrong_point) {
+    open_drawing({"line 0 0 10 0"});
+    remote->say("answer GetPoint aqui");
+    EXPECT_EQ(SelOrigen(), False);
+    EXPECT_THAT(shown_texts(), ElementsAre("Punto incorrecto!"));
+}
+
+TEST_F(BusPickTest, after_a_wrong_point_nothing_is_captured) {
+    open_drawing({"line 0 0 10 0", "line 10 0 10 10", "line 10 10 0 0"});
+    test::set_shape({{.X = 1}, {.X = 2}});
+    remote->say("pick-error 80004004");
+    menu_select_orig();
+    EXPECT_EQ(test::shape(), (test::Points{{.X = 1}, {.X = 2}}));
+}
+
 TEST_F(BusPickTest, waits_longer_than_for_any_other_answer) {
     open_drawing({"line 0 0 10 0"});
     remote->say("pick-wait 1200");
@@ -268,14 +319,14 @@ TEST_F(BusPickTest, the_windows_repaint_meanwhile) {
 TEST_F(BusPickTest, a_cad_that_goes_meanwhile_is_a_wrong_point) {
     open_drawing({"line 0 0 10 0"});
     remote->say("pick-wait 100");
-    remote->say("pick-dies");
+    remote->say("dies GetPoint");
     EXPECT_EQ(SelOrigen(), False);
     EXPECT_THAT(shown_texts(), ElementsAre("Punto incorrecto!"));
 }
 
 TEST_F(BusPickTest, a_cad_that_goes_meanwhile_has_number_462) {
     open_drawing({"line 0 0 10 0"});
-    remote->say("pick-dies");
+    remote->say("dies GetPoint");
     EXPECT_EQ(number_of([] { std::ignore = acad().AcadDoc->GetPoint("donde"); }), 462);
 }
 
@@ -320,6 +371,17 @@ TEST_F(BusSendTest, a_cad_that_falls_silent_is_told) {
     SendToCad();
     ASSERT_EQ(machine.dialogs.boxes.size(), 1U);
     EXPECT_EQ(machine.dialogs.boxes[0].text, "nº: 462  - Desc: " + error_description(462, 'E'));
+}
+
+TEST_F(BusSendTest, a_cad_that_ends_meanwhile_is_told_and_the_outline_stays) {
+    machine.write("acad.dwt", "plantilla");
+    start_cad();
+    remote->say("dies AddPolyline");
+    const test::Points before = test::shape();
+    SendToCad();
+    ASSERT_EQ(machine.dialogs.boxes.size(), 1U);
+    EXPECT_EQ(machine.dialogs.boxes[0].text, "nº: 462  - Desc: " + error_description(462, 'E'));
+    EXPECT_EQ(test::shape(), before);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "remote_cad.h"
+#include "remote_cad_session.h"
 #include "support/error_number.h"
 
 #include <QDBusConnection>
@@ -55,6 +55,13 @@ TEST_F(BusConnectionTest, a_name_that_something_else_owns_is_no_cad) {
     EXPECT_THAT(shown_texts(), ElementsAre(kNotOpen));
     EXPECT_NE(number_of([&] { cad->AppActivate(); }), 0);
     QDBusConnection::disconnectFromBus("somebody");
+}
+
+TEST_F(BusConnectionTest, another_program_that_owns_the_name_is_no_cad) {
+    start_cad({"unknown Name"});
+    ReconectaAcad();
+    EXPECT_THAT(shown_texts(), ElementsAre(kNotOpen));
+    EXPECT_EQ(session.AcadOpen, False);
 }
 
 TEST_F(BusConnectionTest, a_name_that_is_no_text_is_no_cad) {
