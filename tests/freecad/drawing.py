@@ -46,6 +46,46 @@ def plate():
     return document.Name
 
 
+def sketch(*geometry, at=V(0, 0)):
+    made = FreeCAD.ActiveDocument.addObject("Sketcher::SketchObject", "Sketch")
+    for one in geometry:
+        made.addGeometry(one, False)
+    made.Placement.Base = at
+    return made
+
+
+def feature(shape):
+    made = FreeCAD.ActiveDocument.addObject("Part::Feature", "Feature")
+    made.Shape = shape
+    return made
+
+
+def in_part(obj, at=V(0, 0), visible=True):
+    part = FreeCAD.ActiveDocument.addObject("App::Part", "Part")
+    part.Placement.Base, part.Visibility = at, visible
+    part.addObject(obj)
+    return part
+
+
+def in_group(obj):
+    return FreeCAD.ActiveDocument.addObject("App::DocumentObjectGroup", "Group").addObject(obj)
+
+
+def link_to(obj, at):
+    link = FreeCAD.ActiveDocument.addObject("App::Link", "Link")
+    link.LinkedObject, link.Placement.Base = obj, at
+    return link
+
+
+def turned(x, y, axis, degrees):
+    return FreeCAD.Placement(V(x, y), FreeCAD.Rotation(axis, degrees))
+
+
+def drawn(*objects):
+    FreeCAD.ActiveDocument.recompute()
+    return FreeCAD.ActiveDocument.Name
+
+
 def imported(path):
     """A drawing read from a DXF file."""
     import importDXF

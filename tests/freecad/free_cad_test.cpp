@@ -1,18 +1,12 @@
-#include "free_cad.h"
+#include "free_cad_session.h"
 #include "plate.h"
 
-#include "adapters/dbus/dbus_cad.h"
 #include "cad/capture.h"
-#include "cad/connection.h"
 #include "cad/send.h"
 #include "document/handlers.h"
-#include "document/session.h"
 #include "support/error_number.h"
 #include "support/outline.h"
 #include "support/places.h"
-#include "support/recording_platform.h"
-
-#include <QJsonArray>
 
 #include <chrono>
 #include <filesystem>
@@ -30,36 +24,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-struct FreeCadTest : testing::Test {
-    static void SetUpTestSuite() { started = std::make_unique<test::FreeCad>(); }
-    static void TearDownTestSuite() { started.reset(); }
-
-    FreeCadTest() {
-        set_platform({machine.dialogs, machine.windows, machine.shell, machine.settings,
-                      *machine.database, machine.clock, machine.machine, machine.pic, *cad});
-        session.program_folder = machine.folder.string();
-        session.winoptions.TxtPutArc = "7";
-        session.winoptions.TxtPutCircle = "12";
-        session.RedimCapture = False;
-        session.Precision = 15;
-    }
-    ~FreeCadTest() override {
-        acad() = {};
-        if (started->is_running())
-            look("close_all()");
-    }
-
-    static QJsonValue look(const QString& expression) { return started->evaluate(expression); }
-    static std::vector<std::string> labels(const QString& expression) {
-        std::vector<std::string> all;
-        for (const auto& label : look(expression).toArray())
-            all.push_back(label.toString().toStdString());
-        return all;
-    }
-    static void open(const QString& drawing) {
-        look(drawing);
-        mnu_Reconect();
-    }
+struct FreeCadTest : test::FreeCadSession {
     static void capture() {
         Flag from_drawing = True;
         CapturaAcad(from_drawing);
@@ -69,16 +34,6 @@ struct FreeCadTest : testing::Test {
         std::filesystem::copy_file(test::source_dir() / "data/acad.dwt",
                                    machine.folder / "acad.dwt");
     }
-    [[nodiscard]] std::vector<std::string> shown_texts() const {
-        std::vector<std::string> texts;
-        for (const auto& box : machine.dialogs.boxes)
-            texts.push_back(box.text);
-        return texts;
-    }
-
-    test::RecordingPlatform machine;
-    std::unique_ptr<Autocad> cad = make_dbus_cad();
-    static inline std::unique_ptr<test::FreeCad> started;
 };
 
 void expect_outline(const Places& expected) {

@@ -15,7 +15,7 @@ class Entity(NamedTuple):
 
 def entities_of(obj):
     """The entities of one object, none for what only holds others or can't be seen."""
-    if not obj.Visibility or _is_holder(obj):
+    if not _is_seen(obj) or _is_holder(obj):
         return []
     shape = _placed_shape(obj)
     if shape is None:
@@ -36,6 +36,12 @@ def _parts(obj, shape):
     if obj.isDerivedFrom("Sketcher::SketchObject"):
         return [_edge(names.handle([edge]), edge) for edge in shape.Edges]
     return [entity for piece in _pieces(shape) for entity in _piece(piece, names)]
+
+
+def _is_seen(obj):
+    while obj is not None and obj.Visibility:
+        obj = obj.getParentGeoFeatureGroup()
+    return obj is None
 
 
 def _is_holder(obj):

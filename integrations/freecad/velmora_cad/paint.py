@@ -21,7 +21,7 @@ def paint(obj, edges, index):
         raise Fault(INVALID_CALL, f"no colour has the index {index}")
     if obj.ViewObject is None:
         _note(obj, edges, index)
-    elif edges:
+    elif edges and hasattr(obj.ViewObject, "LineColorArray"):
         _paint_edges(obj.ViewObject, len(obj.Shape.Edges), edges, PALETTE[index])
     else:
         _paint_whole(obj.ViewObject, PALETTE[index])
