@@ -117,6 +117,29 @@ TEST_F(SheetTest, a_sheet_that_was_left_open_does_not_come_with_the_next) {
     EXPECT_EQ(machine.dialogs.boxes.size(), 1U);
 }
 
+TEST_F(SheetTest, what_comes_behind_the_end_of_a_sheet_stands_on_the_next) {
+    Printer& printer = *platform().printer;
+    printer.set_Orientation(Orientation::landscape);
+    printer.Line(5000, 0, 5000, 11900);
+    printer.EndDoc();
+    const PrintedSheet first = sheet();
+    printer.Circle(3000, 4000, 30, 255);
+    printer.EndDoc();
+    const PrintedSheet second = sheet();
+    EXPECT_THAT(first.black_across(1000), StrokesAt(Strokes{5000}));
+    EXPECT_THAT(first.red_places(), IsEmpty());
+    EXPECT_THAT(second.black_across(1000), IsEmpty());
+    EXPECT_EQ(second.size(), QSizeF(16840, 11900));
+    expect_circles_at(second, {{3000, 4000}});
+}
+
+TEST_F(SheetTest, an_empty_sheet_is_not_printed) {
+    platform().printer->set_Orientation(Orientation::portrait);
+    platform().printer->EndDoc();
+    platform().printer->EndDoc();
+    EXPECT_FALSE(printed());
+}
+
 TEST_F(SheetTest, a_printer_that_takes_nothing_is_told_of_by_its_number) {
     place_ = folder_.filePath("none");
     print(kTall, True);

@@ -30,6 +30,8 @@ struct Rim {
 struct Sheet {
     std::vector<QLineF> lines;
     std::vector<Rim> circles;
+
+    [[nodiscard]] bool empty() const { return lines.empty() && circles.empty(); }
 };
 
 void paint(QPainter& painter, const Sheet& sheet, const QRectF& paper) {
@@ -49,17 +51,9 @@ class QtPrinter : public Printer {
     explicit QtPrinter(OpenPrinter open) : open_(std::move(open)) {}
 
     void set_Orientation(Orientation orientation) override {
-        const bool upright = orientation == Orientation::portrait;
+        upright_ = orientation == Orientation::portrait;
         sheet_ = {};
-        size_ = upright ? kA4 : kA4.transposed();
-        device_ = open_();
-        if (device_ == nullptr)
-            return;
-        device_->setResolution(kTwipsPerInch);
-        device_->setFullPage(true); // places count from the corner of the paper
-        device_->setPageOrientation(upright ? QPageLayout::Portrait : QPageLayout::Landscape);
-        device_->setDocName(QCoreApplication::applicationName());
-        size_ = QSizeF(device_->width(), device_->height());
+        take_paper();
     }
     [[nodiscard]] double Width() const override { return size_.width(); }
     [[nodiscard]] double Height() const override { return size_.height(); }
@@ -82,6 +76,10 @@ class QtPrinter : public Printer {
 
     void EndDoc() override {
         const Sheet sheet = std::exchange(sheet_, {});
+        if (sheet.empty())
+            return;
+        if (device_ == nullptr)
+            take_paper();
         const auto device = std::exchange(device_, nullptr);
         QPainter painter;
         if (device == nullptr || !painter.begin(device.get()))
@@ -92,6 +90,17 @@ class QtPrinter : public Printer {
     }
 
   private:
+    void take_paper() {
+        size_ = upright_ ? kA4 : kA4.transposed();
+        device_ = open_();
+        if (device_ == nullptr)
+            return;
+        device_->setResolution(kTwipsPerInch);
+        device_->setFullPage(true); // places count from the corner of the paper
+        device_->setPageOrientation(upright_ ? QPageLayout::Portrait : QPageLayout::Landscape);
+        device_->setDocName(QCoreApplication::applicationName());
+        size_ = QSizeF(device_->width(), device_->height());
+    }
     [[nodiscard]] QRectF paper() const { return {QPointF(), size_}; }
     void move_to(float x, float y) {
         x_ = x;
@@ -101,6 +110,7 @@ class QtPrinter : public Printer {
     OpenPrinter open_;
     std::unique_ptr<QPrinter> device_; ///< of the sheet at hand
     Sheet sheet_;
+    bool upright_ = true;
     QSizeF size_ = kA4;
     float x_ = 0;
     float y_ = 0;
