@@ -8,7 +8,7 @@
 namespace velmora {
 
 namespace {
-constexpr int kRow = 4500; // twips below the main window's top
+constexpr int kRow = 4800; // twips below the main window's top, clear of the open wininfo
 } // namespace
 
 OptionsPanel::OptionsPanel(WindowsHost& windows) : SidePanel(windows, kRow) {
