@@ -1,7 +1,9 @@
 # Sourced by what runs the program on a virtual display: an X server, a window manager and a home
 # folder of their own, with real key and pointer events. All of it goes at the end.
 #
-# start_display WIDTHxHEIGHT, start_program PROGRAM FOLDER [PICTURE], await TITLE, picture FILE
+# start_display WIDTHxHEIGHT, start_program PROGRAM FOLDER [PICTURE], await TITLE, picture FILE,
+# small_picture FILE PLACE, changes COMMAND..., answer KEY, click_at X Y [BUTTON], fill TEXT,
+# open_shape FILE [TITLE], save_shape_as FILE [DESCRIPTION]
 
 display_folder=$(mktemp -d "${TMPDIR:-/tmp}/velmora-display-XXXXXX")
 display_processes=()
@@ -17,23 +19,113 @@ trap stop_display EXIT
 
 # Waits until a command succeeds; gives up after 30 seconds.
 until_done() {
-    for _ in $(seq 300); do
-        "$@" && return 0
+    local end=$((SECONDS + 30))
+    until "$@"; do
+        ((SECONDS < end)) || return 1
+        sleep 0.1
+    done
+}
+
+fail() {
+    import -window root "${pictures:-$display_folder}/failed.png" || true
+    echo "$(basename "$0"): $*" >&2
+    exit 1
+}
+
+screen_sum() { import -window root -depth 8 rgb:- | md5sum; }
+screen_differs() { [[ $(screen_sum) != "$1" ]]; }
+screen_rests() {
+    local before
+    before=$(screen_sum)
+    sleep 0.1
+    [[ $(screen_sum) == "$before" ]]
+}
+
+active_title() { xdotool getactivewindow getwindowname 2>/dev/null; }
+is_active() { [[ $(active_title) == $1 ]]; }
+# Waits until a window is in front and drawn.
+await() {
+    until_done is_active "$1" || fail "no window '$1', but '$(active_title)'"
+    until_done screen_rests || fail "the screen never rests"
+}
+
+# Runs what shall change the screen, and waits until it has.
+changes() {
+    local before
+    before=$(screen_sum)
+    "$@"
+    until_done screen_differs "$before" || fail "nothing changes by: $*"
+}
+
+picture() {
+    until_done screen_rests || fail "the screen never rests"
+    import -window root "$1"
+}
+
+# A part of the screen in few colours, so that the file is small.
+small_picture() {
+    picture "$display_folder/screen.png"
+    convert "$display_folder/screen.png" -crop "$2" +repage +dither -colors 48 -strip "PNG8:$1"
+}
+
+# The place of the active window with its frame, as convert takes it.
+frame_place() {
+    local window
+    window=$(xdotool getactivewindow)
+    { xwininfo -id "$window"; xprop -id "$window" _NET_FRAME_EXTENTS; } | awk -F '[:=,]' '
+        /Absolute upper-left X/ {x = $2} /Absolute upper-left Y/ {y = $2}
+        /Width:/ {w = $2} /Height:/ {h = $2}
+        /_NET_FRAME_EXTENTS/ {left = $2; right = $3; top = $4; bottom = $5}
+        END {print w + left + right "x" h + top + bottom "+" x - left "+" y - top}'
+}
+
+hidden() { ! xwininfo -id "$1" 2>/dev/null | grep -q IsViewable; }
+# Closes the message box in front by a key, again where it came before the box could take it.
+answer() {
+    local box
+    box=$(xdotool getactivewindow)
+    until_done answered "$box" "$1" || fail "$1 does not close '$(active_title)'"
+}
+answered() {
+    xdotool key "$2"
+    for _ in $(seq 10); do
+        hidden "$1" && return 0
         sleep 0.1
     done
     return 1
 }
 
-fail() {
-    picture "${pictures:-$display_folder}/failed.png" || true
-    echo "$(basename "$0"): $*" >&2
-    exit 1
+# Clicks at a place of the active window, counted from its upper left corner inside the frame.
+click_at() { xdotool mousemove --window "$(xdotool getactivewindow)" "$1" "$2" click "${3:-1}"; }
+
+# Puts a text into the box that has the focus, over the one that stands there.
+fill() {
+    xdotool key ctrl+a
+    xdotool type -- "$1"
 }
 
-picture() { import -window root "$1"; }
-active_title() { xdotool getactivewindow getwindowname 2>/dev/null; }
-is_active() { [[ $(active_title) == $1 ]]; }
-await() { until_done is_active "$1" || fail "no window '$1', but '$(active_title)'"; }
+# Opens a file, up to the main window or to the one with another title.
+open_shape() {
+    xdotool key ctrl+a
+    await "Seleccione Fichero a Abrir"
+    xdotool type -- "$1"
+    xdotool key Return
+    await "${2:-Velmora 1.0 (*}"
+}
+
+# Save as: path, description, and the box that tells of the file. Without a description the one
+# that is offered stays.
+save_shape_as() {
+    xdotool key F12
+    await "Fichero a generar"
+    fill "$1"
+    xdotool key Return
+    await "Velmora 1.0"
+    [ -z "${2:-}" ] || fill "$2"
+    xdotool key Return
+    until_done test -s "$1" || fail "no file was written"
+    await "Velmora 1.0"
+}
 
 start_display() {
     mkdir -p "$display_folder"/{home,run}
@@ -66,8 +158,9 @@ start_program() {
     [ -z "${3:-}" ] || { sleep 0.5; picture "$3"; }
     eval "$(xdotool getwindowgeometry --shell "$splash")"
     xdotool mousemove $((X + WIDTH / 2)) $((Y + HEIGHT / 2)) click 1
+    until_done hidden "$splash" || fail "the start window stays"
     # No CAD is running, says a box in front of the main window.
     await "Velmora"
-    xdotool key Return
+    answer Return
     await "Velmora 1.0 (*"
 }

@@ -30,36 +30,18 @@ setxkbmap es # so that ñ is a key of its own
 start_program "$program" "$work" "$pictures/1-start.png"
 picture "$pictures/2-main.png"
 
-# Open: the path is typed into the dialog.
-xdotool key ctrl+a
-await "Seleccione Fichero a Abrir"
-xdotool type "$work/flecha.dat"
-picture "$pictures/3-open.png"
-xdotool key Return
-await "Velmora 1.0 (1011)*"
+open_shape "$work/flecha.dat"
 until_done grep -rqs flecha.dat "$XDG_CONFIG_HOME" || fail "no recent file after the load"
-picture "$pictures/4-loaded.png"
+picture "$pictures/3-loaded.png"
 
 # Positive, then mirrored and positive again.
 transform F6
 transform F9
 transform F6
 
-# Save as: path, description, and the box that tells of the file.
-xdotool key F12
-await "Fichero a generar"
-xdotool key ctrl+a
-xdotool type "$work/nueva.dat"
-xdotool key Return
-await "Velmora 1.0"
-xdotool key ctrl+a
-xdotool type "Año nuevo"
-picture "$pictures/5-description.png"
-xdotool key Return
-until_done test -s "$work/nueva.dat" || fail "no file was written"
-await "Velmora 1.0"
-picture "$pictures/6-written.png"
-xdotool key Return
+save_shape_as "$work/nueva.dat" "Año nuevo"
+picture "$pictures/4-written.png"
+answer Return
 await "Velmora 1.0 (1011)*"
 
 record() { printf '%-21s%-21s\r\n' "$1" "$2"; }
