@@ -16,6 +16,7 @@ namespace {
 
 constexpr QSize kSizeAtStart(1180, 780);
 constexpr int kListShare = 280; // of the width at start
+constexpr int kBeside = 500;    // what the floating windows take at the right, with their gaps
 constexpr int kTimerInterval = 10;
 
 /// A control that has nothing to show.
@@ -110,9 +111,11 @@ void MainWindow::QueryUnload() {
 void MainWindow::place() {
     const QRect screen = window_.screen()->availableGeometry();
     window_.resize(kSizeAtStart.boundedTo(screen.size()));
-    QRect frame = window_.frameGeometry();
-    frame.moveCenter(screen.center());
-    window_.move(frame.topLeft());
+    QRect taken = window_.frameGeometry();
+    if (taken.width() + kBeside <= screen.width())
+        taken.setWidth(taken.width() + kBeside);
+    taken.moveCenter(screen.center());
+    window_.move(taken.topLeft());
 }
 
 void MainWindow::status_changed() {

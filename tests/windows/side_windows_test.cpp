@@ -182,6 +182,25 @@ TEST_F(SideWindowsTest, TheWindowsFollowTheMainWindowsRightSide) {
     }
 }
 
+TEST_F(SideWindowsTest, TheyStandBesideTheMainWindowWhereTheScreenHasRoom) {
+    constexpr int kEnough = 1700;
+    const QRect screen = window("Velmora")->screen()->availableGeometry();
+    for (const char* name : {"wininfo", "winoptions"}) {
+        const QRect frame = window(name)->frameGeometry();
+        EXPECT_EQ(frame.left() > window("Velmora")->frameGeometry().right(),
+                  screen.width() >= kEnough)
+            << name;
+        EXPECT_LE(frame.right(), screen.right()) << name;
+    }
+}
+
+TEST_F(SideWindowsTest, TheOptionsLeaveRoomForTheOpenInformationAndItsTitle) {
+    constexpr int kTitle = 25;
+    windows().activate("wininfo");
+    EXPECT_GE(window("winoptions")->frameGeometry().top() - window("wininfo")->geometry().bottom(),
+              kTitle);
+}
+
 TEST_F(SideWindowsTest, AClosedSideWindowComesBackByItsMenuEntry) {
     told.clear();
     window("wininfo")->close();
