@@ -21,6 +21,30 @@ wide_shot() { small_picture "$album/$1.png" "$main_place"; }
 key() { xdotool key "$@"; }
 main_window="Velmora 1.0 (*"
 
+# The fonts of the package that the build installs, upright, so that every machine shows the same
+# list: DejaVu Sans is its first, Bold the first of its styles.
+few_fonts() {
+    export FONTCONFIG_FILE=$display_folder/fonts.conf
+    cat >"$FONTCONFIG_FILE" <<'XML'
+<?xml version="1.0"?>
+<!DOCTYPE fontconfig SYSTEM "fonts.dtd">
+<fontconfig>
+  <dir>/usr/share/fonts/truetype/dejavu</dir>
+  <cachedir prefix="xdg">fontconfig</cachedir>
+  <include ignore_missing="yes">/etc/fonts/conf.d</include>
+  <selectfont>
+    <rejectfont>
+      <glob>*Oblique.ttf</glob>
+      <glob>*Italic.ttf</glob>
+      <glob>*Condensed*</glob>
+      <glob>*ExtraLight*</glob>
+      <glob>*TeXGyre*</glob>
+    </rejectfont>
+  </selectfont>
+</fontconfig>
+XML
+}
+
 # Opens a menu by its place in the bar and takes an entry by its place in it: not every menu has a
 # letter of its own, so the arrows go on from the first.
 choose() {
@@ -64,9 +88,8 @@ keep_all_points() {
 choose_font() {
     key alt+f
     await "Seleccionar un tipo de letra"
-    xdotool type "DejaVu Sans"
-    key Tab
-    xdotool type "Bold"
+    key Home Tab
+    changes key Home
     eval "$(xdotool getactivewindow getwindowgeometry --shell | grep WIDTH)"
     click_at $((WIDTH - 40)) 36
     fill "$1"
@@ -218,6 +241,7 @@ open_again() {
     wide_shot 15-opened-again
 }
 
+few_fonts
 start_display 1280x900
 start_program "$program" "$files"
 main_place=$(frame_place)
@@ -233,4 +257,7 @@ await_workbench
 load_sides
 set_distances
 adjust_and_save
+album=$display_folder
+open_again letra_b2.DAT
+album=$pictures
 open_again letra_a2.DAT
