@@ -146,10 +146,23 @@ start_display() {
     until_done xdotool get_desktop >/dev/null 2>&1 || fail "no window manager"
 }
 
+# Lays the program out as an installed one, so that what it writes beside itself goes into the home
+# folder, and the build's files stay as they are.
+install_program() {
+    local from
+    from=$(dirname "$1")
+    mkdir -p "$display_folder"/usr/{bin,share/velmora}
+    cp "$1" "$display_folder/usr/bin/velmora"
+    find "$from" -maxdepth 1 -type f ! -perm /111 \
+        -exec cp -t "$display_folder/usr/share/velmora" {} +
+    [ ! -d "$from/help" ] || cp -r "$from/help" "$display_folder/usr/share/velmora"
+}
+
 # Starts the program in a folder and clicks its start window away, after a picture of it where one
 # is wanted; `running` is the program's process.
 start_program() {
-    (cd "$2" && exec "$1") 2>"$display_folder/program.log" &
+    install_program "$1"
+    (cd "$2" && exec "$display_folder/usr/bin/velmora") 2>"$display_folder/program.log" &
     running=$!
     display_processes+=("$running")
     local splash

@@ -5,7 +5,7 @@
 #
 # walk_through.sh PROGRAM FILES PICTURES
 set -euo pipefail
-program=$(realpath "$1")
+program=$1
 files=$2
 pictures=$3
 
