@@ -6,6 +6,7 @@
 #include "ui/windows_host.h"
 
 #include <QEvent>
+#include <utility>
 
 namespace velmora {
 
@@ -30,12 +31,18 @@ class SidePanel : public FormWindow<Ui, QWidget> {
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched != &this->widget() && event->type() == QEvent::Resize)
+        if (watched == &this->widget() ? is_first_look(*event) : event->type() == QEvent::Resize)
             keep_to_main();
         return Window::eventFilter(watched, event);
     }
 
   private:
+    /// What was rolled up before the desktop put its frame around it stands off by the frame, which
+    /// is there when the window is painted.
+    bool is_first_look(const QEvent& event) {
+        return event.type() == QEvent::Paint && !std::exchange(looked_at_, true);
+    }
+
     void keep_to_main() {
         const QWidget* main = this->host().window("Velmora");
         if (main != nullptr && !main->isMinimized())
@@ -44,6 +51,7 @@ class SidePanel : public FormWindow<Ui, QWidget> {
 
     RollUp roll_up_;
     int row_;
+    bool looked_at_ = false;
 };
 
 } // namespace velmora
