@@ -1,11 +1,11 @@
 #include "ui/preview_pic.h"
 
+#include "adapters/qt/line_clip.h"
 #include "canvas/colours.h"
 
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace velmora {
 
@@ -15,29 +15,6 @@ constexpr double kTwipsToThePixel = 15;
 constexpr double kLineWidth = 1;
 /// Beyond the sheet's edges, so that the end of a clipped line doesn't show.
 constexpr double kClipMargin = 8;
-
-/// The part of a segment that lies in the box; nothing where none does. The painter's own
-/// arithmetic gives up far outside.
-std::optional<QLineF> clipped(const QLineF& line, const QRectF& box) {
-    double from = 0;
-    double to = 1;
-    const auto cut = [&](double step, double room) {
-        if (step == 0)
-            return room >= 0;
-        const double share = room / step;
-        if (step < 0)
-            from = std::max(from, share);
-        else
-            to = std::min(to, share);
-        return from <= to;
-    };
-    const bool meets =
-        cut(-line.dx(), line.x1() - box.left()) && cut(line.dx(), box.right() - line.x1()) &&
-        cut(-line.dy(), line.y1() - box.top()) && cut(line.dy(), box.bottom() - line.y1());
-    if (!meets)
-        return {};
-    return QLineF(line.pointAt(from), line.pointAt(to));
-}
 
 } // namespace
 
@@ -132,7 +109,7 @@ void PreviewPic::bring_up_to_date() {
             if (visible.contains(place))
                 painter.drawEllipse(place, radius, radius);
         } else if (const auto line =
-                       clipped(QLineF(place, transform.map(QPointF(mark.x2, mark.y2))), visible)) {
+                       part_inside({place, transform.map(QPointF(mark.x2, mark.y2))}, visible)) {
             painter.drawLine(*line);
         }
     }

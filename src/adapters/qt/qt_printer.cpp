@@ -1,6 +1,6 @@
 #include "adapters/qt/qt_printer.h"
 
-#include "adapters/qt/sheet_clip.h"
+#include "adapters/qt/line_clip.h"
 #include "canvas/colours.h"
 #include "runtime/error.h"
 

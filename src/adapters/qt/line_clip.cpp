@@ -1,4 +1,4 @@
-#include "adapters/qt/sheet_clip.h"
+#include "adapters/qt/line_clip.h"
 
 #include <algorithm>
 

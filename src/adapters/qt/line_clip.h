@@ -1,5 +1,5 @@
-// Cuts a segment at the edges of a sheet, so that no place far beyond the paper reaches a printer
-// whose numbers are short.
+// Cuts a segment at the edges of a sheet or a picture, so that no place far beyond it reaches a
+// printer whose numbers are short or a painter whose arithmetic gives up there.
 #pragma once
 
 #include <QLineF>
