@@ -8,8 +8,6 @@
 #include "document/refresh.h"
 #include "document/session.h"
 #include "platform/platform.h"
-#include "services/message_codes.h"
-#include "services/messages.h"
 
 namespace velmora {
 
@@ -36,13 +34,6 @@ void mnu_zoom_down() {
 
 void mnu_print() {
     PrintPic();
-}
-
-void K_PRINT() {
-    if (hay_forma())
-        PrintPic();
-    else
-        MuestraMensaje(mensaje::no_shape);
 }
 
 void mnu_loadimg() {

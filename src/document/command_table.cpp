@@ -131,7 +131,7 @@ constexpr auto kTools = std::to_array<ToolKey>({
     {"TBar2", "K_NEWDAT", "Archivo Nuevo", mnu_newfile},
     {"TBar2", "K_OPEN", "Abrir Archivo", mnu_openfile},
     {"TBar2", "K_SAVE", "Guardar Archivo", mnu_savefile},
-    {"TBar2", "K_PRINT", "Imprimir Forma", K_PRINT},
+    {"TBar2", "K_PRINT", "Imprimir Forma", mnu_print},
     {"TBar2", "K_EDIT", "Editar Fichero en modo texto", mnu_edit},
     {"TBar2", "K_LOADIMG", "Cargar Imagen de Fondo", mnu_loadimg},
     {"TBar3", "K_CONNECT", "Reconecta con Autocad", mnu_Reconect},

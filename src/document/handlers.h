@@ -66,7 +66,6 @@ void Move_Shape();
 void Rotate();
 // Toolbar keys that differ from their menu entry
 void K_EXIT();
-void K_PRINT();
 void K_INVERT();
 void K_SCALE();
 

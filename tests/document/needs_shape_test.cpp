@@ -16,7 +16,6 @@ constexpr Command kNeedAShape[] = {
     {"mnu_savefile", mnu_savefile},
     {"mnu_savefileas", mnu_savefileas},
     {"mnu_print", mnu_print},
-    {"K_PRINT", K_PRINT},
     {"Delete_All_Pto_Sinc", Delete_All_Pto_Sinc},
     {"Insert_All_Pto_Sinc", Insert_All_Pto_Sinc},
     {"Mult_Points_Shape", Mult_Points_Shape},
