@@ -1,9 +1,13 @@
 # One set of flags for every target of ours: warnings are errors, sanitizers by option,
 # ccache where the machine has it.
 
+# Paths in the cache are told from the checkout, so that what one compiled serves every other.
 find_program(VELMORA_CCACHE ccache)
 if(VELMORA_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${VELMORA_CCACHE}")
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+    "CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}" CCACHE_NOHASHDIR=1
+    CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+    "${VELMORA_CCACHE}")
 endif()
 
 add_library(velmora_flags INTERFACE)
