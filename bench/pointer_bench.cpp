@@ -3,7 +3,7 @@
 #include "adapters/qt/image_surface.h"
 #include "adapters/qt/qt_platform.h"
 #include "canvas/view.h"
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "document/refresh.h"
 #include "document/session.h"
 #include "services/messages.h"

@@ -1,11 +1,11 @@
 #include "canvas/keys.h"
 
 #include "document/feedback.h"
-#include "document/handlers.h"
 #include "document/refresh.h"
 #include "document/session.h"
 #include "document/shown_counts.h"
 #include "runtime/numbers.h"
+#include "shapeops/point_editing.h"
 
 namespace velmora {
 

@@ -8,8 +8,7 @@
 #include "document/session.h"
 #include "platform/platform.h"
 #include "runtime/error.h"
-#include "services/message_codes.h"
-#include "services/messages.h"
+#include "services/shape_at_hand.h"
 
 namespace velmora {
 
@@ -99,10 +98,8 @@ void print_shape() {
 } // namespace
 
 void PrintPic() {
-    if (!hay_forma()) {
-        MuestraMensaje(mensaje::no_shape);
+    if (!shape_at_hand())
         return;
-    }
     const Extents extents = extents_of_shape();
     session.NoRedraw = False;
     printer().set_Orientation(extents.max_x <= extents.max_y ? Orientation::portrait

@@ -1,6 +1,5 @@
 #include "cutprep/compensa.h"
 
-#include "document/handlers.h"
 #include "document/refresh.h"
 #include "document/session.h"
 #include "platform/platform.h"
@@ -74,15 +73,6 @@ void Compensa_cmd_ok_Click() {
 
 void Compensa_cmd_cancel_Click() {
     platform().windows.unload(kWindow);
-}
-
-void mnu_paralela() {
-    if (!hay_forma()) {
-        MuestraMensaje(mensaje::no_shape);
-        return;
-    }
-    platform().windows.show_modal(kWindow);
-    Dibuja();
 }
 
 } // namespace velmora

@@ -4,7 +4,6 @@
 #include "cutprep/side.h"
 #include "cutprep/side_readers.h"
 #include "document/feedback.h"
-#include "document/handlers.h"
 #include "document/session.h"
 #include "formats/box_text.h"
 #include "formats/load.h"
@@ -82,10 +81,6 @@ void select_side(const Side& side, const Side& other, void (*draw)()) {
 }
 
 } // namespace
-
-void mnu_corrpoltrap() {
-    platform().windows.show_modal(kWindow);
-}
 
 void ajuste_Load() {
     session.ajuste = {};

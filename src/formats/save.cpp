@@ -15,6 +15,7 @@
 #include "runtime/text.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
+#include "services/shape_at_hand.h"
 
 namespace velmora {
 
@@ -71,10 +72,8 @@ void ask_for_description() {
 }
 
 void run_save_dialog() {
-    if (!hay_forma()) {
-        MuestraMensaje(mensaje::no_shape);
+    if (!shape_at_hand())
         return;
-    }
     if (!choose_path())
         return;
     session.Velmora.TxtDat_File = session.FileName;

@@ -1,7 +1,6 @@
 #include "services/help.h"
 
 #include "document/feedback.h"
-#include "document/handlers.h"
 #include "document/number_text.h"
 #include "platform/platform.h"
 #include "platform/shell.h"
@@ -22,6 +21,19 @@ std::string version_in_brackets() {
     return '(' + CStr(std::int32_t{session.SubVer}) + ')';
 }
 
+} // namespace
+
+Flag EnviaMail(std::string_view direccion, std::string_view asunto, std::string_view cuerpo,
+               std::string_view cc, std::string_view bcc) {
+    std::string target = "mailto:";
+    target.append(direccion);
+    target.append("?subject=").append(asunto);
+    target.append("&body=").append(cuerpo);
+    target.append("&CC=").append(cc);
+    target.append("&BCC=").append(bcc);
+    return flag(platform().shell.open(target) >= kStarted);
+}
+
 void open_web_page() {
     const std::string page = deployment().web_page;
     if (page.empty()) {
@@ -38,31 +50,6 @@ void write_to_support() {
         return;
     }
     EnviaMail(address, "Velmora Ver: " + session.Ver + "-" + version_in_brackets(), "", "", "");
-}
-
-} // namespace
-
-Flag EnviaMail(std::string_view direccion, std::string_view asunto, std::string_view cuerpo,
-               std::string_view cc, std::string_view bcc) {
-    std::string target = "mailto:";
-    target.append(direccion);
-    target.append("?subject=").append(asunto);
-    target.append("&body=").append(cuerpo);
-    target.append("&CC=").append(cc);
-    target.append("&BCC=").append(bcc);
-    return flag(platform().shell.open(target) >= kStarted);
-}
-
-void mnu_contenido() {
-    platform().shell.open(program_file("\\velmora.chm"));
-}
-
-void mnu_mail() {
-    write_to_support();
-}
-
-void mnu_web() {
-    open_web_page();
 }
 
 void teclas_Load() {

@@ -13,6 +13,11 @@ namespace velmora {
 Flag EnviaMail(std::string_view direccion, std::string_view asunto, std::string_view cuerpo,
                std::string_view cc, std::string_view bcc);
 
+/// Opens the program's page, starts a mail to its support. What the deployment left empty has no
+/// effect but a line in the status panel.
+void open_web_page();
+void write_to_support();
+
 void teclas_Load();
 void teclas_Command1_Click();
 
@@ -20,8 +25,7 @@ void acerca_Load();
 /// Shows the names of those who helped.
 void acerca_Activate();
 void acerca_Command1_Click();
-/// The links, as mnu_web and mnu_mail: an address that the deployment left empty has no effect but
-/// a line in the status panel.
+/// The links: the page and the mail.
 void acerca_lbl_web_Click();
 void acerca_lbl_mail_Click();
 

@@ -1,6 +1,5 @@
-// The point menu's commands that change the number of points or the start of cutting. None has an
-// error route of its own.
-#include "document/handlers.h"
+#include "shapeops/point_editing.h"
+
 #include "document/refresh.h"
 #include "document/session.h"
 #include "document/shown_counts.h"
@@ -8,6 +7,7 @@
 #include "runtime/numbers.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
+#include "services/shape_at_hand.h"
 
 #include <algorithm>
 
@@ -80,7 +80,7 @@ void remove_selected() {
 } // namespace
 
 // The point at PtoSel loses its sync mark. Before the first point that is the old first one, and
-// the sync total does not follow: on purpose. Raises 9 without a selection.
+// the sync total does not follow: on purpose.
 void Insert_Pto() {
     if (!hay_seleccion())
         raise(error::subscript);
@@ -95,10 +95,8 @@ void Insert_Pto() {
 }
 
 void Delete_Pto() {
-    if (!hay_forma()) {
-        MuestraMensaje(mensaje::no_shape);
+    if (!shape_at_hand())
         return;
-    }
     if (Forma.Pto.upper() <= 2) {
         MuestraMensaje(mensaje::no_more_deletions);
         return;
@@ -128,8 +126,7 @@ void Set_CutStart() {
 }
 
 // The shown count is the upper bound less one, and the sync total does not count the new start: on
-// purpose, the next Define_Layout and the sync commands put them right. Raises 9 without a
-// selection.
+// purpose, the next Define_Layout and the sync commands put them right.
 void insert_ini() {
     if (!hay_seleccion())
         raise(error::subscript);

@@ -1,6 +1,6 @@
-// The commands on sync points. The shown totals are kept by hand, nothing recounts them.
+#include "shapeops/sync_points.h"
+
 #include "document/feedback.h"
-#include "document/handlers.h"
 #include "document/number_text.h"
 #include "document/refresh.h"
 #include "document/session.h"
@@ -8,6 +8,7 @@
 #include "platform/dialogs.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
+#include "services/shape_at_hand.h"
 
 #include <optional>
 
@@ -57,19 +58,13 @@ void Delete_Pto_Sinc() {
 
 // Point 0 stays as it was, and the total shown is one less than the points marked: on purpose.
 void Insert_All_Pto_Sinc() {
-    if (!hay_forma()) {
-        MuestraMensaje(mensaje::no_shape);
-        return;
-    }
-    mark_from(1, 1, Forma.Pto.upper() - 1);
+    if (shape_at_hand())
+        mark_from(1, 1, Forma.Pto.upper() - 1);
 }
 
 void Delete_All_Pto_Sinc() {
-    if (!hay_forma()) {
-        MuestraMensaje(mensaje::no_shape);
-        return;
-    }
-    mark_from(0, 0, 0);
+    if (shape_at_hand())
+        mark_from(0, 0, 0);
 }
 
 void Pts_To_Next_Sinc() {

@@ -1,6 +1,6 @@
 #include "ui/command_actions.h"
 
-#include "document/command_table.h"
+#include "commands/command_table.h"
 #include "ui/controls.h"
 #include "ui/icons.h"
 

@@ -1,7 +1,7 @@
 #include "ui/info_panel.h"
 
 #include "document/session.h"
-#include "services/application.h"
+#include "forms/velmora.h"
 #include "services/side_windows.h"
 #include "ui/icons.h"
 

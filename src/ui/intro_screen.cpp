@@ -1,7 +1,7 @@
 #include "ui/intro_screen.h"
 
 #include "document/session.h"
-#include "services/application.h"
+#include "forms/velmora.h"
 #include "ui/icons.h"
 #include "ui/translations.h"
 #include "ui/windows_host.h"

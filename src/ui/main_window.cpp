@@ -2,7 +2,7 @@
 
 #include "document/coord_list.h"
 #include "document/session.h"
-#include "services/application.h"
+#include "forms/velmora.h"
 #include "ui/shortcuts_first.h"
 #include "ui/windows_host.h"
 

@@ -2,7 +2,7 @@
 
 #include "document/options.h"
 #include "document/session.h"
-#include "services/application.h"
+#include "forms/velmora.h"
 #include "services/side_windows.h"
 
 namespace velmora {

@@ -1,6 +1,6 @@
 #include "cad/connection.h"
 
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "document/session.h"
 #include "services/messages.h"
 #include "support/error_number.h"

@@ -1,7 +1,7 @@
 #include "cad/send.h"
 
 #include "cad/scripted_cad.h"
-#include "document/handlers.h"
+#include "commands/handlers.h"
 
 #include <gmock/gmock.h>
 

@@ -2,8 +2,8 @@
 
 #include "canvas/drawing.h"
 #include "canvas/pointer.h"
+#include "commands/handlers.h"
 #include "document/feedback.h"
-#include "document/handlers.h"
 #include "document/shown_counts.h"
 
 #include <gmock/gmock.h>

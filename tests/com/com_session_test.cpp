@@ -4,7 +4,7 @@
 #include "cad/connection.h"
 #include "cad/scripted_cad.h"
 #include "com/cad_server.h"
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "support/error_number.h"
 
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 #include "cutprep/compensa.h"
 
-#include "document/command_table.h"
-#include "document/handlers.h"
+#include "commands/command_table.h"
+#include "commands/handlers.h"
 #include "document/session.h"
 #include "support/error_number.h"
 #include "support/outline.h"

@@ -2,7 +2,7 @@
 
 #include "cad/drawing.h"
 #include "cad/send.h"
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "remote_cad_session.h"
 #include "script/words.h"
 #include "scripted/cad_lines.h"

@@ -1,6 +1,6 @@
 #include "document/coord_list.h"
 
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "document/refresh.h"
 #include "document/session.h"
 #include "runtime/error.h"

@@ -3,7 +3,7 @@
 
 #include "adapters/dbus/dbus_cad.h"
 #include "cad/connection.h"
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "document/session.h"
 #include "free_cad.h"
 #include "support/recording_platform.h"

@@ -3,7 +3,7 @@
 
 #include "cad/capture.h"
 #include "cad/send.h"
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "support/error_number.h"
 #include "support/outline.h"
 #include "support/places.h"

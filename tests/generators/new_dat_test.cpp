@@ -1,6 +1,6 @@
 #include "generators/new_dat.h"
 
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "document/session.h"
 #include "support/error_number.h"
 #include "support/outline.h"

@@ -1,7 +1,7 @@
 #include "services/help.h"
 
+#include "commands/handlers.h"
 #include "document/feedback.h"
-#include "document/handlers.h"
 #include "services/fake_form.h"
 #include "support/recording_platform.h"
 

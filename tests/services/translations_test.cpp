@@ -1,6 +1,6 @@
 // The tables in all languages of the program: the same rows, nothing blank, nothing too long, and
 // texts that can stand where the callers put them.
-#include "document/command_table.h"
+#include "commands/command_table.h"
 #include "platform/database.h"
 #include "support/recording_platform.h"
 

@@ -1,4 +1,4 @@
-#include "document/command_table.h"
+#include "commands/command_table.h"
 #include "platform/database.h"
 #include "support/recording_platform.h"
 

@@ -1,6 +1,6 @@
 #include "shapeops/mult_ptos.h"
 
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "document/session.h"
 #include "services/fake_form.h"
 #include "support/error_number.h"

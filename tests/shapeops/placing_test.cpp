@@ -1,6 +1,6 @@
 #include "shapeops/placing.h"
 
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "document/session.h"
 #include "services/messages.h"
 #include "support/error_number.h"

@@ -15,6 +15,7 @@ MAX_LINES = 500
 
 # Who may include whom, besides oneself. An arrow points one way.
 LOGIC = ["runtime", "platform", "document", "services"]
+OPERATIONS = LOGIC + ["shapeops", "canvas", "cad", "formats", "cutprep", "generators"]
 ROOMS = {
     "runtime": [],
     "platform": ["runtime"],
@@ -26,6 +27,8 @@ ROOMS = {
     "formats": LOGIC + ["cad"],
     "cutprep": LOGIC + ["formats", "canvas"],
     "generators": LOGIC + ["cad", "shapeops"],
+    "forms": OPERATIONS,
+    "commands": OPERATIONS + ["forms"],
 }
 # The headers of abstract services that stand in the room of their subject.
 ABSTRACT = {"canvas/surface.h", "cad/autocad.h"}

@@ -2,7 +2,7 @@
 #include "ui/windows_host.h"
 #include "windows/windows_test.h"
 
-#include "document/command_table.h"
+#include "commands/command_table.h"
 #include "platform/form.h"
 
 #include <QAction>

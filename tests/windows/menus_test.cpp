@@ -1,7 +1,7 @@
 // Menus, tool bars and shortcuts are those of the command table.
 #include "windows/windows_test.h"
 
-#include "document/command_table.h"
+#include "commands/command_table.h"
 
 #include <QAction>
 #include <QLineEdit>

@@ -1,6 +1,6 @@
 #include "windows/menus.h"
 
-#include "document/command_table.h"
+#include "commands/command_table.h"
 #include "document/session.h"
 #include "script/fault.h"
 #include "script/numbers.h"

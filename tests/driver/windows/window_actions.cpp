@@ -1,5 +1,5 @@
 // What a person does with the windows.
-#include "document/command_table.h"
+#include "commands/command_table.h"
 #include "document/session.h"
 #include "script/fault.h"
 #include "script/numbers.h"

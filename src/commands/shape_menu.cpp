@@ -1,25 +1,20 @@
-// The commands on the whole shape. Each keeps its own order of refresh calls, and the toolbar's
-// K_INVERT and K_SCALE differ from their menu entries on purpose.
-#include "document/handlers.h"
+// The commands of the menu mnu_funcs. Those on the whole shape keep each its own order of refresh
+// calls, and the toolbar's K_INVERT and K_SCALE differ from their menu entries on purpose.
+#include "canvas/background.h"
+#include "canvas/surface.h"
+#include "canvas/zoom.h"
+#include "commands/handlers.h"
+#include "document/number_text.h"
 #include "document/refresh.h"
 #include "document/session.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
-#include "services/message_codes.h"
-#include "services/messages.h"
+#include "services/shape_at_hand.h"
 #include "shapeops/transforms.h"
 
 namespace velmora {
 
 namespace {
-
-/// There is a shape to work on; message 37 otherwise.
-bool shape_at_hand() {
-    if (hay_forma())
-        return true;
-    MuestraMensaje(mensaje::no_shape);
-    return false;
-}
 
 void transform_and_refresh(void (*transform)()) {
     if (!shape_at_hand())
@@ -31,7 +26,29 @@ void transform_and_refresh(void (*transform)()) {
     Dibuja();
 }
 
+void zoom_to(double zoom) {
+    session.ZoomFactor = zoom;
+    session.winoptions.Txt_zoom = CStr(zoom);
+    Define_Layout();
+    Dibuja();
+}
+
 } // namespace
+
+void Mult_Points_Shape() {
+    if (shape_at_hand())
+        platform().windows.show_modal("Mult_Ptos");
+}
+
+void mnu_loadimg() {
+    CargaImagen();
+}
+
+void mnu_delimg() {
+    platform().pic.set_picture("");
+    platform().pic.present();
+    Dibuja_unless_NoRedraw();
+}
 
 void mnu_invert() {
     if (!shape_at_hand())
@@ -80,6 +97,21 @@ void K_SCALE() {
 void mnu_scale_xy() {
     if (shape_at_hand())
         platform().windows.show_modal("Scale_xy");
+}
+
+void mnu_zoom_up() {
+    zoom_to(zoom_above(session.ZoomFactor));
+}
+
+void mnu_zoom_down() {
+    if (session.ZoomFactor <= 1)
+        return;
+    zoom_to(zoom_below(session.ZoomFactor));
+}
+
+// No test for a shape here, on purpose: the list of an empty document shows its one record.
+void mnu_update_coords() {
+    Carga_List_Coords("UPDATE");
 }
 
 } // namespace velmora

@@ -1,6 +1,6 @@
 #include "cad/drawing.h"
 #include "cad/scripted_cad.h"
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "support/error_number.h"
 
 #include <gmock/gmock.h>

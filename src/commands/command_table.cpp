@@ -1,6 +1,6 @@
-#include "document/command_table.h"
+#include "commands/command_table.h"
 
-#include "document/handlers.h"
+#include "commands/handlers.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "document/command_table.h"
+#include "commands/command_table.h"
 
 #include <gtest/gtest.h>
 #include <set>

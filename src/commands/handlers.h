@@ -1,6 +1,10 @@
 // The click handlers of all commands, by the names of their menu entries and toolbar keys. The
-// command table refers to them; each stands in the room of its subject, in a file commands.cpp.
+// command table refers to them; a file per menu defines them. The point commands that keys and
+// other commands run too are operations of shapeops.
 #pragma once
+
+#include "shapeops/point_editing.h"
+#include "shapeops/sync_points.h"
 
 namespace velmora {
 
@@ -17,8 +21,6 @@ void mnu_exit();
 // Configuración
 void mnu_paramgenerales();
 // Funciones
-void Delete_All_Pto_Sinc();
-void Insert_All_Pto_Sinc();
 void Mult_Points_Shape();
 void mnu_loadimg();
 void mnu_delimg();
@@ -50,15 +52,7 @@ void mnu_mail();
 void mnu_web();
 void mnu_about();
 // Puntos
-void Delete_Pto();
 void Delete_N_Ptos();
-void Insert_Pto();
-void insert_ini();
-void Insert_N_Ptos();
-void Delete_Pto_Sinc();
-void Insert_Pto_Sinc();
-void Pts_To_Next_Sinc();
-void Set_CutStart();
 void Set_00();
 void set_10();
 void set_x0();

@@ -2,7 +2,7 @@
 #include "cad/capture.h"
 #include "cad/connection.h"
 #include "cad/send.h"
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "document/refresh.h"
 #include "document/session.h"
 #include "platform/dialogs.h"

@@ -1,7 +1,7 @@
-#include "services/application.h"
+#include "forms/velmora.h"
 
+#include "cad/connection.h"
 #include "document/feedback.h"
-#include "document/handlers.h"
 #include "document/number_text.h"
 #include "document/options.h"
 #include "document/recent_files.h"
@@ -162,7 +162,7 @@ void Velmora_Activate() {
         return;
     session.FirstActivate = False;
     session.NoRedraw = True;
-    mnu_Reconect();
+    ReconectaAcad();
     platform().windows.show("wininfo");
     platform().windows.show("winoptions");
     platform().windows.set_focus("Velmora", "pic");

@@ -1,9 +1,11 @@
-// The point menu's commands that place the shape by its selected point. Without a selection they do
-// nothing and say nothing.
+// The commands of the point menu OPT_PTO that place the shape by its selected point, and open the
+// window that takes points out. Without a selection the former do nothing and say nothing.
+#include "commands/handlers.h"
 #include "document/feedback.h"
-#include "document/handlers.h"
 #include "document/refresh.h"
 #include "document/session.h"
+#include "platform/platform.h"
+#include "platform/windows.h"
 #include "runtime/numbers.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
@@ -13,6 +15,13 @@ namespace velmora {
 
 namespace {
 constexpr int kUpArrow = 10;
+}
+
+void Delete_N_Ptos() {
+    if (Forma.Pto.upper() < 3)
+        MuestraMensaje(mensaje::no_more_deletions);
+    else
+        platform().windows.show_modal("del_Npto");
 }
 
 void Rotate() {

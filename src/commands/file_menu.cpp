@@ -1,6 +1,6 @@
-// The commands of the menu mnu_Archivo that open, save and close.
-#include "document/feedback.h"
-#include "document/handlers.h"
+// The commands of the menu mnu_Archivo.
+#include "canvas/print.h"
+#include "commands/handlers.h"
 #include "document/number_text.h"
 #include "document/options.h"
 #include "document/recent_files.h"
@@ -9,10 +9,12 @@
 #include "formats/box_text.h"
 #include "formats/load.h"
 #include "formats/save.h"
+#include "forms/velmora.h"
+#include "platform/platform.h"
+#include "platform/windows.h"
 #include "runtime/text.h"
-#include "services/message_codes.h"
-#include "services/messages.h"
 #include "services/settings.h"
+#include "services/shape_at_hand.h"
 
 namespace velmora {
 
@@ -21,13 +23,6 @@ namespace {
 void take_colours() {
     session.Velmora.pic_BackColor = session.cl_fondo;
     session.Velmora.lbl_xyfloat_ForeColor = session.cl_coords;
-}
-
-bool refuse_without_shape() {
-    if (hay_forma())
-        return false;
-    MuestraMensaje(mensaje::no_shape);
-    return true;
 }
 
 void generate_when_named() {
@@ -60,6 +55,22 @@ void reset_counts() {
 }
 
 } // namespace
+
+// Both steps go by what stands afterwards: a cancelled window refreshes an outline too.
+void mnu_newfile() {
+    platform().windows.show_modal("New_Dat");
+    if (hay_forma()) {
+        Apply_Precision();
+        Define_Layout();
+        Dibuja();
+        Carga_List_Coords("NEWFILE");
+    }
+    if (session.PtosToInsertMode) {
+        Define_Layout();
+        Dibuja();
+        Carga_List_Coords("NEWFILE");
+    }
+}
 
 void mnu_openfile() {
     std::int16_t result = False;
@@ -96,7 +107,7 @@ void mnuRecentFile(int index) {
 }
 
 void mnu_savefile() {
-    if (refuse_without_shape())
+    if (!shape_at_hand())
         return;
     if (runtime::Trim(session.Velmora.TxtDat_File).empty())
         DialogoGuardar();
@@ -104,7 +115,7 @@ void mnu_savefile() {
 }
 
 void mnu_savefileas() {
-    if (refuse_without_shape())
+    if (!shape_at_hand())
         return;
     DialogoGuardar();
     generate_when_named();
@@ -118,6 +129,26 @@ void mnu_closefile() {
     reset_origin_figures();
     reset_counts();
     clear_canvas();
+}
+
+void mnu_edit() {
+    AbreEdicion();
+}
+
+void mnu_print() {
+    PrintPic();
+}
+
+void mnu_exit() {
+    std::int16_t cancel = 0;
+    session.ExitConfirmed = 0;
+    SalVelmora(cancel);
+}
+
+// Unlike the menu's entry it lets a No stand: the key is silent from then on, on purpose.
+void K_EXIT() {
+    std::int16_t cancel = 0;
+    SalVelmora(cancel);
 }
 
 } // namespace velmora

@@ -1,4 +1,4 @@
-#include "document/handlers.h"
+#include "commands/handlers.h"
 
 #include "document/session.h"
 #include "formats/sample_files.h"

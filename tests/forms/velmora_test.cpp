@@ -1,7 +1,7 @@
-#include "services/application.h"
+#include "forms/velmora.h"
 
 #include "adapters/sqlite/sqlite_database.h"
-#include "document/handlers.h"
+#include "commands/handlers.h"
 #include "document/session.h"
 #include "services/fake_form.h"
 #include "services/messages.h"

@@ -1,7 +1,7 @@
 #include "canvas/drawing.h"
 #include "canvas/zoom.h"
-#include "document/command_table.h"
-#include "document/handlers.h"
+#include "commands/command_table.h"
+#include "commands/handlers.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

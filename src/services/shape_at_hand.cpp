@@ -1,0 +1,16 @@
+#include "services/shape_at_hand.h"
+
+#include "document/forma.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
+
+namespace velmora {
+
+bool shape_at_hand() {
+    if (hay_forma())
+        return true;
+    MuestraMensaje(mensaje::no_shape);
+    return false;
+}
+
+} // namespace velmora
