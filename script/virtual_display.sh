@@ -1,8 +1,9 @@
 # Sourced by what runs the program on a virtual display: an X server, a window manager and a home
 # folder of their own, with real key and pointer events. All of it goes at the end.
 #
-# start_display WIDTHxHEIGHT, start_program PROGRAM FOLDER [PICTURE], await TITLE, picture FILE,
-# small_picture FILE PLACE, changes COMMAND..., answer KEY, click_at X Y [BUTTON], fill TEXT,
+# start_display WIDTHxHEIGHT, install_program PROGRAM FOLDER, start_program PROGRAM FOLDER [PICTURE],
+# run_program PROGRAM FOLDER [PICTURE], await TITLE, picture FILE, small_picture FILE PLACE,
+# changes COMMAND..., answer KEY, click_at X Y [BUTTON], fill TEXT, choose MENU ENTRY,
 # open_shape FILE [TITLE], save_shape_as FILE [DESCRIPTION]
 
 display_folder=$(mktemp -d "${TMPDIR:-/tmp}/velmora-display-XXXXXX")
@@ -13,6 +14,7 @@ stop_display() {
         kill "$process" 2>/dev/null || true
     done
     wait 2>/dev/null || true
+    chmod -R u+w "$display_folder" # a test may have made its home read-only
     rm -rf "$display_folder"
 }
 trap stop_display EXIT
@@ -104,6 +106,17 @@ fill() {
     xdotool type -- "$1"
 }
 
+# Opens a menu by its place in the bar and takes an entry by its place in it: not every menu has a
+# letter of its own, so the arrows go on from the first.
+choose() {
+    local down=()
+    for _ in $(seq 2 "$2"); do down+=(Down); done
+    changes xdotool key alt+a
+    for _ in $(seq "$1"); do changes xdotool key Right; done
+    [ ${#down[@]} -eq 0 ] || xdotool key "${down[@]}"
+    xdotool key Return
+}
+
 # Opens a file, up to the main window or to the one with another title.
 open_shape() {
     xdotool key ctrl+a
@@ -146,23 +159,27 @@ start_display() {
     until_done xdotool get_desktop >/dev/null 2>&1 || fail "no window manager"
 }
 
-# Lays the program out as an installed one, so that what it writes beside itself goes into the home
-# folder, and the build's files stay as they are.
+# Lays the program out below a folder as an installed one, so that what it writes beside itself goes
+# into the home folder, and the build's files stay as they are.
 install_program() {
     local from
     from=$(dirname "$1")
-    mkdir -p "$display_folder"/usr/{bin,share/velmora}
-    cp "$1" "$display_folder/usr/bin/velmora"
-    find "$from" -maxdepth 1 -type f ! -perm /111 \
-        -exec cp -t "$display_folder/usr/share/velmora" {} +
-    [ ! -d "$from/help" ] || cp -r "$from/help" "$display_folder/usr/share/velmora"
+    mkdir -p "$2"/{bin,share/velmora}
+    cp "$1" "$2/bin/velmora"
+    find "$from" -maxdepth 1 -type f ! -perm /111 -exec cp -t "$2/share/velmora" {} +
+    [ ! -d "$from/help" ] || cp -r "$from/help" "$2/share/velmora"
+}
+
+# Installs the program and starts it in a folder.
+start_program() {
+    install_program "$1" "$display_folder/usr"
+    run_program "$display_folder/usr/bin/velmora" "${@:2}"
 }
 
 # Starts the program in a folder and clicks its start window away, after a picture of it where one
 # is wanted; `running` is the program's process.
-start_program() {
-    install_program "$1"
-    (cd "$2" && exec "$display_folder/usr/bin/velmora") 2>"$display_folder/program.log" &
+run_program() {
+    (cd "$2" && exec "$1") 2>"$display_folder/program.log" &
     running=$!
     display_processes+=("$running")
     local splash

@@ -9,6 +9,7 @@ fixtures=$2
 pictures=$3
 
 . "$(dirname "$0")/../../script/virtual_display.sh"
+. "$(dirname "$0")/sync_file.sh"
 mkdir -p "$pictures"
 work=$display_folder/work
 mkdir "$work"
@@ -44,7 +45,6 @@ picture "$pictures/4-written.png"
 answer Return
 await "Velmora 1.0 (1011)*"
 
-record() { printf '%-21s%-21s\r\n' "$1" "$2"; }
 {
     record "Fichero DAT(KMR)2002" "Ano nuevo" | sed 's/Ano/A\xf1o/'
     record SLATEWORKS ""

@@ -1,6 +1,9 @@
 # Sourced by what looks into files with sync points: records of two fields of 21 characters, CR LF.
 #
-# check_side FILE DESCRIPTION X, check_results SIDE_A SIDE_B
+# record FIELD FIELD, outline_of FILE, sync_points_of FILE, check_side FILE DESCRIPTION X,
+# check_results SIDE_A SIDE_B
+
+record() { printf '%-21s%-21s\r\n' "$1" "$2"; }
 
 # The points of the outline, "X Y" a line, the closing one too, and the sync points.
 outline_of() { points_of "$1" | sed '/^Puntos Sincronismo/,$d'; }

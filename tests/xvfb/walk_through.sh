@@ -45,16 +45,6 @@ few_fonts() {
 XML
 }
 
-# Opens a menu by its place in the bar and takes an entry by its place in it: not every menu has a
-# letter of its own, so the arrows go on from the first.
-choose() {
-    local down=()
-    for _ in $(seq 2 "$2"); do down+=(Down); done
-    changes key alt+a
-    for _ in $(seq "$1"); do changes key Right; done
-    [ ${#down[@]} -eq 0 ] || key "${down[@]}"
-    key Return
-}
 configuration() { choose 1 "$1"; }
 functions() { choose 2 "$1"; }
 tools() { choose 3 "$1"; }
