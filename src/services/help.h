@@ -1,4 +1,4 @@
-// Help, the list of shortcut keys, the about box and its links.
+// Help and support: the page and the mail.
 #pragma once
 
 #include "document/session.h"
@@ -13,20 +13,12 @@ namespace velmora {
 Flag EnviaMail(std::string_view direccion, std::string_view asunto, std::string_view cuerpo,
                std::string_view cc, std::string_view bcc);
 
+/// The build number as it is shown, "(1011)".
+[[nodiscard]] std::string version_in_brackets();
+
 /// Opens the program's page, starts a mail to its support. What the deployment left empty has no
 /// effect but a line in the status panel.
 void open_web_page();
 void write_to_support();
-
-void teclas_Load();
-void teclas_Command1_Click();
-
-void acerca_Load();
-/// Shows the names of those who helped.
-void acerca_Activate();
-void acerca_Command1_Click();
-/// The links: the page and the mail.
-void acerca_lbl_web_Click();
-void acerca_lbl_mail_Click();
 
 } // namespace velmora

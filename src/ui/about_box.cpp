@@ -1,7 +1,7 @@
 #include "ui/about_box.h"
 
 #include "document/session.h"
-#include "services/help.h"
+#include "forms/acerca.h"
 #include "ui/icons.h"
 #include "ui/windows_host.h"
 

@@ -1,7 +1,7 @@
 #include "ui/ajuste_opt_dialog.h"
 
-#include "cutprep/ajuste_opt.h"
 #include "document/session.h"
+#include "forms/ajuste_opt.h"
 
 namespace velmora {
 

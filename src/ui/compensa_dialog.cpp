@@ -1,7 +1,7 @@
 #include "ui/compensa_dialog.h"
 
-#include "cutprep/compensa.h"
 #include "document/session.h"
+#include "forms/compensa.h"
 
 namespace velmora {
 

@@ -1,7 +1,7 @@
 #include "ui/new_dat_dialog.h"
 
 #include "document/session.h"
-#include "generators/new_dat.h"
+#include "forms/new_dat.h"
 #include "ui/icons.h"
 #include "ui/tab_stops.h"
 

@@ -1,7 +1,7 @@
 #include "ui/scale_xy_dialog.h"
 
 #include "document/session.h"
-#include "shapeops/scale_xy.h"
+#include "forms/scale_xy.h"
 
 namespace velmora {
 

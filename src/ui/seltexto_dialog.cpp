@@ -1,7 +1,7 @@
 #include "ui/seltexto_dialog.h"
 
 #include "document/session.h"
-#include "generators/seltexto.h"
+#include "forms/seltexto.h"
 
 namespace velmora {
 

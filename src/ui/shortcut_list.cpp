@@ -1,6 +1,6 @@
 #include "ui/shortcut_list.h"
 
-#include "services/help.h"
+#include "forms/teclas.h"
 
 #include <QGroupBox>
 #include <QLabel>

@@ -26,7 +26,7 @@ ROOMS = {
     "cad": LOGIC + ["shapeops"],
     "formats": LOGIC + ["cad"],
     "cutprep": LOGIC + ["formats", "canvas"],
-    "generators": LOGIC + ["cad", "shapeops"],
+    "generators": LOGIC + ["cad"],
     "forms": OPERATIONS,
     "commands": OPERATIONS + ["forms"],
 }

@@ -27,6 +27,12 @@ inline void fill(Array<Pto>& array, const Points& points) {
         array[index++] = point;
 }
 
+inline Array<Pto> outline(const Points& points) {
+    Array<Pto> array;
+    fill(array, points);
+    return array;
+}
+
 inline void set_shape(const Points& points) {
     fill(Forma.Pto, points);
 }

@@ -1,4 +1,4 @@
-#include "generators/new_dat.h"
+#include "forms/new_dat.h"
 
 #include "commands/handlers.h"
 #include "document/session.h"

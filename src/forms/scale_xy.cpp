@@ -1,4 +1,4 @@
-#include "shapeops/scale_xy.h"
+#include "forms/scale_xy.h"
 
 #include "document/number_text.h"
 #include "document/refresh.h"

@@ -1,4 +1,4 @@
-#include "generators/seltexto.h"
+#include "forms/seltexto.h"
 
 #include "commands/handlers.h"
 #include "document/session.h"

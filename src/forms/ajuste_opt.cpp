@@ -1,4 +1,4 @@
-#include "cutprep/ajuste_opt.h"
+#include "forms/ajuste_opt.h"
 
 #include "document/number_text.h"
 #include "document/session.h"

@@ -1,4 +1,4 @@
-#include "cutprep/ajuste_opt.h"
+#include "forms/ajuste_opt.h"
 
 #include "document/session.h"
 #include "support/error_number.h"

@@ -1,80 +1,27 @@
-#include "cutprep/compensa.h"
+#include "forms/compensa.h"
 
 #include "commands/command_table.h"
 #include "commands/handlers.h"
 #include "document/session.h"
-#include "support/error_number.h"
 #include "support/outline.h"
 #include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <limits>
 
 namespace velmora {
 namespace {
 
-using test::number_of;
 using test::Points;
 using test::points_of;
 using test::set_shape;
-using test::shape;
 using Calls = std::vector<std::string>;
-
-constexpr double kHuge = std::numeric_limits<double>::max();
 
 class CompensaTest : public ::testing::Test {
   protected:
-    static void expect_paralela(const Points& shape_points, double merma, const Points& expected) {
-        set_shape(shape_points);
-        compensate(merma);
-        EXPECT_EQ(points_of(Forma.Paralela), expected);
-        EXPECT_EQ(shape(), shape_points);
-    }
     test::RecordingPlatform platform_;
 };
-
-TEST_F(CompensaTest, horizontal_chords_move_straight_down_and_up) {
-    expect_paralela({{0, 0, 1, -1}, {4, 0}, {1, 0, 1}}, 2, {{0, -2, 1, -1}, {4, 2}, {1, 0, 1}});
-}
-
-TEST_F(CompensaTest, each_slope_and_direction) {
-    // sine and cosine of the chord 3, 4 times 0.5
-    expect_paralela({{0, 0}, {3, 4}, {9, 9}}, 0.5,
-                    {{0x1.9999999999999p-2, -0x1.3333333333334p-2},
-                     {0x1.a8f8c7fcfdf93p+1, 0x1.ced5766a026e9p+1},
-                     {9, 9}});
-}
-
-TEST_F(CompensaTest, vertical_chords_repeat_the_last_computed_point) {
-    expect_paralela({{0, 0}, {3, 4}, {7, 1}, {7, 2}, {7, 5}, {3, 5}, {1, 2}, {0, 9}}, 0.5,
-                    {{0x1.9999999999999p-2, -0x1.3333333333334p-2},
-                     {0x1.a666666666666p+1, 0x1.ccccccccccccdp+1},
-                     {0x1.a666666666666p+1, 0x1.ccccccccccccdp+1},
-                     {0x1.a666666666666p+1, 0x1.ccccccccccccdp+1},
-                     {7, 5.5},
-                     {0x1.4abfb01f4c464p+1, 0x1.51c01aa03be89p+2},
-                     {0x1.0292ab8408957p-1, 0x1.090d0c28ffb18p+1},
-                     {0, 9}});
-}
-
-TEST_F(CompensaTest, a_vertical_chord_at_the_start_gives_the_origin) {
-    expect_paralela({{5, 1}, {5, 4}, {5, 6}}, 1, {{0, 0}, {0, 0}, {5, 6}});
-}
-
-TEST_F(CompensaTest, with_two_points_the_first_moves) {
-    expect_paralela({{1, 1}, {2, 1}}, 0.25, {{1, 0.75}, {2, 1}});
-}
-
-TEST_F(CompensaTest, an_overflow_is_a_fault) {
-    set_shape({{-kHuge, 0}, {kHuge, 1}});
-    EXPECT_EQ(number_of([] { compensate(1); }), 6);
-    set_shape({{1, 0}, {1, 1e294}}); // divided by 1E-15
-    EXPECT_EQ(number_of([] { compensate(1); }), 6);
-    set_shape({{0, 0}, {0, 1e10}, {1, 0}});
-    EXPECT_EQ(number_of([] { compensate(1); }), 0);
-}
 
 TEST_F(CompensaTest, the_command_opens_the_window_and_repaints) {
     set_shape({{0, 0}, {1, 0}, {1, 1}});

@@ -2,6 +2,8 @@
 
 #include "commands/handlers.h"
 #include "document/feedback.h"
+#include "forms/acerca.h"
+#include "forms/teclas.h"
 #include "services/fake_form.h"
 #include "support/recording_platform.h"
 

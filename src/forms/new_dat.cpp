@@ -1,10 +1,10 @@
-#include "generators/new_dat.h"
+#include "forms/new_dat.h"
 
-#include "cad/flatten.h"
 #include "document/feedback.h"
 #include "document/number_text.h"
 #include "document/session.h"
 #include "document/shown_counts.h"
+#include "generators/figures.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
@@ -30,9 +30,6 @@ constexpr int kTriangle = 1;
 constexpr int kCircle = 2;
 
 constexpr std::int16_t kSync = 1;
-constexpr auto kSquarePoints =
-    std::to_array<Pto>({{0, 0, kSync, 0}, {1, 0, 0, 0}, {1, 1, 0, 0}, {0, 1, 0, 0}});
-constexpr auto kTrianglePoints = std::to_array<Pto>({{0, 0, kSync, 0}, {1, 0, 0, 0}, {1, 1, 0, 0}});
 
 /// Where Option1 to Option8 start, on the unit square.
 constexpr auto kStarts = std::to_array<Pto>({{0, 0, kSync, 0},
@@ -88,13 +85,11 @@ void take_outline(std::span<const Pto> points) {
     show_TotalPtos(static_cast<std::int32_t>(points.size()));
 }
 
-// The shown count takes the point that closes the circle with it, on purpose; the next
+// The shown count of a circle takes the point that closes it with it, on purpose; the next
 // Define_Layout puts it right.
 void take_circle() {
     const std::int32_t points = session.New_Dat.circle_points;
-    Array<Pto> run = flatten({0.5, 0.5, 0.5, 0, 360, points}, Normaliza15);
-    run[0].Sinc = kSync;
-    take_outline(run.all().first(static_cast<std::size_t>(points)));
+    take_outline(figures::circle(points).all());
     show_TotalPtos(points + 1);
 }
 
@@ -104,10 +99,10 @@ void take_figure() {
         take_circle();
         break;
     case kTriangle:
-        take_outline(kTrianglePoints);
+        take_outline(figures::triangle());
         break;
     default:
-        take_outline(kSquarePoints);
+        take_outline(figures::square());
     }
     show_TotalSinc(1);
 }

@@ -1,0 +1,42 @@
+#include "forms/compensa.h"
+
+#include "cutprep/compensation.h"
+#include "document/session.h"
+#include "platform/platform.h"
+#include "platform/windows.h"
+#include "runtime/numbers.h"
+#include "services/numeric_box.h"
+#include "services/window_literals.h"
+
+namespace velmora {
+
+namespace {
+
+constexpr std::string_view kWindow = "Compensa";
+
+} // namespace
+
+void Compensa_Load() {
+    session.Compensa = {};
+    load_literals(kWindow);
+}
+
+void Txt_merma_Change() {
+    session.Compensa.cmd_ok_enabled = runtime::Val(session.Compensa.Txt_merma) != 0;
+}
+
+int Txt_merma_KeyPress(int key) {
+    return numeric_key(
+        {kWindow, "Txt_merma", session.Compensa.Txt_merma, ".", "0", Txt_merma_Change}, key);
+}
+
+void Compensa_cmd_ok_Click() {
+    Forma.Paralela = compensated(Forma.Pto, runtime::Val(session.Compensa.Txt_merma));
+    platform().windows.unload(kWindow);
+}
+
+void Compensa_cmd_cancel_Click() {
+    platform().windows.unload(kWindow);
+}
+
+} // namespace velmora
