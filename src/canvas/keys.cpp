@@ -92,6 +92,10 @@ void carry_out(int KeyCode) {
     }
 }
 
+bool is_modifier(int KeyCode) {
+    return KeyCode == key::Shift || KeyCode == key::Control || KeyCode == key::Alt;
+}
+
 void note_ctrl(int Shift) {
     session.CtrlDown = flag((Shift & kCtrl) != 0);
 }
@@ -99,7 +103,7 @@ void note_ctrl(int Shift) {
 } // namespace
 
 void pic_KeyDown(int KeyCode, int Shift) {
-    if (session.PtoSel > -1) {
+    if (session.PtoSel > -1 && !is_modifier(KeyCode)) {
         carry_out(KeyCode);
         Dibuja_unless_NoRedraw();
     }
@@ -108,6 +112,10 @@ void pic_KeyDown(int KeyCode, int Shift) {
 
 void pic_KeyUp(int, int Shift) {
     note_ctrl(Shift);
+}
+
+void pic_LostFocus() {
+    session.CtrlDown = False;
 }
 
 } // namespace velmora

@@ -4,6 +4,9 @@
 namespace velmora {
 
 namespace key {
+inline constexpr int Shift = 16;
+inline constexpr int Control = 17;
+inline constexpr int Alt = 18;
 inline constexpr int Esc = 27;
 inline constexpr int Left = 37;
 inline constexpr int Up = 38;
@@ -16,9 +19,12 @@ inline constexpr int N = 78;
 inline constexpr int S = 83;
 } // namespace key
 
-/// Carries a key out and repaints, after any key. With an index beyond the array selected, Delete,
+/// Carries a key out and repaints, after any key but Ctrl, Shift and Alt, which are none by
+/// themselves. With an index beyond the array selected, Delete,
 /// Insert, S and the arrows change nothing. The list is not refreshed, on purpose.
 void pic_KeyDown(int KeyCode, int Shift);
 void pic_KeyUp(int KeyCode, int Shift);
+/// The release of Ctrl goes to another control or window: it counts as released.
+void pic_LostFocus();
 
 } // namespace velmora

@@ -107,6 +107,8 @@ void CanvasView::wire(Dispatch dispatch) {
     pic_.key_up = [this](int key, bool ctrl) {
         dispatch_([=] { pic_KeyUp(key, shift_state(ctrl)); });
     };
+    // Nothing that shows changes, and the focus goes while handlers run.
+    pic_.focus_lost = pic_LostFocus;
     pic_.menu_key = [this] {
         dispatch_(pic_MenuKey);
     };

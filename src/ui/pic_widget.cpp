@@ -1,9 +1,12 @@
 #include "ui/pic_widget.h"
 
+#include "ui/key_codes.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 
 namespace velmora {
 
@@ -30,24 +33,6 @@ PointerEvent pointer_event(const QMouseEvent& event, int button) {
 }
 
 constexpr int kControlKey = 17;
-
-/// The logic's codes of keys that type no letter or digit.
-constexpr std::pair<int, int> kKeys[] = {
-    {Qt::Key_Backspace, 8}, {Qt::Key_Return, 13}, {Qt::Key_Enter, 13},  {Qt::Key_Shift, 16},
-    {Qt::Key_Control, 17},  {Qt::Key_Alt, 18},    {Qt::Key_Escape, 27}, {Qt::Key_PageUp, 33},
-    {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},    {Qt::Key_Home, 36},   {Qt::Key_Left, 37},
-    {Qt::Key_Up, 38},       {Qt::Key_Right, 39},  {Qt::Key_Down, 40},   {Qt::Key_Insert, 45},
-    {Qt::Key_Delete, 46},
-};
-
-/// Letters and digits are their capitals, what has no code of the logic is 0: it is a key all the
-/// same.
-int key_code(const QKeyEvent& event) {
-    for (const auto& [key, code] : kKeys)
-        if (key == event.key())
-            return code;
-    return event.key() >= Qt::Key_Space && event.key() <= Qt::Key_Z ? event.key() : 0;
-}
 
 } // namespace
 
@@ -90,17 +75,31 @@ void PicWidget::mouseReleaseEvent(QMouseEvent* event) {
         released(pointer_event(*event, button_code(event->button())));
 }
 
+// A key whose command took the focus, with a message or a dialog, is let go there, and so is Ctrl:
+// that is told again behind the key, which has told how Ctrl was at its press.
 void PicWidget::keyPressEvent(QKeyEvent* event) {
-    const int key = key_code(*event);
-    if (key_down)
-        key_down(key, key == kControlKey || event->modifiers().testFlag(Qt::ControlModifier));
+    if (!key_down)
+        return;
+    const int key = key_code(event->key(), event->modifiers());
+    const QPointer<PicWidget> alive(this);
+    const int losses = focus_losses_;
+    key_down(key, key == kControlKey || event->modifiers().testFlag(Qt::ControlModifier));
+    if (alive && losses != focus_losses_ && focus_lost)
+        focus_lost();
 }
 
 void PicWidget::keyReleaseEvent(QKeyEvent* event) {
     if (event->isAutoRepeat() || !key_up)
         return;
-    const int key = key_code(*event);
+    const int key = key_code(event->key(), event->modifiers());
     key_up(key, key != kControlKey && event->modifiers().testFlag(Qt::ControlModifier));
+}
+
+void PicWidget::focusOutEvent(QFocusEvent* event) {
+    ++focus_losses_;
+    QWidget::focusOutEvent(event);
+    if (focus_lost)
+        focus_lost();
 }
 
 // The release of the right button has opened the pointer's menu already.

@@ -33,6 +33,8 @@ class PicWidget : public QWidget {
     /// A key's code, as the logic knows it, and whether Ctrl is down.
     std::function<void(int key, bool ctrl)> key_down;
     std::function<void(int key, bool ctrl)> key_up;
+    /// From here on the keys go elsewhere, their releases too.
+    std::function<void()> focus_lost;
     /// The key that opens context menus.
     std::function<void()> menu_key;
 
@@ -43,10 +45,12 @@ class PicWidget : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
     const QImage* image_ = nullptr;
+    int focus_losses_ = 0;
 };
 
 } // namespace velmora

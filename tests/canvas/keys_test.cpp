@@ -119,12 +119,38 @@ TEST(Keys, WithASelectionBeyondTheArrayChangeNothingAndRepaint) {
 }
 
 TEST(Keys, AnyOtherKeyRepaints) {
-    for (const int code : {65, 17, 13}) {
+    for (const int code : {0, 65, 13}) {
         Keys canvas;
         pic_KeyDown(code, 0);
         EXPECT_TRUE(canvas.repainted());
         EXPECT_EQ(session.Velmora.StatusBar1, "Forma");
     }
+}
+
+TEST(Keys, CtrlShiftAndAltAloneAreNoneAndCtrlIsNoted) {
+    struct Case {
+        int key, shift;
+        Flag ctrl;
+    };
+    for (const Case& one : {Case{16, 1, False}, Case{16, 3, True}, Case{17, 2, True},
+                            Case{18, 4, False}, Case{18, 6, True}}) {
+        for (const bool shape : {true, false}) {
+            Keys canvas;
+            if (!shape)
+                Forma.Pto.redim(0);
+            pic_KeyDown(one.key, one.shift);
+            EXPECT_THAT(canvas.operations(), IsEmpty()) << one.key;
+            EXPECT_THAT(canvas.dialogs.boxes, IsEmpty()) << one.key;
+            EXPECT_EQ(session.CtrlDown, one.ctrl) << one.key << ' ' << one.shift;
+        }
+    }
+}
+
+TEST(Keys, WithoutAShapeEveryOtherKeyTellsSo) {
+    Keys canvas;
+    Forma.Pto.redim(0);
+    pic_KeyDown(65, 0);
+    EXPECT_EQ(canvas.dialogs.boxes.size(), 1U);
 }
 
 TEST(Keys, WithNoRedrawAreCarriedOutWithoutARepaint) {

@@ -1,0 +1,19 @@
+// The scrolling container SSScroll around the canvas.
+#pragma once
+
+#include <QScrollArea>
+
+namespace velmora {
+
+/// The toolkit's own container brings the widget with the focus to its middle at each Tab: the
+/// canvas, whose shape is then out of sight. Here only the program's layout and the user scroll.
+class CanvasScroll : public QScrollArea {
+    Q_OBJECT
+  public:
+    using QScrollArea::QScrollArea;
+
+  protected:
+    bool focusNextPrevChild(bool next) override;
+};
+
+} // namespace velmora
