@@ -47,6 +47,20 @@ void remove_row() {
     rows.erase(position(session.PtoSel, rows.size()));
 }
 
+/// Whether the row names a point.
+bool select_point_of(std::string_view text) {
+    if (text.empty())
+        return false;
+    const auto index = runtime::CLng(text.substr(0, text.find(':')), session.SepDecimal);
+    if (index > Forma.Pto.upper()) {
+        Carga_List_Coords("UPDATE");
+        return false;
+    }
+    session.PtoSel = index;
+    Dibuja();
+    return true;
+}
+
 } // namespace
 
 std::string row_text(const CoordRow& row) {
@@ -54,14 +68,12 @@ std::string row_text(const CoordRow& row) {
 }
 
 void Lst_Coords_Click(std::string_view text) {
-    if (text.empty())
-        return;
-    const auto index = runtime::CLng(text.substr(0, text.find(':')), session.SepDecimal);
-    if (index > Forma.Pto.upper())
-        return Carga_List_Coords("UPDATE");
-    session.PtoSel = index;
-    Dibuja();
-    platform().windows.set_focus("Velmora", "pic");
+    if (select_point_of(text))
+        platform().windows.set_focus("Velmora", "pic");
+}
+
+void Lst_Coords_Key(std::string_view text) {
+    (void)select_point_of(text);
 }
 
 void Carga_List_Coords(std::string_view key) {

@@ -19,6 +19,12 @@ std::size_t place(int row) {
     return static_cast<std::size_t>(row);
 }
 
+bool moves(int key) {
+    constexpr int kKeys[] = {Qt::Key_Up,  Qt::Key_Down,   Qt::Key_Home,
+                             Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown};
+    return std::ranges::find(kKeys, key) != std::end(kKeys);
+}
+
 } // namespace
 
 CoordListModel::CoordListModel(const VelmoraWindow& state, QObject* parent)
@@ -194,11 +200,23 @@ void CoordList::paintEvent(QPaintEvent* event) {
 }
 
 void CoordList::keyPressEvent(QKeyEvent* event) {
-    const QModelIndex before = currentIndex();
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const QModelIndex before = chosen();
     QListView::keyPressEvent(event);
+    if (moves(event->key()))
+        setCurrentIndex(currentIndex());
     const QModelIndex now = currentIndex();
-    if (now.isValid() && now != before)
+    if (enter && now.isValid())
         emit row_clicked(now.data().toString());
+    else if (now.isValid() && now != before && now == chosen())
+        emit row_reached(now.data().toString());
+}
+
+// The focus, as it comes, makes the first row the current one without choosing it; a key that would
+// move to where the list stands chooses it.
+QModelIndex CoordList::chosen() const {
+    const QModelIndex now = currentIndex();
+    return selectionModel()->isSelected(now) ? now : QModelIndex();
 }
 
 } // namespace velmora

@@ -48,8 +48,10 @@ class CoordList : public QListView {
     void doItemsLayout() override;
 
   signals:
-    /// The user chose a row, by a click or by a key.
+    /// The user chose a row, by a click or by Enter.
     void row_clicked(const QString& text);
+    /// A key that moves in the list came to another row.
+    void row_reached(const QString& text);
 
   protected:
     [[nodiscard]] QModelIndex moveCursor(CursorAction action,
@@ -64,6 +66,7 @@ class CoordList : public QListView {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    [[nodiscard]] QModelIndex chosen() const;
     [[nodiscard]] int row_height() const;
     [[nodiscard]] int rows_in_view() const;
 

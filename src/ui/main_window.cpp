@@ -84,6 +84,9 @@ void MainWindow::wire() {
     connect(ui.Lst_Coords, &CoordList::row_clicked, this, [this](const QString& row) {
         host().run([text = row.toStdString()] { Lst_Coords_Click(text); });
     });
+    connect(ui.Lst_Coords, &CoordList::row_reached, this, [this](const QString& row) {
+        host().run([text = row.toStdString()] { Lst_Coords_Key(text); });
+    });
 }
 
 void MainWindow::list_in_form_order() {

@@ -132,6 +132,19 @@ TEST(CoordList, a_click_selects_the_point_named_in_the_row) {
     EXPECT_EQ(std::ranges::count(platform.pic.operations, "cls"), 1);
 }
 
+TEST(CoordList, a_key_selects_as_a_click_and_leaves_the_focus_in_the_list) {
+    RecordingPlatform platform;
+    set_shape({{0, 0}, {1, 1}, {2, 2}});
+    session.PtoSel = 0;
+    Lst_Coords_Key("2: 7  8");
+    EXPECT_EQ(session.PtoSel, 2);
+    EXPECT_EQ(std::ranges::count(platform.pic.operations, "cls"), 1);
+    Lst_Coords_Key("3: 7  8");
+    EXPECT_EQ(session.PtoSel, 2);
+    EXPECT_EQ(rows(), (Rows{"0: 0  0", "1: 1  1", "2: 2  2"})) << "stale, and refreshed";
+    EXPECT_TRUE(platform.windows.calls.empty());
+}
+
 TEST(CoordList, a_click_on_a_stale_row_refreshes_and_keeps_the_selection) {
     RecordingPlatform platform;
     set_shape({{0, 0}, {1, 1}, {2, 2}});

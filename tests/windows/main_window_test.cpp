@@ -1,4 +1,5 @@
 // The main window's list, canvas, label, status and scroll bars.
+#include "support/outline.h"
 #include "windows/canvas_test.h"
 
 #include "ui/coord_list.h"
@@ -41,11 +42,62 @@ TEST_F(MainWindowTest, AClickOnARowSelectsItsPointAndGivesTheCanvasTheFocus) {
     EXPECT_EQ(session.PtoSel, 3);
 }
 
-TEST_F(MainWindowTest, AnArrowKeyInTheListIsAClickOnItsRow) {
+TEST_F(MainWindowTest, KeysThatMoveInTheListSelectTheirPointsAndStayInIt) {
     click_row(0);
     list().setFocus();
+    struct Step {
+        Qt::Key key;
+        int row;
+    };
+    for (const auto& [key, row] :
+         {Step{Qt::Key_Down, 1}, Step{Qt::Key_Down, 2}, Step{Qt::Key_Up, 1}, Step{Qt::Key_End, 3},
+          Step{Qt::Key_Home, 0}, Step{Qt::Key_PageDown, 3}, Step{Qt::Key_PageUp, 0}}) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        EXPECT_EQ(list().currentIndex().row(), row) << key;
+        EXPECT_EQ(session.PtoSel, row) << key;
+        EXPECT_TRUE(list().hasFocus()) << key;
+    }
+    EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {10, 10}, {0, 10}}));
+}
+
+TEST_F(MainWindowTest, AKeyThatMovesInTheListShowsTheSelection) {
+    click_row(0);
+    list().setFocus();
+    const QImage before = pic().grab().toImage();
+    QTest::keyClick(&list(), Qt::Key_Down);
+    EXPECT_NE(pic().grab().toImage(), before);
+}
+
+// The row has the list's mark from the arrival of the focus on, without being chosen.
+TEST_F(MainWindowTest, TheFirstKeyInTheListCanChooseTheFirstRow) {
+    session.PtoSel = 2;
+    list().setFocus();
+    EXPECT_EQ(session.PtoSel, 2);
+    QTest::keyClick(&list(), Qt::Key_Home);
+    EXPECT_EQ(session.PtoSel, 0);
+    EXPECT_TRUE(list().hasFocus());
+}
+
+TEST_F(MainWindowTest, EnterOnARowIsAClickOnIt) {
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        click_row(1);
+        list().setFocus();
+        session.PtoSel = 3;
+        QTest::keyClick(&list(), key);
+        EXPECT_EQ(session.PtoSel, 1);
+        EXPECT_TRUE(pic().hasFocus());
+    }
+}
+
+TEST_F(MainWindowTest, AKeyOnAStaleRowRefreshesTheListAndKeepsTheSelection) {
+    click_row(2);
+    list().setFocus();
+    Forma.Pto.redim_keep(2);
+    session.PtoSel = 1;
     QTest::keyClick(&list(), Qt::Key_Down);
     EXPECT_EQ(session.PtoSel, 1);
+    EXPECT_EQ(list().model()->rowCount(), 3);
+    EXPECT_TRUE(list().hasFocus());
 }
 
 TEST_F(MainWindowTest, AStaleRowRefreshesTheListAndKeepsTheSelection) {
