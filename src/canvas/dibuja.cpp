@@ -183,6 +183,7 @@ void Dibuja_unless_NoRedraw() {
 }
 
 void clear_canvas() {
+    session.Velmora.lbl_xyfloat_visible = false;
     platform().pic.Cls();
     platform().pic.present();
 }

@@ -77,6 +77,9 @@ void Lst_Coords_Key(std::string_view text) {
 }
 
 void Carga_List_Coords(std::string_view key) {
+    // The label told of a point of the shape before.
+    if (key == "NEWFILE")
+        session.Velmora.lbl_xyfloat_visible = false;
     if (key == "NEWFILE" || key == "UPDATE")
         rebuild();
     else if (key == "INSERT")

@@ -145,6 +145,15 @@ TEST(CoordList, a_key_selects_as_a_click_and_leaves_the_focus_in_the_list) {
     EXPECT_TRUE(platform.windows.calls.empty());
 }
 
+TEST(CoordList, a_new_shape_takes_the_label_of_the_old_one_away) {
+    RecordingPlatform platform;
+    for (const auto& [key, stays] : {std::pair("UPDATE", true), std::pair("NEWFILE", false)}) {
+        session.Velmora.lbl_xyfloat_visible = true;
+        Carga_List_Coords(key);
+        EXPECT_EQ(session.Velmora.lbl_xyfloat_visible, stays) << key;
+    }
+}
+
 TEST(CoordList, a_click_on_a_stale_row_refreshes_and_keeps_the_selection) {
     RecordingPlatform platform;
     set_shape({{0, 0}, {1, 1}, {2, 2}});

@@ -162,6 +162,25 @@ TEST_F(MainWindowTest, TheLabelShowsThePointUnderThePointerBelowIt) {
     EXPECT_FALSE(label.isVisible());
 }
 
+TEST_F(MainWindowTest, TheLabelGoesWithTheShapeThatItToldOf) {
+    const auto& label = control<QLabel>("Velmora", "lbl_xyfloat");
+    for (const char* command : {"mnu_openfile", "mnu_closefile"}) {
+        open_shape({{0, 0}, {10, 0}, {10, 10}, {0, 10}});
+        move_to(place(10, 10));
+        ASSERT_TRUE(label.isVisible());
+        control<QAction>("Velmora", command).trigger();
+        EXPECT_FALSE(label.isVisible()) << command;
+    }
+}
+
+TEST_F(MainWindowTest, TheLabelGoesWhenAnotherShapeComes) {
+    const auto& label = control<QLabel>("Velmora", "lbl_xyfloat");
+    move_to(place(10, 10));
+    ASSERT_TRUE(label.isVisible());
+    open_shape({{0, 0}, {50, 0}, {50, 50}});
+    EXPECT_FALSE(label.isVisible());
+}
+
 TEST_F(MainWindowTest, ARightClickOnAPointOpensItsMenuWithWhatItAllows) {
     QTest::mouseClick(&pic(), Qt::RightButton, {}, place(10, 0));
     EXPECT_EQ(session.PtoSel, 1);
