@@ -24,8 +24,9 @@ class Stage {
     CadState cad;
     bool started = false; ///< `start` was reached
     bool tracing = false;
-    bool waiting = false; ///< inside `wait`: the lines behind it are not due
-    int line = 0;         ///< of the script
+    bool waiting = false;   ///< inside `wait`: the lines behind it are not due
+    bool ctrl_held = false; ///< by `key-down`
+    int line = 0;           ///< of the script
 
     [[nodiscard]] WindowsHost& windows() const { return *platform_.windows; }
     [[nodiscard]] ScriptedMachine& machine() const { return *machine_; }

@@ -77,26 +77,42 @@ void tool(Stage& stage, Words words) {
         key->trigger();
 }
 
+// Ctrl goes down and up around its key, but where the script holds it.
 void key(Stage& stage, Words words) {
     want_words(words, 2, "key CONTROL KEYS");
     const Key pressed = key_of(words[1]);
+    const Key ctrl = key_of("Ctrl");
+    const bool takes_ctrl = !is_modifier(pressed) && !stage.ctrl_held &&
+                            pressed.modifiers.testFlag(Qt::ControlModifier);
     const auto control = reach_for_keys(stage, words[0]);
+    if (control && takes_ctrl)
+        press_key(*control, ctrl);
     if (control)
         press_key(*control, pressed);
     if (control)
         release_key(*control, pressed);
+    if (control && takes_ctrl)
+        release_key(*control, ctrl);
+}
+
+void hold_ctrl(Stage& stage, const Key& key, bool down) {
+    if (key.code == Qt::Key_Control)
+        stage.ctrl_held = down;
 }
 
 void key_down(Stage& stage, Words words) {
     want_words(words, 2, "key-down CONTROL KEYS");
     const Key pressed = key_of(words[1]);
+    hold_ctrl(stage, pressed, true);
     if (const auto control = reach_for_keys(stage, words[0]))
         press_key(*control, pressed);
 }
 
 void key_up(Stage& stage, Words words) {
     want_words(words, 2, "key-up CONTROL KEYS");
-    release_key(find_widget(stage.windows(), words[0]), key_of(words[1]));
+    const Key released = key_of(words[1]);
+    hold_ctrl(stage, released, false);
+    release_key(find_widget(stage.windows(), words[0]), released);
 }
 
 void type(Stage& stage, Words words) {
