@@ -4,7 +4,7 @@
 # start_display WIDTHxHEIGHT, install_program PROGRAM FOLDER, start_program PROGRAM FOLDER [PICTURE],
 # run_program PROGRAM FOLDER [PICTURE], await TITLE, picture FILE, small_picture FILE PLACE,
 # changes COMMAND..., answer KEY, click_at X Y [BUTTON], fill TEXT, choose MENU ENTRY,
-# open_shape FILE [TITLE], save_shape_as FILE [DESCRIPTION]
+# press TABS, open_shape FILE [TITLE], save_shape_as FILE [DESCRIPTION]
 
 display_folder=$(mktemp -d "${TMPDIR:-/tmp}/velmora-display-XXXXXX")
 display_processes=()
@@ -115,6 +115,13 @@ choose() {
     for _ in $(seq "$1"); do changes xdotool key Right; done
     [ ${#down[@]} -eq 0 ] || xdotool key "${down[@]}"
     xdotool key Return
+}
+
+# Presses the button that so many Tabs lead to.
+press() {
+    local tabs=()
+    for _ in $(seq "$1"); do tabs+=(Tab); done
+    xdotool key "${tabs[@]}" space
 }
 
 # Opens a file, up to the main window or to the one with another title.

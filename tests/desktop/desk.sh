@@ -23,6 +23,12 @@ log_in() {
     work=$HOME/piezas
     mkdir "$work"
 }
+# A machine of another country, by its real locale.
+speak() {
+    mkdir -p "$display_folder/locale"
+    localedef -i "$1" -f UTF-8 "$display_folder/locale/$1.UTF-8" || fail "no locale $1"
+    { export LOCPATH=$display_folder/locale LC_ALL=$1.UTF-8; } 2>/dev/null # the shell looks elsewhere
+}
 start() { run_program "${1:-$VELMORA}" "$work"; }
 key() { xdotool key "$@"; }
 lay() { cp "$FIXTURES/$1" "${2:-$work/$1}" && chmod u+w "${2:-$work/$1}"; }
@@ -77,3 +83,5 @@ click_row() { click_at 61 $((103 + 16 * $1)); }
 canvas_picture() { import -window root -crop 300x560+400+140 -depth 8 rgb:- | md5sum; }
 # The value of a stored setting.
 setting() { grep -rh "^$1=" "$XDG_CONFIG_HOME" | cut -d= -f2; }
+setting_is() { [[ $(setting "$1") == "$2" ]]; }
+await_setting() { until_done setting_is "$1" "$2" || fail "$1 is '$(setting "$1")', not '$2'"; }

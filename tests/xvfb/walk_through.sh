@@ -181,11 +181,6 @@ await_workbench() {
     answer Return
     await "$workbench"
 }
-press() {
-    local tabs=()
-    for _ in $(seq "$1"); do tabs+=(Tab); done
-    key "${tabs[@]}" space
-}
 load_side() {
     await "Seleccione Fichero a Abrir"
     fill "$files/$1.dat"
