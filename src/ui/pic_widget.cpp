@@ -34,6 +34,17 @@ PointerEvent pointer_event(const QMouseEvent& event, int button) {
 
 constexpr int kControlKey = 17;
 
+/// A letter from abroad is not the key whose capital it shares: the long s that AltGr and W type on
+/// a Spanish keyboard is no S.
+bool is_borrowed(const QKeyEvent& event) {
+    const QString text = event.text();
+    return text.size() == 1 && text.front().unicode() > 127 && event.key() < 128;
+}
+
+int code_of(const QKeyEvent& event) {
+    return is_borrowed(event) ? 0 : key_code(event.key(), event.modifiers());
+}
+
 } // namespace
 
 PicWidget::PicWidget(QWidget* parent) : QWidget(parent) {
@@ -80,7 +91,7 @@ void PicWidget::mouseReleaseEvent(QMouseEvent* event) {
 void PicWidget::keyPressEvent(QKeyEvent* event) {
     if (!key_down)
         return;
-    const int key = key_code(event->key(), event->modifiers());
+    const int key = code_of(*event);
     const QPointer<PicWidget> alive(this);
     const int losses = focus_losses_;
     key_down(key, key == kControlKey || event->modifiers().testFlag(Qt::ControlModifier));
@@ -91,7 +102,7 @@ void PicWidget::keyPressEvent(QKeyEvent* event) {
 void PicWidget::keyReleaseEvent(QKeyEvent* event) {
     if (event->isAutoRepeat() || !key_up)
         return;
-    const int key = key_code(event->key(), event->modifiers());
+    const int key = code_of(*event);
     key_up(key, key != kControlKey && event->modifiers().testFlag(Qt::ControlModifier));
 }
 
