@@ -63,12 +63,16 @@ set_zoom() {
     await "$main_window"
 }
 
+unrolled() { (($(xwininfo -id "$1" | awk '/Height:/ {print $2}') > 100)); }
 # Points on a straight line stay, since the workbench needs them. A click into the main window rolls
 # the options up.
 keep_all_points() {
+    local options
     choose 5 2
+    options=$(xdotool search --onlyvisible --name "^Opciones Generales$")
+    until_done unrolled "$options" || fail "the options stay rolled up"
+    changes xdotool mousemove --window "$options" 96 21 click 1
     await "Opciones Generales"
-    changes click_at 96 21
     changes key alt+o
     shot 02-options
     xdotool mousemove 180 500 click 1
