@@ -46,6 +46,7 @@ TEST(OBJS2PTS, a_square_of_four_lines_becomes_four_points) {
     walk_dxf();
     session.TotalSinc = 3;
     session.PtosSuprimidos = 4;
+    session.wininfo.TxtPtosSupr = "4";
     Forma.Pto.redim(7);
     Forma.Pto[0].Marca = -1;
     OBJS2PTS();
@@ -111,6 +112,19 @@ TEST(OBJS2PTS, the_empty_list_is_reported_and_kept) {
     EXPECT_EQ(platform.dialogs.boxes[0], (ShownBox{error_box(9, 0), 0, "Velmora"}));
     EXPECT_EQ(Forma.Pto.upper(), 0);
     EXPECT_FALSE(session.files.is_open(1));
+}
+
+// The write index belongs to the chain: an only entity is copied without it.
+TEST(OBJS2PTS, an_only_entity_of_one_point_is_reported_at_point_0) {
+    RecordingPlatform platform;
+    set_drawing({entity(TipoCad::AcDbPolyline, {{3, 4}})});
+    OBJS2PTS();
+    ASSERT_EQ(platform.dialogs.boxes.size(), 1U);
+    EXPECT_EQ(platform.dialogs.boxes[0].text, error_box(9, 0));
+    EXPECT_EQ(places_of(Forma.Pto), (std::vector<Place>{{3, 4}}));
+    EXPECT_EQ(session.UltimoPto, 1);
+    EXPECT_EQ(session.TotalPtos, 0);
+    EXPECT_TRUE(session.ObjsCad[0].Ptos.dimensioned());
 }
 
 TEST(OBJS2PTS, a_scan_that_places_nothing_ends_with_5_and_keeps_points_and_list) {

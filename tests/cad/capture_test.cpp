@@ -3,6 +3,7 @@
 #include "cad/drawing.h"
 #include "cad/scripted_cad.h"
 #include "support/error_number.h"
+#include "support/watching.h"
 
 #include <gmock/gmock.h>
 
@@ -113,6 +114,19 @@ TEST_F(CaptureTest, an_empty_drawing_is_told_and_the_shape_stays) {
                 ElementsAre("El documento cargado en Autocad no tiene ningún objeto!"));
     EXPECT_EQ(Forma.Pto.upper(), 1);
     EXPECT_EQ(origin, True);
+}
+
+TEST_F(CaptureTest, the_list_is_empty_before_an_empty_drawing_is_told) {
+    open_drawing({});
+    test::set_drawing({test::line({0, 0}, {1, 1}), test::line({1, 1}, {2, 2})});
+    int told = 0;
+    const test::WatchingDialogs dialogs([&] {
+        ++told;
+        EXPECT_EQ(session.ObjsCad.upper(), 0);
+        EXPECT_FALSE(session.ObjsCad[0].Ptos.dimensioned());
+    });
+    capture();
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(CaptureTest, text_and_hatch_alone_give_message_22) {

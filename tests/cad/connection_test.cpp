@@ -6,6 +6,7 @@
 #include "support/error_number.h"
 #include "support/fake_cad.h"
 #include "support/recording_platform.h"
+#include "support/watching.h"
 
 #include <gtest/gtest.h>
 
@@ -99,6 +100,25 @@ TEST_F(ConnectionTest, an_application_that_went_clears_its_own_fields_alone) {
     EXPECT_EQ(session.wininfo.ShpAcadDocLoaded, 65280U);
     EXPECT_EQ(session.AcadDocLoaded, False);
     EXPECT_EQ(acad().AcadApp, nullptr);
+    expect_commands(false, false, false);
+}
+
+TEST_F(ConnectionTest, message_31_comes_while_the_application_still_shows) {
+    run_application(true);
+    ReconectaAcad();
+    cad.application.reset();
+    int told = 0;
+    const test::WatchingDialogs dialogs([&] {
+        ++told;
+        EXPECT_EQ(session.AcadDocLoaded, False);
+        EXPECT_EQ(session.AcadOpen, True);
+        EXPECT_EQ(session.wininfo.ShpAcadOpen, 65280U);
+        EXPECT_EQ(session.wininfo.TxtOpensw, "AutoCAD");
+        EXPECT_EQ(session.wininfo.txtAcadVer, "15.0");
+        expect_commands(true, true, true);
+    });
+    ReconectaAcad();
+    EXPECT_EQ(told, 1);
     expect_commands(false, false, false);
 }
 

@@ -70,6 +70,12 @@ TEST_F(Dxf, R14_and_2000_are_taken) {
     EXPECT_TRUE(boxes().empty());
 }
 
+TEST_F(Dxf, the_version_may_stand_anywhere_in_its_line) {
+    for (const std::string_view version : {"14", "x14", "  AC1015 (2000)", "2015", "R14 beta"})
+        EXPECT_EQ(load(dxf_sheet(dxf_line("0", "0", "1", "1"), version)), -1) << version;
+    EXPECT_TRUE(boxes().empty());
+}
+
 TEST_F(Dxf, other_versions_are_refused_and_end_in_the_error_of_the_empty_list) {
     for (const std::string_view version : {"AC1018", "AC1009", "AC1032", ""}) {
         platform.dialogs.boxes.clear();
@@ -145,6 +151,15 @@ TEST_F(Dxf, a_circle_and_an_arc_are_told_apart_by_the_second_line_behind_the_rad
     EXPECT_EQ(session.wininfo.TxtNCircles, "1");
     EXPECT_EQ(session.NArcs, 1);
     EXPECT_EQ(session.wininfo.TxtNArcs, "1");
+}
+
+// Unlike centre and radius, whose exponents come apart by hand.
+TEST_F(Dxf, the_angles_of_an_arc_take_an_exponent_as_it_stands) {
+    session.PutArc = 3;
+    load_and_stop(dxf_arc_rows("0", "0", "10", " 3000E-02 ", "0.9E+2"));
+    ASSERT_EQ(first().NPtos, 3);
+    EXPECT_NEAR(first().Ptos[0].Y, 5, 1e-9);
+    EXPECT_NEAR(first().Ptos[3].Y, 10, 1e-9);
 }
 
 TEST_F(Dxf, a_circle_as_the_last_entity_reads_the_end_of_the_section_ahead) {

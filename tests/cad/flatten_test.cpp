@@ -88,6 +88,20 @@ TEST(Flatten, captured_angles_are_taken_modulo_360_with_their_sign) {
     expect_on_circle(full, 3, 10, 0);
 }
 
+// The ends are the same with full turns and without; only the points between them tell.
+TEST(Flatten, the_points_between_tell_that_full_turns_are_dropped) {
+    RecordingPlatform platform;
+    session.PutArc = 4;
+    const double degree = std::numbers::pi / 180;
+    const auto beyond = capture_arc(0, 0, 10, 10 * degree, 450 * degree);
+    expect_on_circle(beyond, 1, 10, 10 + 20);
+    expect_on_circle(beyond, 2, 10, 10 + 40);
+    const auto below = capture_arc(0, 0, 10, 10 * degree, -370 * degree);
+    expect_on_circle(below, 1, 10, 10 + 85);
+    const auto started_beyond = capture_arc(0, 0, 10, 370 * degree, 50 * degree);
+    expect_on_circle(started_beyond, 1, 10, 10 + 10);
+}
+
 TEST(Flatten, a_circle_of_4_segments) {
     RecordingPlatform platform;
     session.PutCircle = 4;

@@ -2,6 +2,7 @@
 
 #include "cad/scripted_cad.h"
 #include "commands/handlers.h"
+#include "support/watching.h"
 
 #include <gmock/gmock.h>
 
@@ -38,6 +39,17 @@ TEST_F(SendTest, draws_a_closed_polyline_into_a_new_drawing) {
                                        "WindowState 3", "AppActivate Autocad"));
     EXPECT_THAT(machine.windows.calls, ElementsAre("minimize Velmora"));
     EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
+}
+
+TEST_F(SendTest, the_windows_run_behind_each_state_of_the_cads_window) {
+    run_cad();
+    set_shape({{.X = 1}, {.X = 2}});
+    const test::WatchingTurns turns([&] { state.log.emplace_back("turn"); });
+    SendToCad();
+    ASSERT_GE(state.log.size(), 5U);
+    const std::vector<std::string> end(state.log.end() - 5, state.log.end());
+    EXPECT_THAT(
+        end, ElementsAre("WindowState 2", "turn", "WindowState 3", "turn", "AppActivate Autocad"));
 }
 
 TEST_F(SendTest, the_new_drawing_becomes_the_connected_one) {

@@ -2,6 +2,7 @@
 #include "cad/scripted_cad.h"
 #include "commands/handlers.h"
 #include "support/error_number.h"
+#include "support/watching.h"
 
 #include <gmock/gmock.h>
 
@@ -67,6 +68,18 @@ TEST_F(CadCommandsTest, without_the_option_nothing_is_asked) {
     mnu_capture();
     EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
     expect_refreshed(20);
+}
+
+TEST_F(CadCommandsTest, the_list_is_filled_before_the_canvas_is_repainted) {
+    open_square();
+    int repaints = 0;
+    const test::WatchingSurface pic([&] {
+        ++repaints;
+        EXPECT_EQ(session.Velmora.Lst_Coords.size(), 4U);
+        EXPECT_EQ(session.Longitud, 1) << "laid out";
+    });
+    mnu_capture();
+    EXPECT_EQ(repaints, 1);
 }
 
 TEST_F(CadCommandsTest, the_precision_is_applied_behind_the_scaling) {
