@@ -43,6 +43,24 @@ TEST(mnu_openfile, takes_the_file_in_and_refreshes) {
     EXPECT_EQ(platform.settings.get("RecentFiles", "RecentFile1"), platform.path("wing.dat"));
 }
 
+TEST(mnu_openfile, takes_the_default_of_the_zoom_alone) {
+    RecordingPlatform platform;
+    session.PutArc = 91;
+    session.PutCircle = 92;
+    session.Precision = 3;
+    session.winoptions.TxtPutArc = "91";
+    session.winoptions.TxtPutCircle = "92";
+    session.winoptions.TxtPrecision = "3";
+    load_triangle(platform);
+    EXPECT_EQ(session.ZoomFactor, session.Def_Zoom);
+    EXPECT_EQ(session.PutArc, 91);
+    EXPECT_EQ(session.PutCircle, 92);
+    EXPECT_EQ(session.Precision, 3);
+    EXPECT_EQ(session.winoptions.TxtPutArc, "91");
+    EXPECT_EQ(session.winoptions.TxtPutCircle, "92");
+    EXPECT_EQ(session.winoptions.TxtPrecision, "3");
+}
+
 TEST(mnu_openfile, a_failed_load_leaves_the_selection_and_the_list) {
     RecordingPlatform platform;
     load_triangle(platform);

@@ -14,6 +14,7 @@ using test::RecordingPlatform;
 
 const std::string k42(42, 'x');
 const std::string k41(41, 'x');
+const std::string k43(43, 'x');
 
 TEST(GetFileFormat, tells_the_dialect_by_the_first_three_lines) {
     struct Case {
@@ -27,6 +28,7 @@ TEST(GetFileFormat, tells_the_dialect_by_the_first_three_lines) {
         {"three lines of 42", k42 + "\n" + k42 + "\n" + k42, FileFormat::SLWSINC},
         {"42 stands before SLW", slw42 + "\n" + k42 + "\n" + k42 + "\n", FileFormat::SLWSINC},
         {"three lines of 41", k41 + "\n" + k41 + "\n" + k41, FileFormat::NOSLW},
+        {"three lines of 43", k43 + "\n" + k43 + "\n" + k43, FileFormat::NOSLW},
         {"line 2 is shorter", k42 + "\n" + k41 + "\n" + k42, FileFormat::NOSLW},
         {"line 1 is shorter", k41 + "\n" + k42 + "\n" + k42, FileFormat::NOSLW},
         {"42 letters beyond ASCII", std::string(42, '\xF1') + "\n" + k42 + "\n" + k42,

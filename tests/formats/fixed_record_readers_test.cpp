@@ -197,6 +197,23 @@ TEST(CargaSLWSINC, a_sync_record_of_no_point_is_ignored_and_the_total_stays_as_s
     EXPECT_EQ(points(), (std::vector<Pto>{{0, 0, 0, 0}, {1, 1, 0, 0}}));
 }
 
+TEST(CargaSLWSINC, the_record_behind_the_title_is_no_sync_point_whatever_it_holds) {
+    RecordingPlatform platform;
+    const std::string head = record("Fichero DAT(KMR)2002", "ala") + record("SLATEWORKS", "") +
+                             records({{"0", "0"}, {"1", "0"}, {"1", "1"}, {"0", "0"}}) +
+                             record("Puntos Sincronismo", "");
+    EXPECT_EQ(CargaSLWSINC(platform.write("wing.dat", head + record("1", "0") + record("1", "1") +
+                                                          record("0", "0"))),
+              -1);
+    EXPECT_EQ(points(), (std::vector<Pto>{{0, 0, 1, 0}, {1, 0, 0, 0}, {1, 1, 1, 0}}));
+    EXPECT_EQ(session.TotalSinc, 2);
+    EXPECT_EQ(CargaSLWSINC(
+                  platform.write("wing.dat", head + record("x", "no number") + record("1", "1"))),
+              -1);
+    EXPECT_EQ(session.TotalSinc, 1);
+    EXPECT_TRUE(platform.dialogs.boxes.empty());
+}
+
 TEST(CargaSLWSINC, a_file_may_end_anywhere_behind_the_title) {
     const std::string outline = sync_file({{"0", "0"}, {"1", "1"}}, {});
     for (const std::string& text :

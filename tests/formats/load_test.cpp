@@ -8,6 +8,7 @@
 #include "runtime/paths.h"
 #include "runtime/text.h"
 #include "support/recording_platform.h"
+#include "support/watching.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -72,6 +73,18 @@ TEST(CargaFichero, an_empty_LastDir_becomes_the_programs_folder_for_the_dialog) 
     EXPECT_EQ(load_chosen(), 0);
     EXPECT_EQ(platform.dialogs.open_calls.at(0).folder, session.program_folder);
     EXPECT_EQ(session.LastDir, session.program_folder);
+}
+
+TEST(CargaFichero, the_canvas_is_clear_while_the_dialog_stands) {
+    RecordingPlatform platform;
+    int asked = 0;
+    test::WatchingDialogs dialogs([&] {
+        ++asked;
+        EXPECT_EQ(std::ranges::count(platform.pic.operations, "cls"), 1);
+        EXPECT_TRUE(platform.windows.calls.empty());
+    });
+    EXPECT_EQ(load_chosen(), 0);
+    EXPECT_EQ(asked, 1);
 }
 
 TEST(CargaFichero, an_empty_path_ends_it_with_nothing_else) {
@@ -327,6 +340,9 @@ TEST(GetMinXPos, gives_the_first_point_with_the_smallest_X_below_100000) {
     Forma.Pto.redim(1);
     Forma.Pto[0].X = 100000;
     Forma.Pto[1].X = 100001;
+    EXPECT_EQ(GetMinXPos(), 0);
+    Forma.Pto[0].X = 100001;
+    Forma.Pto[1].X = 100000;
     EXPECT_EQ(GetMinXPos(), 0);
     Forma.Pto[1].X = 99999.999;
     EXPECT_EQ(GetMinXPos(), 1);

@@ -136,6 +136,19 @@ TEST(CargaFichero, tabs_are_replaced_from_14_lines_on_before_a_free_text_is_read
     EXPECT_EQ(RecordingPlatform::read(platform.path("wing.dat")).find('\t'), std::string::npos);
 }
 
+// A free text with tabs would be taken once they are blanks; this dialect has no such pass.
+TEST(CargaFichero, tabs_stay_in_a_meridol_file_and_its_lines_are_skipped) {
+    RecordingPlatform platform;
+    std::string text = "MERIDOL\r\n\r\n0 0\r\n1 0\r\n";
+    for (int line = 0; line < 12; ++line)
+        text += "5.5\t" + std::to_string(line) + "\r\n";
+    text += "1 1\r\nSincronismo\r\n\r\n";
+    const std::string path = platform.write("ala.dat", text);
+    EXPECT_EQ(load(path), -1);
+    EXPECT_EQ(points(), (std::vector<Pto>{{0, 0, 0, 0}, {1, 0, 0, 0}, {1, 1, 0, 0}}));
+    EXPECT_EQ(RecordingPlatform::read(path), text);
+}
+
 TEST(CargaFichero, after_a_refused_script_one_use_of_file_1_meets_error_55) {
     RecordingPlatform platform;
     const std::string script = platform.write("wing.scr", "PLINE\r\n0,0\r\n1,1\r\n");

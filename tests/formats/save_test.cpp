@@ -208,6 +208,22 @@ TEST(GeneraFichero, a_script_has_praise_of_its_own_and_sound_can_be_off) {
                   "OSNAP para poder cargarlo correctamente en Autocad!");
 }
 
+TEST(GeneraFichero, the_praise_goes_by_the_path_and_not_by_the_form) {
+    RecordingPlatform platform;
+    square();
+    const auto praise = [&](const std::string& name) {
+        session.Velmora.TxtDat_File = platform.path(name);
+        GeneraFichero();
+        return platform.dialogs.boxes.back().text;
+    };
+    const std::string about_osnap = "OSNAP para poder cargarlo correctamente en Autocad!";
+    EXPECT_TRUE(praise("ala.scr.dat").ends_with(about_osnap));
+    session.GenDATSinc = False;
+    session.GenSCR = True;
+    Forma.Pto[0].Sinc = 0;
+    EXPECT_TRUE(praise("ala.dat").ends_with("creado correctamente! Felicidades y a kortar!"));
+}
+
 TEST(GeneraFichero, an_empty_name_does_nothing) {
     RecordingPlatform platform;
     square();

@@ -97,6 +97,16 @@ TEST(OptimizaPtos, a_slanted_straight_line_stays) {
     EXPECT_EQ(session.wininfo.TxtPtosSupr, "0");
 }
 
+TEST(OptimizaPtos, without_a_removal_the_number_of_the_last_time_goes_back_to_0) {
+    RecordingPlatform platform;
+    session.PtosSuprimidos = 7;
+    session.wininfo.TxtPtosSupr = "7";
+    set_points(with_x({0, 1, 2, 3}));
+    OptimizaPtos();
+    EXPECT_EQ(session.PtosSuprimidos, 0);
+    EXPECT_EQ(session.wininfo.TxtPtosSupr, "0");
+}
+
 TEST(OptimizaPtos, only_exact_equality_counts) {
     RecordingPlatform platform;
     set_points(with_x({0, 1, 1.0000000000000002, 1, 2, 3}));
