@@ -229,6 +229,15 @@ TEST(MouseUp, OfTheLeftButtonWithoutADragDoesNothing) {
     EXPECT_THAT(canvas.operations(), IsEmpty());
 }
 
+TEST(MouseUp, OfTheMiddleButtonEndsADragToo) {
+    Pointer canvas;
+    session.DragPto = True;
+    pic_MouseUp(4, 0, 500, 500);
+    EXPECT_EQ(session.DragPto, False);
+    EXPECT_TRUE(repainted(canvas));
+    EXPECT_THAT(canvas.windows.calls, IsEmpty());
+}
+
 TEST(MouseUp, OfTheRightButtonLeavesADragOn) {
     Pointer canvas;
     session.DragPto = True;

@@ -202,5 +202,18 @@ TEST_F(PrintTest, an_axis_that_fails_is_not_trapped) {
     EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
 }
 
+TEST_F(PrintTest, each_axis_fails_where_it_stands) {
+    machine.printer.height = 1e300;
+    set_shape({{0, 0}, {0, 3}});
+    EXPECT_EQ(test::number_of([] { PrintPic(); }), error::overflow);
+    EXPECT_THAT(printed(), ElementsAre("orientation 1"));
+    machine.printer.width = 1e300;
+    machine.printer.height = 16840;
+    printed().clear();
+    EXPECT_EQ(test::number_of([] { PrintPic(); }), error::overflow);
+    EXPECT_THAT(printed(), ElementsAre("orientation 1", "line 500 0 500 16840"));
+    EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
+}
+
 } // namespace
 } // namespace velmora

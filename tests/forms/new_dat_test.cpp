@@ -194,6 +194,28 @@ TEST_F(NewDat, a_figure_takes_leave_of_the_old_file) {
     EXPECT_EQ(platform_.windows.calls.back(), "unload New_Dat");
 }
 
+TEST_F(NewDat, a_figure_leaves_the_insertion_mode_and_the_thinned_points_as_they_were) {
+    session.PtosToInsertMode = True;
+    session.PtosSuprimidos = 5;
+    session.wininfo.TxtPtosSupr = "5";
+    session.BandaX = session.BandaY = 9;
+    New_Dat_Picture1_Click(kSquare);
+    New_Dat_cmd_ok_Click();
+    EXPECT_EQ(session.PtosToInsertMode, True);
+    EXPECT_EQ(session.PtosSuprimidos, 5);
+    EXPECT_EQ(session.wininfo.TxtPtosSupr, "5");
+    EXPECT_EQ(session.BandaX, 9);
+    EXPECT_EQ(session.BandaY, 9);
+}
+
+// Left by an insertion that no Esc ended; the next Esc goes by it.
+TEST_F(NewDat, by_hand_the_point_selected_before_an_insertion_stays) {
+    session.PtoSelAnt = 3;
+    SSOpt_create_Click();
+    New_Dat_cmd_ok_Click();
+    EXPECT_EQ(session.PtoSelAnt, 3);
+}
+
 struct Start {
     std::size_t option;
     double x, y;

@@ -120,6 +120,18 @@ TEST_F(MultPtos, the_shift_by_1000_shows_in_the_last_bits) {
                                {-0x1.3333333333000p-2, 0x1.999999999a000p-3}}));
 }
 
+// Dividing first and multiplying then: the other order, or a share of the whole, is one bit off.
+TEST_F(MultPtos, a_step_is_the_way_by_the_factor_and_that_by_its_number) {
+    set_shape({{0, 1}, {386, 1}, {386, 0}});
+    choose("6");
+    Mult_Ptos_cmd_ok_Click();
+    EXPECT_EQ(shape()[5].X, 0x1.41aaaaaaaaaa8p+8);
+    set_shape({{1, 58}, {1, 0}, {0, 0}});
+    choose("7");
+    Mult_Ptos_cmd_ok_Click();
+    EXPECT_EQ(shape()[6].Y, 0x1.0924924924900p+3);
+}
+
 TEST_F(MultPtos, factor_1_leaves_the_shape) {
     const Points before = shape();
     choose("1");
