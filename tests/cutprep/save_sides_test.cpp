@@ -2,6 +2,7 @@
 
 #include "cutprep/adjustment.h"
 #include "formats/sample_files.h"
+#include "support/watching.h"
 #include "workbench.h"
 
 #include <algorithm>
@@ -98,6 +99,17 @@ TEST_F(SaveSidesTest, earlier_files_go_to_the_recycle_bin_before_either_is_writt
     Cmd_save_Click();
     EXPECT_EQ(machine.shell.recycled, (std::vector<std::string>{path_A, path_B}));
     EXPECT_EQ(written_A().size(), 8U * 44);
+}
+
+TEST_F(SaveSidesTest, neither_side_is_written_before_both_earlier_files_are_gone) {
+    machine.write("raiz2.DAT", "x");
+    machine.write("punta2.DAT", "y");
+    std::vector<bool> side_A_stood;
+    const test::WatchingShell shell([&](std::string_view) {
+        side_A_stood.push_back(std::filesystem::exists(machine.folder / "raiz2.DAT"));
+    });
+    Cmd_save_Click();
+    EXPECT_EQ(side_A_stood, (std::vector{true, false}));
 }
 
 TEST_F(SaveSidesTest, an_earlier_file_that_can_not_be_deleted_leaves_nothing_in_the_new_one) {

@@ -182,6 +182,21 @@ TEST_F(SideWindowsTest, TheWindowsFollowTheMainWindowsRightSide) {
     }
 }
 
+TEST_F(SideWindowsTest, TheyStayWhereTheyAreWhileTheMainWindowIsMinimised) {
+    QWidget& main = *window("Velmora");
+    main.resize(700, 500);
+    settle();
+    const QPoint place = window("wininfo")->pos();
+    main.showMinimized();
+    main.resize(900, 600);
+    settle();
+    EXPECT_EQ(window("wininfo")->pos(), place);
+    main.showNormal();
+    main.resize(800, 500);
+    settle();
+    EXPECT_NE(window("wininfo")->pos(), place);
+}
+
 TEST_F(SideWindowsTest, TheyStandBesideTheMainWindowWhereTheScreenHasRoom) {
     constexpr int kEnough = 1700;
     const QRect screen = window("Velmora")->screen()->availableGeometry();

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -68,6 +69,24 @@ TEST_F(RecycleBinTest, DeletesWhereTheBinsListCannotBeMade) {
     const QString file = write("ala.dat");
     EXPECT_TRUE(recycle_file(file));
     EXPECT_FALSE(QFileInfo::exists(file));
+}
+
+// A bin in the root of another disk would be one that its owner never looks into.
+TEST_F(RecycleBinTest, DeletesOnAnotherDiskThanTheBins) {
+    const QTemporaryDir elsewhere("/dev/shm/velmora-XXXXXX");
+    if (!elsewhere.isValid() || QStorageInfo(elsewhere.path()) == QStorageInfo(home_.path()))
+        GTEST_SKIP() << "there is no other disk to write on";
+    const auto bins = [] {
+        return QDir("/dev/shm").entryList({".Trash*"}, QDir::AllEntries | QDir::Hidden);
+    };
+    const QStringList before = bins();
+    QFile file(elsewhere.filePath("ala.dat"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    EXPECT_TRUE(recycle_file(file.fileName()));
+    EXPECT_FALSE(file.exists());
+    EXPECT_EQ(bins(), before);
+    EXPECT_TRUE(in_bin().isEmpty());
 }
 
 TEST_F(RecycleBinTest, AFileThatIsNotThereIsGone) {
