@@ -44,8 +44,8 @@ void read_section(DxfText& text) {
     DxfEntities entities(text);
     bool ended = false;
     while (!ended) {
-        if (const auto read = DxfEntities::reader_of(text.counted_line()))
-            ended = (entities.*read)();
+        if (const auto entity = DxfEntities::reader_of(text.counted_line()))
+            ended = entities.read(entity);
         else
             ended = text.at_section_end();
     }

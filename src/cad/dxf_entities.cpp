@@ -29,6 +29,12 @@ DxfEntities::Reader DxfEntities::reader_of(std::string_view line) {
     }
 }
 
+bool DxfEntities::read(Reader entity) {
+    if (taken_ == 0)
+        session.ObjsCad.redim(0);
+    return (this->*entity)();
+}
+
 bool DxfEntities::read_line() {
     Array<Pto> points;
     points.redim(1);
@@ -96,10 +102,7 @@ bool DxfEntities::read_polyline() {
 
 void DxfEntities::take(TipoCad tipo, Array<Pto> points) {
     Array<ObjCad>& objects = session.ObjsCad;
-    if (taken_ == 0)
-        objects.redim(0);
-    else
-        objects.redim_keep(taken_);
+    objects.redim_keep(taken_);
     ObjCad& object = objects[taken_];
     object.NPtos = points.upper();
     object.Ptos = std::move(points);

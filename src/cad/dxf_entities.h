@@ -19,6 +19,8 @@ class DxfEntities {
 
     /// The reader of a marker, which must be the whole line; nullptr for any other line.
     [[nodiscard]] static Reader reader_of(std::string_view line);
+    /// The first marker makes the list one fresh element, also where its entity then fails.
+    bool read(Reader entity);
 
   private:
     bool read_line();

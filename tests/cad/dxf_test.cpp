@@ -6,6 +6,7 @@
 #include "services/messages.h"
 #include "support/recording_platform.h"
 #include "support/trap_text.h"
+#include "support/watching.h"
 
 #include <gtest/gtest.h>
 
@@ -62,6 +63,17 @@ TEST_F(Dxf, a_square_loads) {
     EXPECT_EQ(session.Velmora.pbar2.Value, session.Velmora.pbar2.Max);
     EXPECT_FALSE(session.files.is_open(1));
     EXPECT_TRUE(boxes().empty());
+}
+
+TEST_F(Dxf, the_hourglass_stands_while_the_entities_are_chained) {
+    const std::string chaining = GetMensaje(mensaje::reorganising_1);
+    std::vector<int> seen;
+    const test::WatchingTurns turns([&] {
+        if (session.Velmora.StatusBar1 == chaining)
+            seen.push_back(session.Velmora.MousePointer);
+    });
+    load(dxf_square());
+    EXPECT_EQ(seen, (std::vector{11, 11, 11, 0}));
 }
 
 TEST_F(Dxf, R14_and_2000_are_taken) {
@@ -362,6 +374,18 @@ TEST_F(Dxf, the_first_entity_makes_the_list_one_fresh_element) {
     EXPECT_EQ(load(dxf_square()), -1);
     EXPECT_EQ(Forma.Pto.upper(), 3);
     EXPECT_TRUE(boxes().empty());
+}
+
+TEST_F(Dxf, a_first_entity_that_fails_leaves_one_fresh_element_too) {
+    load_and_stop(dxf_line("0", "0", "10", "0") + dxf_line("10", "0", "10", "10"));
+    EXPECT_EQ(session.ObjsCad.upper(), 1);
+    load_and_stop("");
+    EXPECT_EQ(session.ObjsCad.upper(), 0);
+    EXPECT_FALSE(first().Ptos.dimensioned());
+    platform.dialogs.boxes.clear();
+    EXPECT_EQ(load(dxf_sheet("")), -1);
+    ASSERT_EQ(boxes().size(), 1U);
+    EXPECT_EQ(boxes()[0].text, assembly_failure());
 }
 
 TEST_F(Dxf, line_ends_of_every_kind_are_taken) {
