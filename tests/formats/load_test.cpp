@@ -97,6 +97,13 @@ TEST(CargaFichero, an_empty_path_ends_it_with_nothing_else) {
     EXPECT_FALSE(session.wininfo.chk_wininfo);
 }
 
+TEST(CargaFichero, the_name_in_the_box_leaves_its_folder_to_the_next_dialog_too) {
+    RecordingPlatform platform;
+    session.LastDir = "/antes";
+    EXPECT_EQ(load(platform.write("wing.dat", small_sync_file())), -1);
+    EXPECT_EQ(session.LastDir, runtime::path_text(platform.folder));
+}
+
 TEST(CargaFichero, the_status_panel_tells_reading_and_the_type) {
     RecordingPlatform platform;
     const std::string path = platform.write("wing.dat", small_sync_file());

@@ -136,6 +136,27 @@ TEST(CargaFichero, tabs_are_replaced_from_14_lines_on_before_a_free_text_is_read
     EXPECT_EQ(RecordingPlatform::read(platform.path("wing.dat")).find('\t'), std::string::npos);
 }
 
+// These readers see to the separator by themselves: only a DAT is brought to the machine's.
+TEST(CargaFichero, the_other_formats_are_not_rewritten) {
+    RecordingPlatform platform;
+    std::string script = "pline\r\n";
+    std::string cut;
+    for (int i = 0; i < 20; ++i) {
+        script += std::to_string(i) + "," + std::to_string(i * i) + "\r\n";
+        cut += "XG:" + std::to_string(i) + ".5 YG:" + std::to_string(i * i) + ".25 XD:0 YD:0\r\n";
+    }
+    const auto expect_kept = [&](const std::string& name, const std::string& text) {
+        const std::string path = platform.write(name, text);
+        EXPECT_EQ(load(path), -1) << name;
+        EXPECT_EQ(Forma.Pto.upper(), 19) << name;
+        EXPECT_EQ(RecordingPlatform::read(path), text) << name;
+    };
+    expect_kept("ala.scr", script);
+    session.SepDecimal = ',';
+    expect_kept("ala.cut", cut);
+    EXPECT_TRUE(platform.shell.recycled.empty());
+}
+
 // A free text with tabs would be taken once they are blanks; this dialect has no such pass.
 TEST(CargaFichero, tabs_stay_in_a_meridol_file_and_its_lines_are_skipped) {
     RecordingPlatform platform;

@@ -224,6 +224,20 @@ TEST(GeneraFichero, the_praise_goes_by_the_path_and_not_by_the_form) {
     EXPECT_TRUE(praise("ala.dat").ends_with("creado correctamente! Felicidades y a kortar!"));
 }
 
+TEST(GeneraFichero, a_file_that_is_gone_again_has_no_praise) {
+    RecordingPlatform platform;
+    square();
+    const std::string path = platform.path("wing.dat");
+    session.Velmora.TxtDat_File = path;
+    test::WatchingSettings settings(platform);
+    settings.at_save = [&] {
+        runtime::remove_file(path);
+    };
+    GeneraFichero();
+    EXPECT_TRUE(platform.dialogs.boxes.empty());
+    EXPECT_TRUE(session.Velmora.StatusBar1.ends_with("Creado Correctamente!"));
+}
+
 TEST(GeneraFichero, an_empty_name_does_nothing) {
     RecordingPlatform platform;
     square();
@@ -286,6 +300,19 @@ TEST(GeneraFichero, rounds_and_thins_the_shape_in_memory) {
         EXPECT_EQ(Forma.Pto.upper(), optimise ? 4 : 5);
         EXPECT_EQ(Forma.Pto[2].X, 1);
     }
+}
+
+TEST(GeneraFichero, rounds_before_it_thins) {
+    RecordingPlatform platform;
+    session.Precision = 3;
+    Forma.Pto.redim(5);
+    const double xs[] = {5, 1, 1.0000001, 1, 2, 3};
+    for (std::int32_t i = 0; i <= 5; ++i)
+        Forma.Pto[i] = {xs[i], static_cast<double>(i * i), 0, 0};
+    session.Velmora.TxtDat_File = platform.path("wing.dat");
+    GeneraFichero();
+    EXPECT_EQ(Forma.Pto.upper(), 4);
+    EXPECT_EQ(session.PtosSuprimidos, 1);
 }
 
 TEST(GeneraFichero, refused_it_ends_with_the_normal_pointer_and_no_report) {

@@ -78,6 +78,14 @@ TEST(OptimizaPtos, thins_runs_of_equal_Y_in_what_the_first_pass_left) {
     EXPECT_EQ(session.PtosSuprimidos, 1);
 }
 
+// By Y first, the second and third points would both stay for the pass on X.
+TEST(OptimizaPtos, the_pass_on_X_comes_first) {
+    RecordingPlatform platform;
+    set_points({{0, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 0, 0}, {1, 0, 0, 0}, {1, 1, 0, 0}});
+    OptimizaPtos();
+    EXPECT_EQ(points(), (std::vector<Pto>{{0, 0, 0, 0}, {1, 0, 0, 0}, {1, 1, 0, 0}}));
+}
+
 TEST(OptimizaPtos, both_passes_may_leave_three_points) {
     RecordingPlatform platform;
     set_points({{1, 1, 0, 0}, {1, 1, 0, 0}, {1, 1, 0, 0}, {1, 1, 0, 0}, {1, 1, 0, 0}});
