@@ -47,6 +47,7 @@ TEST(OBJS2PTS, a_square_of_four_lines_becomes_four_points) {
     session.TotalSinc = 3;
     session.PtosSuprimidos = 4;
     session.wininfo.TxtPtosSupr = "4";
+    session.Velmora.MousePointer = 2;
     Forma.Pto.redim(7);
     Forma.Pto[0].Marca = -1;
     OBJS2PTS();
@@ -64,6 +65,7 @@ TEST(OBJS2PTS, a_square_of_four_lines_becomes_four_points) {
     EXPECT_EQ(session.Velmora.StatusBar1, GetMensaje(mensaje::reorganising_2));
     EXPECT_EQ(session.Velmora.Pbar1.Max, 4);
     EXPECT_EQ(session.Velmora.Pbar1.Value, 4);
+    EXPECT_EQ(session.Velmora.MousePointer, 0);
     EXPECT_TRUE(platform.dialogs.boxes.empty());
 }
 

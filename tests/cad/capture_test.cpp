@@ -349,6 +349,14 @@ TEST_F(CaptureTest, a_polyline_with_half_a_vertex_is_a_fault) {
     EXPECT_EQ(number_of([&] { capture(); }), 9);
 }
 
+TEST_F(CaptureTest, a_drawing_opened_since_waits_for_the_next_connection) {
+    open_drawing({"line 0 0 10 0", "line 10 0 0 5"});
+    say({"document Otro.dwg", "line 0 0 1 0"});
+    capture();
+    EXPECT_THAT(outline(), ElementsAre(Place(0, 0), Place(10, 0)));
+    EXPECT_EQ(machine.windows.statuses.front(), "Capturando los objetos contenidos en : ALA.DWG !");
+}
+
 TEST_F(CaptureTest, an_application_or_drawing_that_is_gone_raises_462) {
     open_drawing({"line 0 0 1 0"});
     say({"no-document"});

@@ -56,6 +56,15 @@ TEST(Spline, two_control_points_are_a_straight_line_in_52_points) {
     EXPECT_EQ(points[51], ends[1]);
 }
 
+// Adding 0.02 up drifts away from its multiples, far enough for 15 digits.
+TEST(Spline, the_steps_add_up) {
+    RecordingPlatform platform;
+    const std::vector<Pto> ends = {{}, {.X = 1}};
+    const auto points = capture_spline(ends);
+    ASSERT_EQ(points.upper(), 51);
+    EXPECT_EQ(points[50].X, 0.980000000000001);
+}
+
 TEST(Spline, is_one_curve_of_the_full_degree) {
     RecordingPlatform platform;
     const std::vector<Pto> control = {{}, {.X = 0, .Y = 4}, {.X = 4, .Y = 4}, {.X = 4}};

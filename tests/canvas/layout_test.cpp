@@ -1,5 +1,6 @@
 #include "canvas/drawing.h"
 #include "document/refresh.h"
+#include "support/watching.h"
 
 #include <gtest/gtest.h>
 
@@ -54,6 +55,18 @@ TEST(DefineLayout, ReplacesAZoomOfZeroOrBelow) {
         Define_Layout();
         EXPECT_EQ(session.ZoomFactor, 1) << zoom;
     }
+}
+
+TEST(DefineLayout, TheWindowsRunBetweenTheFiguresAndTheScrollBars) {
+    Canvas canvas;
+    set_shape({{-1, 0}, {10, 0}, {10, 20}});
+    const auto moves = session.Velmora.SSScroll_moves;
+    const test::WatchingTurns turns([&] {
+        EXPECT_EQ(session.TotalPtos, 3);
+        EXPECT_EQ(session.Velmora.SSScroll_moves, moves);
+    });
+    Define_Layout();
+    EXPECT_EQ(turns.yields, 1);
 }
 
 TEST(DefineLayout, PlacesTheScrollBars) {

@@ -2,8 +2,10 @@
 
 #include "document/session.h"
 #include "formats/sample_files.h"
+#include "forms/new_dat.h"
 #include "platform/dialogs.h"
 #include "runtime/paths.h"
+#include "support/outline.h"
 #include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
@@ -85,6 +87,25 @@ TEST(Saving, without_a_shape_shows_message_37_once_and_touches_no_file) {
             EXPECT_EQ(RecordingPlatform::read(path), "x");
         }
     }
+}
+
+// It is drawn with whatever shape comes, until the next compensation.
+TEST(CompensatedOutline, outlives_its_shape) {
+    RecordingPlatform platform;
+    const test::Points outline = {{1, 2}, {3, 4}, {5, 6}};
+    test::fill(Forma.Paralela, outline);
+    load_triangle(platform);
+    EXPECT_EQ(test::points_of(Forma.Paralela), outline);
+    mnu_mirrorh();
+    mnu_closefile();
+    EXPECT_EQ(test::points_of(Forma.Paralela), outline);
+    platform.windows.on_show_modal = [](std::string_view) {
+        New_Dat_Load();
+        New_Dat_Picture1_Click(0);
+        New_Dat_cmd_ok_Click();
+    };
+    mnu_newfile();
+    EXPECT_EQ(test::points_of(Forma.Paralela), outline);
 }
 
 TEST(mnu_closefile, resets_the_document_and_keeps_the_file_name) {

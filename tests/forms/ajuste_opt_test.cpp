@@ -110,6 +110,17 @@ TEST_F(AjusteOptTest, the_button_keeps_the_values_and_closes_the_window) {
     EXPECT_EQ(machine.windows.calls, std::vector<std::string>{"unload ajuste_opt"});
 }
 
+TEST_F(AjusteOptTest, a_distance_that_fails_comes_behind_the_other_two) {
+    window.txt_X = "100";
+    window.txt_Y = "1E999";
+    window.txt_Z = "400";
+    EXPECT_EQ(test::number_of(cmb_ok_Click), error::overflow);
+    EXPECT_EQ(session.OptX, 100);
+    EXPECT_EQ(session.OptZ, 400);
+    EXPECT_EQ(session.OptY, 0);
+    EXPECT_TRUE(machine.windows.calls.empty());
+}
+
 TEST_F(AjusteOptTest, a_text_beyond_f64_raises_6) {
     EXPECT_EQ(test::number_of([&] { type("1E999", "1", "1"); }), error::overflow);
 }
