@@ -41,8 +41,8 @@ class Sheet {
     void box(double left, double top, double right, double bottom) const {
         painter_.drawRect(QRectF(place(left, top), place(right, bottom)));
     }
-    /// A letter in the middle of a place, on a ground that keeps lines off it.
-    void letter(double x, double y, const QString& text, const QColor& ground) const {
+    /// A text in the middle of a place, on a ground that keeps lines off it.
+    void text(double x, double y, const QString& text, const QColor& ground) const {
         QRectF room(QPointF(), QSizeF(painter_.fontMetrics().horizontalAdvance(text) + 8,
                                       painter_.fontMetrics().height()));
         room.moveCenter(place(x, y));
@@ -73,16 +73,16 @@ void draw_tower(const Sheet& sheet, double x) {
 void draw_block(const Sheet& sheet, double left, double letter_x, const QString& side,
                 const QColor& ground) {
     sheet.box(left, kBlockTop - 30, left + kBlockDepth, kGround);
-    sheet.letter(letter_x, kBlockTop + 20, side, ground);
+    sheet.text(letter_x, kBlockTop + 20, side, ground);
 }
 
-/// A distance between two places along the wire, under the drawing.
-void draw_distance(const Sheet& sheet, double from, double to, const QString& letter,
+/// The distance between two places along the wire, in terms of what is entered.
+void draw_distance(const Sheet& sheet, double from, double to, const QString& formula,
                    const QColor& ground) {
     sheet.line(from, kDimension, to, kDimension);
     sheet.arrow_head(from, kDimension, 1);
     sheet.arrow_head(to, kDimension, -1);
-    sheet.letter((from + to) / 2, kDimension, letter, ground);
+    sheet.text((from + to) / 2, kDimension, formula, ground);
 }
 
 void draw_reference_lines(const Sheet& sheet) {
@@ -116,9 +116,9 @@ void DistancesPic::paintEvent(QPaintEvent*) {
     draw_block(sheet, kSideA, kSideA + kBlockDepth / 2, QStringLiteral("A"), ground);
     draw_block(sheet, kSideB - kBlockDepth, kSideB - kBlockDepth / 2, QStringLiteral("B"), ground);
     draw_reference_lines(sheet);
-    draw_distance(sheet, kLeftTower, kSideA, QStringLiteral("X"), ground);
+    draw_distance(sheet, kLeftTower, kSideA, QStringLiteral("X + Z"), ground);
     draw_distance(sheet, kSideA, kSideB, QStringLiteral("Z"), ground);
-    draw_distance(sheet, kSideB, kRightTower, QStringLiteral("Y"), ground);
+    draw_distance(sheet, kSideB, kRightTower, QStringLiteral("Y + Z"), ground);
     painter.setPen(QPen(palette().color(QPalette::Highlight), kLineWidth));
     sheet.line(kLeftTower + kTowerHalf, kWire, kRightTower - kTowerHalf, kWire);
 }

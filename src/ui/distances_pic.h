@@ -1,5 +1,5 @@
 // The picture that explains the three distances of the adjustment: tower, block, block, tower along
-// the wire, with X, Z and Y between them.
+// the wire, X + Z, Z and Y + Z apart.
 #pragma once
 
 #include <QWidget>
