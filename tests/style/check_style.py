@@ -15,7 +15,7 @@ MAX_LINES = 500
 
 # Who may include whom, besides oneself. An arrow points one way.
 LOGIC = ["runtime", "platform", "document", "services"]
-OPERATIONS = LOGIC + ["shapeops", "canvas", "cad", "formats", "cutprep", "generators"]
+OPERATIONS = LOGIC + ["shapeops", "canvas", "cad", "formats", "cutprep", "generators", "import"]
 ROOMS = {
     "runtime": [],
     "platform": ["runtime"],
@@ -27,6 +27,7 @@ ROOMS = {
     "formats": LOGIC + ["cad"],
     "cutprep": LOGIC + ["formats", "canvas"],
     "generators": LOGIC + ["cad"],
+    "import": ["runtime"],
     "forms": OPERATIONS,
     "commands": OPERATIONS + ["forms"],
 }
