@@ -16,7 +16,16 @@ std::int16_t empty_document() {
     return False;
 }
 
+/// A point whose text failed stands half read behind the whole ones: it would be cut as it is.
+void cut_to_whole_points(std::int32_t points) {
+    if (points > 0)
+        Forma.Pto.redim_keep(points - 1);
+    else
+        Forma.Pto.redim(0);
+}
+
 std::int16_t keep_points_so_far(std::int32_t points) {
+    cut_to_whole_points(points);
     session.TotalPtos = points;
     show_count(session.wininfo.TxtTotalPtos, points);
     session.TotalSinc = 0;

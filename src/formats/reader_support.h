@@ -38,7 +38,8 @@ void drop_closing_point(Array<Pto>& points, std::int32_t& count);
 void show_reader_error(const ReaderName& name, const RuntimeError& failure, std::int32_t lines);
 
 /// The error route of a reader: closes file 1, shows the box, asks "Cancel Load?". Yes empties the
-/// document and gives 0; No keeps the points read so far and gives -1.
+/// document and gives 0; No keeps the points read whole so far, none leaving one zeroed record, and
+/// gives -1.
 [[nodiscard]] std::int16_t ask_cancel_load(const ReaderName& name, const RuntimeError& failure,
                                            const ReadCounts& counts);
 /// The error route of a reader that doesn't ask: closes file 1, shows the box, empties the

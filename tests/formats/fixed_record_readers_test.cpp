@@ -117,7 +117,7 @@ TEST(CargaSLWS, an_empty_file_ends_in_the_trap) {
     expect_error_box(platform.dialogs.boxes.at(0), "CargaSLWS", 9, "  -   En Linea: ", 4);
 }
 
-TEST(CargaSLWS, the_point_whose_text_fails_stands_uncounted_when_the_load_is_kept) {
+TEST(CargaSLWS, the_point_whose_text_fails_goes_when_the_load_is_kept) {
     RecordingPlatform platform;
     platform.dialogs.answers = {answer::ok, answer::no};
     const std::string path = platform.write(
@@ -125,7 +125,7 @@ TEST(CargaSLWS, the_point_whose_text_fails_stands_uncounted_when_the_load_is_kep
     EXPECT_EQ(CargaSLWS(path), -1);
     expect_error_box(platform.dialogs.boxes.at(0), "CargaSLWS", 13, "  -   En Linea: ", 5);
     EXPECT_EQ(platform.dialogs.boxes.at(1), (test::ShownBox{"Cancel Load?", 20, "Velmora"}));
-    EXPECT_EQ(points(), (std::vector<Pto>{{0, 0, 0, 0}, {1, 2, 0, 0}, {3, 0, 0, 0}}));
+    EXPECT_EQ(points(), (std::vector<Pto>{{0, 0, 0, 0}, {1, 2, 0, 0}}));
     EXPECT_EQ(session.TotalPtos, 2);
     EXPECT_EQ(session.UltimoPto, 2);
 }
@@ -269,7 +269,7 @@ TEST(CargaSLWSINC, without_the_title_the_record_past_the_end_fails_to_parse) {
                                                             records({{"1", "2"}, {"3", "4"}}));
     EXPECT_EQ(CargaSLWSINC(path), -1);
     expect_error_box(platform.dialogs.boxes.at(0), "CargaSLWSINC", 13, "  - En Linea: ", 5);
-    EXPECT_EQ(points(), (std::vector<Pto>{{1, 2, 0, 0}, {3, 4, 0, 0}, {0, 0, 0, 0}}));
+    EXPECT_EQ(points(), (std::vector<Pto>{{1, 2, 0, 0}, {3, 4, 0, 0}}));
     EXPECT_EQ(session.UltimoPto, 2);
 }
 

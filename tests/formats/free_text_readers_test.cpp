@@ -120,7 +120,7 @@ TEST_F(Noslw, three_numbers_in_a_line_ask_and_No_keeps_what_was_read) {
     EXPECT_EQ(CargaNOSLW(file("title\n1 2\n3 4\n5 6 7\n8 9\n")), -1);
     expect_trap("CargaNOSLW", 13, 4);
     expect_question();
-    EXPECT_EQ(outline(), (std::vector<Place>{{1, 2}, {3, 4}, {5, 0}}));
+    EXPECT_EQ(outline(), (std::vector<Place>{{1, 2}, {3, 4}}));
     EXPECT_EQ(session.TotalPtos, 2);
     EXPECT_EQ(session.wininfo.TxtTotalPtos, "2");
     EXPECT_EQ(session.UltimoPto, 2);
@@ -141,7 +141,7 @@ TEST_F(Noslw, a_file_that_is_not_there_asks_with_line_0) {
     platform.dialogs.answers = {answer::ok, answer::no};
     EXPECT_EQ(CargaNOSLW(platform.path("none.dat")), -1);
     expect_trap("CargaNOSLW", 53, 0);
-    EXPECT_EQ(Forma.Pto.upper(), 6);
+    EXPECT_EQ(outline(), (std::vector<Place>{{0, 0}}));
     EXPECT_EQ(session.TotalPtos, 0);
 }
 
@@ -354,12 +354,12 @@ TEST_F(Profili, the_three_header_lines_are_not_looked_at) {
     EXPECT_EQ(outline(), (std::vector<Place>{{0, 0}, {9, 0}}));
 }
 
-TEST_F(Profili, fewer_lines_than_its_headers_ask_and_No_keeps_the_old_shape) {
+TEST_F(Profili, fewer_lines_than_its_headers_ask_and_No_leaves_one_zeroed_record) {
     platform.dialogs.answers = {answer::ok, answer::no};
     EXPECT_EQ(CargaPROFILI(file("a\nb\n")), -1);
     expect_trap("CargaPROFILI", 62, 2);
     expect_question();
-    EXPECT_EQ(Forma.Pto.upper(), 6);
+    EXPECT_EQ(outline(), (std::vector<Place>{{0, 0}}));
     EXPECT_EQ(session.TotalPtos, 0);
 }
 

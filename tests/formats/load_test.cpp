@@ -198,7 +198,7 @@ TEST(CargaFichero, a_partial_load_that_is_kept_passes_as_a_good_one) {
         platform.write("wing.dat", sync_file({{"0", "0"}, {"1", "1"}, {"2", "x"}}, {}));
     EXPECT_EQ(load(path), -1);
     EXPECT_EQ(session.FileName, path);
-    EXPECT_EQ(Forma.Pto.upper(), 2);
+    EXPECT_EQ(Forma.Pto.upper(), 1);
 }
 
 TEST(CargaFichero, an_unknown_extension_after_a_good_load_passes_with_the_old_shape) {

@@ -85,7 +85,8 @@ TEST(ReaderSupport, a_load_that_is_not_cancelled_keeps_what_was_read) {
     const std::int16_t result = read_asking(
         {"CargaNOSLW"}, {4, 2}, []() -> std::int16_t { raise(error::past_end, "Fin"); });
     EXPECT_EQ(result, -1);
-    EXPECT_EQ(Forma.Pto.upper(), 2);
+    EXPECT_EQ(Forma.Pto.upper(), 1);
+    EXPECT_EQ(Forma.Pto[1], (Pto{1, 2, 0, 0}));
     EXPECT_EQ(session.TotalPtos, 2);
     EXPECT_EQ(session.wininfo.TxtTotalPtos, "2");
     EXPECT_EQ(session.TotalSinc, 0);
@@ -93,6 +94,21 @@ TEST(ReaderSupport, a_load_that_is_not_cancelled_keeps_what_was_read) {
     EXPECT_EQ(session.UltimoPto, 2);
     EXPECT_EQ(platform.dialogs.boxes[0].text,
               "Error CargaNOSLW  nº: 62  - Desc: Fin  - En Linea: 4");
+}
+
+TEST(ReaderSupport, with_no_whole_point_read_one_zeroed_record_stands) {
+    for (const std::int32_t upper : {0, 2}) {
+        RecordingPlatform platform;
+        Forma.Pto.redim(upper);
+        Forma.Pto[0] = {7, 0, 1, 0};
+        platform.dialogs.answers = {answer::ok, answer::no};
+        EXPECT_EQ(read_asking({"CargaNOSLW"}, {1, 0},
+                              []() -> std::int16_t { raise(error::type_mismatch); }),
+                  -1);
+        EXPECT_EQ(Forma.Pto.upper(), 0);
+        EXPECT_EQ(Forma.Pto[0], Pto{});
+        EXPECT_EQ(session.UltimoPto, 0);
+    }
 }
 
 TEST(ReaderSupport, the_refusing_route_shows_one_box) {

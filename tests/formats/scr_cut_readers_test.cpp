@@ -128,7 +128,7 @@ TEST_F(Scr, numbers_that_fail_ask_and_No_keeps_the_points_before) {
     platform.dialogs.answers = {answer::ok, answer::no};
     EXPECT_EQ(CargaSCR(file("pline\n1,2\n3,4,0\n")), -1);
     expect_trap(13, 3);
-    EXPECT_EQ(outline(), (std::vector<Place>{{1, 2}, {3, 0}}));
+    EXPECT_EQ(outline(), (std::vector<Place>{{1, 2}}));
     EXPECT_EQ(session.TotalPtos, 1);
     EXPECT_EQ(session.UltimoPto, 1);
     EXPECT_EQ(session.wininfo.TxtTotalCtrlPtos, "0");
@@ -202,11 +202,11 @@ TEST_F(Cut, missing_labels_ask_before_the_array_grows) {
     }
 }
 
-TEST_F(Cut, values_that_fail_leave_their_point) {
+TEST_F(Cut, values_that_fail_leave_no_point_when_the_load_is_kept) {
     platform.dialogs.answers = {answer::ok, answer::no};
     EXPECT_EQ(CargaCUT(file("XG:3 YG:4 XD:\nXG:5 YG: XD:\n")), -1);
     expect_trap(13, 2);
-    EXPECT_EQ(outline(), (std::vector<Place>{{3, 4}, {5, 0}}));
+    EXPECT_EQ(outline(), (std::vector<Place>{{3, 4}}));
     EXPECT_EQ(session.TotalPtos, 1);
 }
 
