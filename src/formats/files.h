@@ -1,6 +1,7 @@
 // Helpers of all file routines: the recycle bin, the pieces of a path, the passes over a file.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -17,12 +18,19 @@ bool BorraFichero(std::string_view path);
 /// What stands behind the last "\"; the rule for descriptions.
 [[nodiscard]] std::string after_last_backslash(std::string_view text);
 
-/// Rewrites the file with the machine's separator when lines 4 to 13 hold none.
-void SetDecimalSep(std::string_view path);
-/// Rewrites the file with blanks for tabs when one of lines 4 to 13 has a tab.
-void TabToSpace(std::string_view path);
+/// Rewrites the file with the machine's separator when lines 4 to 13 hold none. Gives the path of
+/// what is to be read: the file's own, or that of the passed copy in the program's folder where the
+/// file can't be rewritten and stands as it was. A rewritten file keeps its permissions; of a
+/// symbolic link the target is rewritten.
+std::string SetDecimalSep(std::string_view path);
+/// Rewrites the file with blanks for tabs when one of lines 4 to 13 has a tab, likewise.
+std::string TabToSpace(std::string_view path);
 /// Rewrites the file with "." for "," when one of lines 4 to 13 has a comma; the last two bytes
 /// are lost, on purpose.
 void SetDotDecimals(std::string_view path);
+
+/// Runs `write`, which writes the file through file 1. What a full disk broke off is removed before
+/// the error rises: it is no use, and what comes to keep the shape needs the room.
+void write_or_make_room(std::string_view path, const std::function<void()>& write);
 
 } // namespace velmora

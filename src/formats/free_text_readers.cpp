@@ -122,27 +122,39 @@ Pass read_profili(std::string_view path, ReadCounts& counts, CoordinateLimit& li
 } // namespace
 
 std::int16_t CargaSLWMD(std::string_view path) {
+    return CargaSLWMD(path, path);
+}
+
+std::int16_t CargaSLWMD(std::string_view path, std::string_view shown_path) {
     ReadCounts counts;
     return read_refusing({"CargaSLWMD"}, counts, [&] {
-        return read_within_limit(path, Forma.Pto, counts, [&](CoordinateLimit& limit) {
+        return read_within_limit(shown_path, Forma.Pto, counts, [&](CoordinateLimit& limit) {
             return read_slwmd(path, counts, limit);
         });
     });
 }
 
 std::int16_t CargaNOSLW(std::string_view path) {
+    return CargaNOSLW(path, path);
+}
+
+std::int16_t CargaNOSLW(std::string_view path, std::string_view shown_path) {
     ReadCounts counts;
     return read_asking({"CargaNOSLW"}, counts, [&] {
-        return read_within_limit(path, Forma.Pto, counts, [&](CoordinateLimit& limit) {
+        return read_within_limit(shown_path, Forma.Pto, counts, [&](CoordinateLimit& limit) {
             return read_noslw(path, counts, limit);
         });
     });
 }
 
 std::int16_t CargaPROFILI(std::string_view path) {
+    return CargaPROFILI(path, path);
+}
+
+std::int16_t CargaPROFILI(std::string_view path, std::string_view shown_path) {
     ReadCounts counts;
     return read_asking({"CargaPROFILI"}, counts, [&] {
-        return read_within_limit(path, Forma.Pto, counts, [&](CoordinateLimit& limit) {
+        return read_within_limit(shown_path, Forma.Pto, counts, [&](CoordinateLimit& limit) {
             return read_profili(path, counts, limit);
         });
     });

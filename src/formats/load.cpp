@@ -12,6 +12,7 @@
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
+#include "runtime/paths.h"
 #include "runtime/text.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
@@ -114,20 +115,43 @@ void refuse(const std::string& path, const std::string& format_text) {
     set_pointer(0);
 }
 
-std::int16_t read_dialect_file(std::string_view path, FileFormat format) {
+/// What a reader reads: the file, or where a pass could not rewrite it the passed copy, which goes
+/// once it was read.
+class PassedFile {
+  public:
+    explicit PassedFile(std::string_view path) : path_(path), to_read_(path) {
+        to_read_ = SetDecimalSep(to_read_);
+    }
+    ~PassedFile() {
+        if (to_read_ != path_)
+            runtime::remove_file(to_read_);
+    }
+    PassedFile(const PassedFile&) = delete;
+    PassedFile& operator=(const PassedFile&) = delete;
+
+    void tabs_to_blanks() { to_read_ = TabToSpace(to_read_); }
+    [[nodiscard]] const std::string& path() const { return path_; }
+    [[nodiscard]] const std::string& to_read() const { return to_read_; }
+
+  private:
+    std::string path_;
+    std::string to_read_;
+};
+
+std::int16_t read_dialect_file(PassedFile& file, FileFormat format) {
     switch (format) {
     case FileFormat::SLWS:
-        return CargaSLWS(path);
+        return CargaSLWS(file.to_read());
     case FileFormat::SLWSINC:
-        return CargaSLWSINC(path);
+        return CargaSLWSINC(file.to_read());
     case FileFormat::NOSLW:
-        TabToSpace(path);
-        return CargaNOSLW(path);
+        file.tabs_to_blanks();
+        return CargaNOSLW(file.to_read(), file.path());
     case FileFormat::SLWMD:
-        return CargaSLWMD(path);
+        return CargaSLWMD(file.to_read(), file.path());
     case FileFormat::PROFILI:
-        TabToSpace(path);
-        return CargaPROFILI(path);
+        file.tabs_to_blanks();
+        return CargaPROFILI(file.to_read(), file.path());
     case FileFormat::undecided:
         break;
     }
@@ -186,8 +210,8 @@ void CargaFichero(std::int16_t mode, std::int16_t& result) {
 std::int16_t CargaDAT(std::string_view path, FileFormat format) {
     show_reading(path);
     DoEvents();
-    SetDecimalSep(path);
-    const std::int16_t result = read_dialect_file(path, format);
+    PassedFile file(path);
+    const std::int16_t result = read_dialect_file(file, format);
     set_status("");
     DoEvents();
     return result;

@@ -5,8 +5,10 @@
 #include "runtime/paths.h"
 #include "runtime/text.h"
 #include "support/recording_platform.h"
+#include "support/unprivileged.h"
 
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace velmora {
@@ -191,6 +193,127 @@ TEST(SetDecimalSep, a_file_1_left_open_by_another_reader_raises_55_and_stays_ope
 }
 
 #ifdef __linux__
+namespace fs = std::filesystem;
+
+/// A program's folder open to all, and beside it a folder with one file that only its owner, or
+/// nobody at all, may write.
+class ReadOnlyFile {
+  public:
+    explicit ReadOnlyFile(const std::string& text) {
+        fs::permissions(platform.folder, fs::perms::all);
+        fs::create_directory(folder);
+        path = platform.write("leer/wing.dat", text);
+        fs::permissions(path,
+                        fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+        set_folder(fs::perms{0555});
+    }
+    ~ReadOnlyFile() { set_folder(fs::perms::all); }
+    ReadOnlyFile(const ReadOnlyFile&) = delete;
+    ReadOnlyFile& operator=(const ReadOnlyFile&) = delete;
+
+    void set_folder(fs::perms allowed) const { fs::permissions(folder, allowed); }
+
+    RecordingPlatform platform;
+    fs::path folder = platform.folder / "leer";
+    std::string path;
+};
+
+TEST(Passes, a_file_that_can_not_be_rewritten_stands_and_its_passed_copy_is_to_be_read) {
+    const std::string text = lines(14, 6, "1,5\t2");
+    const ReadOnlyFile file(text);
+    const test::OrdinaryUser user;
+    if (!user.stands())
+        GTEST_SKIP() << "no other user to be";
+    const std::string dotted = SetDecimalSep(file.path);
+    EXPECT_NE(dotted, file.path);
+    EXPECT_EQ(RecordingPlatform::read(dotted), lines(14, 6, "1.5\t2"));
+    const std::string blanked = TabToSpace(dotted);
+    EXPECT_EQ(RecordingPlatform::read(blanked), lines(14, 6, "1.5 2"));
+    EXPECT_EQ(RecordingPlatform::read(file.path), text);
+    EXPECT_FALSE(runtime::file_exists(program_file("\\temp.dat")));
+    EXPECT_TRUE(file.platform.dialogs.boxes.empty());
+}
+
+TEST(Passes, tabs_alone_are_passed_in_a_copy_too) {
+    const ReadOnlyFile file(lines(14, 6, "1\t2"));
+    const test::OrdinaryUser user;
+    if (!user.stands())
+        GTEST_SKIP() << "no other user to be";
+    EXPECT_EQ(RecordingPlatform::read(TabToSpace(file.path)), lines(14, 6, "1 2"));
+    EXPECT_EQ(RecordingPlatform::read(file.path), lines(14, 6, "1\t2"));
+}
+
+TEST(Passes, a_file_of_another_user_in_a_folder_with_restricted_deletion_stands) {
+    const ReadOnlyFile file(lines(14, 6, "1,5"));
+    file.set_folder(fs::perms::all | fs::perms::sticky_bit);
+    const test::OrdinaryUser user;
+    if (geteuid() == getuid() || !user.stands())
+        GTEST_SKIP() << "no other user to be";
+    EXPECT_EQ(RecordingPlatform::read(SetDecimalSep(file.path)), lines(14, 6, "1.5"));
+    EXPECT_EQ(RecordingPlatform::read(file.path), lines(14, 6, "1,5"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(file.folder), fs::directory_iterator()), 1);
+}
+
+TEST(Passes, a_full_disk_under_the_file_leaves_it_and_the_copy_is_read) {
+    const test::SmallDisk disk(8192);
+    if (!disk.stands())
+        GTEST_SKIP() << "this user can't mount a small disk";
+    RecordingPlatform platform;
+    const std::string text = lines(14, 6, "1,5") + std::string(5000, 'x');
+    std::ofstream(disk.path("wing.dat"), std::ios::binary) << text;
+    const std::string to_read = SetDecimalSep(disk.path("wing.dat"));
+    EXPECT_EQ(RecordingPlatform::read(to_read), runtime::replaced(text, ',', '.'));
+    EXPECT_EQ(RecordingPlatform::read(disk.path("wing.dat")), text);
+    EXPECT_TRUE(platform.shell.recycled.empty());
+}
+
+TEST(Passes, keep_the_permissions_of_the_file) {
+    for (const fs::perms kept : {fs::perms::owner_read | fs::perms::owner_write,
+                                 fs::perms::owner_read | fs::perms::group_read, fs::perms::all}) {
+        RecordingPlatform platform;
+        const std::string path = platform.write("wing.dat", lines(14, 6, "1,5\t2"));
+        fs::permissions(path, kept);
+        EXPECT_EQ(SetDecimalSep(path), path);
+        EXPECT_EQ(TabToSpace(path), path);
+        EXPECT_EQ(RecordingPlatform::read(path), lines(14, 6, "1.5 2"));
+        EXPECT_EQ(fs::status(path).permissions(), kept);
+    }
+}
+
+TEST(Passes, rewrite_the_target_of_a_symbolic_link_and_the_link_stays) {
+    RecordingPlatform platform;
+    fs::create_directory(platform.folder / "lejos");
+    platform.write("lejos/ala.dat", lines(14, 6, "1,5\t2"));
+    fs::create_symlink("lejos/ala.dat", platform.folder / "wing.dat");
+    const std::string path = platform.path("wing.dat");
+    EXPECT_EQ(SetDecimalSep(path), path);
+    EXPECT_EQ(TabToSpace(path), path);
+    EXPECT_TRUE(fs::is_symlink(path));
+    EXPECT_EQ(RecordingPlatform::read(platform.path("lejos/ala.dat")), lines(14, 6, "1.5 2"));
+}
+
+TEST(Passes, a_saved_file_is_written_over_where_its_folder_takes_no_new_one) {
+    const ReadOnlyFile file(lines(14, 6, "1,5"));
+    fs::permissions(file.path, fs::perms::all);
+    const test::OrdinaryUser user;
+    if (!user.stands())
+        GTEST_SKIP() << "no other user to be";
+    SetDotDecimals(file.path);
+    const std::string dotted = lines(14, 6, "1.5");
+    EXPECT_EQ(RecordingPlatform::read(file.path), dotted.substr(0, dotted.size() - 2));
+}
+
+TEST(SetDecimalSep, a_copy_that_a_full_disk_broke_off_is_removed) {
+    const test::SmallDisk disk(8192);
+    if (!disk.stands())
+        GTEST_SKIP() << "this user can't mount a small disk";
+    RecordingPlatform platform;
+    const std::string path = platform.write("wing.dat", lines(14) + std::string(20000, 'x'));
+    session.program_folder = disk.path("");
+    EXPECT_EQ(number_of([&] { SetDecimalSep(path); }), 61);
+    EXPECT_TRUE(fs::is_empty(disk.path()));
+}
+
 TEST(SetDecimalSep, a_full_disk_under_the_temp_file_leaves_the_source) {
     RecordingPlatform platform;
     // The link is not deleted, so the copy is written to the device.

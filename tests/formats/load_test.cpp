@@ -9,8 +9,10 @@
 #include "runtime/text.h"
 #include "support/recording_platform.h"
 #include "support/watching.h"
+#include "support/unprivileged.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace velmora {
@@ -200,6 +202,37 @@ TEST(CargaFichero, a_partial_load_that_is_kept_passes_as_a_good_one) {
     EXPECT_EQ(session.FileName, path);
     EXPECT_EQ(Forma.Pto.upper(), 1);
 }
+
+#ifdef __linux__
+TEST(CargaFichero, a_file_that_can_not_be_rewritten_loads_by_its_passed_copy) {
+    namespace fs = std::filesystem;
+    RecordingPlatform platform;
+    fs::permissions(platform.folder, fs::perms::all);
+    fs::create_directory(platform.folder / "leer");
+    std::string text = "titulo\r\n";
+    for (int i = 0; i < 20; ++i)
+        text += std::to_string(i) + ",5\t" + std::to_string(i * i) + "\r\n";
+    const std::string path = platform.write("leer/wing.dat", text);
+    fs::permissions(path, fs::perms{0444});
+    fs::permissions(platform.folder / "leer", fs::perms{0555});
+    platform.dialogs.answers = {answer::no};
+    {
+        const test::OrdinaryUser user;
+        if (!user.stands())
+            GTEST_SKIP() << "no other user to be";
+        EXPECT_EQ(load(path), -1);
+    }
+    fs::permissions(platform.folder / "leer", fs::perms::all);
+    ASSERT_EQ(Forma.Pto.upper(), 19);
+    EXPECT_EQ(Forma.Pto[19], (Pto{19.5, 361, 0, 0}));
+    EXPECT_EQ(session.FileName, path);
+    EXPECT_EQ(RecordingPlatform::read(path), text);
+    // The question about (0,0) alone.
+    EXPECT_EQ(platform.dialogs.boxes.size(), 1U);
+    EXPECT_FALSE(runtime::file_exists(platform.path("leido.dat")));
+    EXPECT_FALSE(runtime::file_exists(platform.path("temp.dat")));
+}
+#endif
 
 TEST(CargaFichero, an_unknown_extension_after_a_good_load_passes_with_the_old_shape) {
     RecordingPlatform platform;
