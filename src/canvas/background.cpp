@@ -1,9 +1,11 @@
 #include "canvas/background.h"
 
 #include "canvas/surface.h"
+#include "document/feedback.h"
 #include "document/session.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
+#include "runtime/error.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 
@@ -17,8 +19,13 @@ void CargaImagen() {
     const std::string file = platform().dialogs.open_file(request);
     if (file.empty())
         return;
-    platform().pic.set_picture(file);
-    platform().pic.present();
+    // What is no picture leaves the background as it was.
+    trap(
+        [&file] {
+            platform().pic.set_picture(file);
+            platform().pic.present();
+        },
+        [](const RuntimeError& failure) { show_trap("Error CargaImagen nº: ", failure); });
 }
 
 } // namespace velmora

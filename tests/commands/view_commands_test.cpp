@@ -99,6 +99,26 @@ TEST(BackgroundPicture, WithoutALastFolderTheDialogOpensInThePrograms) {
     EXPECT_EQ(session.LastDir, "");
 }
 
+/// A canvas for which no file is a picture.
+class Unpictured : public test::RecordingSurface {
+  public:
+    void set_picture(std::string_view) override { raise(error::invalid_picture); }
+};
+
+TEST(BackgroundPicture, AFileThatIsNoPictureIsToldAndTheProgramGoesOn) {
+    Canvas canvas;
+    Unpictured pic;
+    set_platform({canvas.dialogs, canvas.windows, canvas.shell, canvas.settings, *canvas.database,
+                  canvas.clock, canvas.machine, pic, canvas.cad});
+    canvas.dialogs.paths = {"/shapes/notes.bmp"};
+    mnu_loadimg();
+    ASSERT_EQ(canvas.dialogs.boxes.size(), 1U);
+    EXPECT_EQ(
+        canvas.dialogs.boxes[0],
+        (test::ShownBox{"Error CargaImagen nº: 481  - Desc: Imagen no válida", 0, "Velmora"}));
+    EXPECT_TRUE(pic.operations.empty());
+}
+
 TEST(BackgroundPicture, CancelledDialogChangesNothing) {
     Canvas canvas;
     mnu_loadimg();
