@@ -37,7 +37,18 @@ std::string ask_for_path() {
     return platform().dialogs.save_file({.title = GetMensaje(mensaje::save_title),
                                          .filter = session.DefExt + " | *" + session.DefExt,
                                          .folder = session.program_folder,
-                                         .name = offered_name()});
+                                         .name = offered_name(),
+                                         .extension = session.DefExt});
+}
+
+/// A file without an extension would be written, and never be read again.
+std::string with_extension(const std::string& path) {
+    const std::string name = SoloNombre(path);
+    if (name.empty())
+        return path;
+    if (name.back() == '.')
+        return path.substr(0, path.size() - 1) + session.DefExt;
+    return name.find('.') == std::string::npos ? path + session.DefExt : path;
 }
 
 int ask_to_overwrite() {
@@ -50,7 +61,7 @@ int ask_to_overwrite() {
 /// question, FileName keeps the path.
 bool choose_path() {
     for (;;) {
-        const std::string path = ask_for_path();
+        const std::string path = with_extension(ask_for_path());
         if (path.empty())
             return false;
         session.FileName = path;

@@ -31,8 +31,9 @@ inline constexpr int information = 64;
 struct FileRequest {
     std::string title;
     std::string filter; ///< "Archivo DAT (*.DAT)|*.DAT|...": names and patterns between bars
-    std::string folder;
-    std::string name;
+    std::string folder; ///< where the dialog opens, unless the name has its own
+    std::string name;   ///< an absolute one wins over the folder
+    std::string extension = {}; ///< ".dat": what a name without one takes when it is saved
 };
 
 struct FontChoice {

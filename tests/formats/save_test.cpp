@@ -9,6 +9,7 @@
 #include "runtime/text.h"
 #include "support/recording_platform.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace velmora {
@@ -75,6 +76,51 @@ TEST(DialogoGuardar, a_last_name_shorter_than_four_characters_ends_it_without_a_
     EXPECT_TRUE(platform.dialogs.save_calls.empty());
     EXPECT_TRUE(platform.dialogs.boxes.empty());
     EXPECT_EQ(session.FileName, "a.b");
+}
+
+TEST(DialogoGuardar, a_name_without_an_extension_takes_the_present_one) {
+    struct Case {
+        const char* extension;
+        const char* typed;
+        const char* written;
+    };
+    for (const Case& c : std::vector<Case>{{".dat", "wing", "wing.dat"},
+                                           {".scr", "wing", "wing.scr"},
+                                           {".dat", "wing.", "wing.dat"},
+                                           {".dat", "v1.2/wing", "v1.2/wing.dat"},
+                                           {".dat", "v1.2\\wing", "v1.2\\wing.dat"},
+                                           {".dat", "wing.DAT", "wing.DAT"},
+                                           {".dat", "wing.txt", "wing.txt"},
+                                           {".dat", "ala 2.5", "ala 2.5"},
+                                           {".dat", "ala ñ", "ala ñ.dat"}}) {
+        RecordingPlatform platform;
+        square();
+        session.DefExt = c.extension;
+        platform.dialogs.paths = {platform.path(c.typed)};
+        DialogoGuardar();
+        EXPECT_EQ(session.FileName, platform.path(c.written));
+        EXPECT_EQ(session.Velmora.TxtDat_File, platform.path(c.written));
+        EXPECT_EQ(platform.dialogs.save_calls.at(0).extension, c.extension);
+    }
+}
+
+TEST(DialogoGuardar, the_question_is_about_the_name_that_will_be_written) {
+    RecordingPlatform platform;
+    square();
+    platform.write("wing", "x");
+    const std::string old = platform.write("wing.dat", "x");
+    platform.dialogs.paths = {platform.path("wing")};
+    platform.dialogs.answers = {answer::cancel};
+    DialogoGuardar();
+    ASSERT_EQ(platform.dialogs.boxes.size(), 1U);
+    EXPECT_EQ(platform.dialogs.boxes[0].text,
+              "El fichero : " + old + " ya existe, desea sobreescribirlo?");
+    platform.dialogs.boxes.clear();
+    platform.dialogs.paths = {platform.path("wing.")};
+    std::filesystem::remove(platform.folder / "wing.dat");
+    DialogoGuardar();
+    EXPECT_TRUE(platform.dialogs.boxes.empty());
+    EXPECT_EQ(session.FileName, old);
 }
 
 TEST(DialogoGuardar, the_filter_follows_the_extension_and_a_script_has_no_description) {

@@ -6,7 +6,9 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QFontInfo>
@@ -14,6 +16,7 @@
 #include <QMessageBox>
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <tuple>
 
 namespace velmora {
@@ -96,8 +99,44 @@ int answer_of(int button) {
     }
 }
 
-QString start_of(const FileRequest& request) {
-    return QString::fromStdString(runtime::join(request.folder, request.name));
+/// The name with the machine's own separators.
+QFileInfo named_file(const FileRequest& request) {
+    return QFileInfo(qt_text(runtime::path_text(runtime::native_path(request.name))));
+}
+
+/// Where the dialog opens: an absolute name has its own folder, as long as that is there.
+QString folder_of(const FileRequest& request) {
+    const QFileInfo named = named_file(request);
+    if (named.isAbsolute() && named.dir().exists())
+        return named.dir().absolutePath();
+    return qt_text(request.folder);
+}
+
+/// The dialog stands in its folder with the name put in. What `prepare` sets comes first: the name
+/// is completed by it. Empty when cancelled.
+std::string ask_for_file(const FileRequest& request,
+                         const std::function<void(QFileDialog&)>& prepare) {
+    QFileDialog dialog(owner(), qt_text(request.title), folder_of(request),
+                       toolkit_filter(request.filter));
+    dialog.setSupportedSchemes({QStringLiteral("file")});
+    prepare(dialog);
+    if (!request.name.empty())
+        dialog.selectFile(named_file(request).fileName());
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return dialog.selectedFiles().value(0).toStdString();
+}
+
+void prepare_to_open(QFileDialog& dialog) {
+    dialog.setFileMode(QFileDialog::ExistingFile);
+}
+
+void prepare_to_save(QFileDialog& dialog, const std::string& extension) {
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(qt_text(extension)); // with its point or without
+    // Whether to write over a file is the program's own question.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
 }
 
 std::uint32_t colour_value(const QColor& colour) {
@@ -125,17 +164,13 @@ class QtDialogs : public Dialogs {
     }
 
     std::string open_file(const FileRequest& request) override {
-        return QFileDialog::getOpenFileName(owner(), qt_text(request.title), start_of(request),
-                                            toolkit_filter(request.filter))
-            .toStdString();
+        return ask_for_file(request, prepare_to_open);
     }
 
     std::string save_file(const FileRequest& request) override {
-        // Whether to write over a file is the program's own question.
-        return QFileDialog::getSaveFileName(owner(), qt_text(request.title), start_of(request),
-                                            toolkit_filter(request.filter), nullptr,
-                                            QFileDialog::DontConfirmOverwrite)
-            .toStdString();
+        return ask_for_file(request, [&request](QFileDialog& dialog) {
+            prepare_to_save(dialog, request.extension);
+        });
     }
 
     std::optional<std::uint32_t> choose_colour(std::uint32_t present) override {
