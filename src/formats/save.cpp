@@ -77,7 +77,8 @@ bool choose_path() {
 
 void ask_for_description() {
     std::string& description = session.Velmora.TxtDescDat;
-    description = InputBox(GetMensaje(mensaje::ask_description), box_title(), description);
+    description = without_control_characters(
+        InputBox(GetMensaje(mensaje::ask_description), box_title(), description));
     if (description.empty())
         description = SoloNombre(session.FileName);
 }

@@ -3,9 +3,11 @@
 
 #include "document/forma.h"
 #include "document/number_text.h"
+#include "formats/box_text.h"
 #include "formats/fixed_record.h"
 #include "runtime/text.h"
 
+#include <string>
 #include <string_view>
 
 namespace velmora {
@@ -18,7 +20,8 @@ void sync_dat_outline(std::string_view description, Write&& write, AfterPoint&& 
         write(FixedRecord(CStr(point.X), CStr(point.Y)));
         after_point();
     };
-    write(FixedRecord("Fichero DAT(KMR)2002", runtime::to_1252(runtime::Trim(description))));
+    const std::string one_line = without_control_characters(description);
+    write(FixedRecord("Fichero DAT(KMR)2002", runtime::to_1252(runtime::Trim(one_line))));
     write(FixedRecord("SLATEWORKS", ""));
     const std::int32_t upper = Forma.Pto.upper();
     for (std::int32_t i = 0; i <= upper; ++i)

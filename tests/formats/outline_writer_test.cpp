@@ -83,6 +83,13 @@ TEST(EscribeFichero, a_description_is_cut_at_21_characters_and_an_empty_one_is_b
                            {"ABCDEFGHIJKLMNOPQRSTUVWXYZ1234", "ABCDEFGHIJKLMNOPQRSTU"},
                            {"ñandú €", "\xF1"
                                        "and\xFA \x80"},
+                           {"ala\nizquierda", "ala izquierda"},
+                           {"\r\nala\t\x7F"
+                            "2\n",
+                            "ala  2"},
+                           {"uno\xC2\x85"
+                            "dos",
+                            "uno dos"},
                            {"ñññññññññññññññññññññZZZ", std::string(21, '\xF1')},
                            {"日本", "??"}}) {
         RecordingPlatform platform;

@@ -157,6 +157,15 @@ TEST(DialogoGuardar, a_description_is_cut_behind_its_last_backslash_alone) {
     EXPECT_EQ(session.Velmora.TxtDescDat, "");
 }
 
+TEST(DialogoGuardar, control_characters_in_a_description_become_blanks) {
+    RecordingPlatform platform;
+    square();
+    platform.dialogs.paths = {platform.path("wing.dat")};
+    platform.dialogs.inputs = {"ala\nizquierda\t2\x1A"};
+    DialogoGuardar();
+    EXPECT_EQ(session.Velmora.TxtDescDat, "ala izquierda 2 ");
+}
+
 TEST(DialogoGuardar, a_file_that_exists_is_asked_about) {
     RecordingPlatform platform;
     square();
