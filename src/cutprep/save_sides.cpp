@@ -40,7 +40,7 @@ void write_sync_points(const Array<Pto>& points) {
             write_record(record_of(points[i]));
 }
 
-void write_side(const Side& side) {
+void write_records(const Side& side) {
     open_records_anew(side.Txt_File2);
     write_record({"Fichero DAT(KMR)2002", "corrpoltrap"});
     write_record({"SLATEWORKS", ""});
@@ -50,6 +50,10 @@ void write_side(const Side& side) {
     write_record({"", ""});
     write_sync_points(side.Ptos2);
     session.files.close(1);
+}
+
+void write_side(const Side& side) {
+    write_or_make_room(side.Txt_File2, [&side] { write_records(side); });
     SetDotDecimals(side.Txt_File2);
 }
 

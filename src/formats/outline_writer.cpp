@@ -47,8 +47,8 @@ bool ensure_sync_point() {
     return true;
 }
 
-/// The sync DAT. Refused, it stays as far as it was written, on purpose.
-std::int16_t write_sync_dat() {
+/// Refused, the file stays as far as it was written, on purpose.
+std::int16_t write_sync_records() {
     open_records_anew(session.FileName);
     sync_dat_outline(session.Velmora.TxtDescDat, write_record, step_progress);
     if (!ensure_sync_point()) {
@@ -57,8 +57,15 @@ std::int16_t write_sync_dat() {
     }
     sync_dat_sync_points(write_record, step_progress);
     session.files.close(1);
-    SetDotDecimals(session.FileName);
     return True;
+}
+
+std::int16_t write_sync_dat() {
+    std::int16_t written = False;
+    write_or_make_room(session.FileName, [&] { written = write_sync_records(); });
+    if (written == True)
+        SetDotDecimals(session.FileName);
+    return written;
 }
 
 /// "0.00000" with a point on every machine.
@@ -86,21 +93,25 @@ bool may_lose_sync_points() {
 std::int16_t write_script() {
     if (!may_lose_sync_points())
         return False;
-    session.files.open_output(1, session.FileName);
-    write_line("pline");
-    write_point_lines(',');
-    write_line("");
-    session.files.close(1);
+    write_or_make_room(session.FileName, [] {
+        session.files.open_output(1, session.FileName);
+        write_line("pline");
+        write_point_lines(',');
+        write_line("");
+        session.files.close(1);
+    });
     return True;
 }
 
 std::int16_t write_profile_dat() {
     if (!may_lose_sync_points())
         return False;
-    session.files.open_output(1, session.FileName);
-    write_line(runtime::to_1252(runtime::UCase(SoloNombre(session.FileName))));
-    write_point_lines(' ');
-    session.files.close(1);
+    write_or_make_room(session.FileName, [] {
+        session.files.open_output(1, session.FileName);
+        write_line(runtime::to_1252(runtime::UCase(SoloNombre(session.FileName))));
+        write_point_lines(' ');
+        session.files.close(1);
+    });
     return True;
 }
 

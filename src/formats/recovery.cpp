@@ -1,27 +1,47 @@
 #include "formats/recovery.h"
 
 #include "document/session.h"
+#include "formats/files.h"
 #include "formats/sync_dat.h"
+#include "runtime/file_beside.h"
 #include "runtime/files.h"
 #include "runtime/paths.h"
 
+#include <algorithm>
+#include <array>
 #include <filesystem>
+#include <string_view>
+#include <vector>
 
 namespace velmora {
 
 namespace {
 
-std::string numbered(int number) {
-    return program_file("recuperado" + std::to_string(number) + ".dat");
+/// Where the shape may be kept, the best place first.
+std::vector<std::string> places() {
+    std::error_code none;
+    return {session.program_folder, QuitaNombre(session.Velmora.TxtDat_File), session.LastDir,
+            runtime::path_text(std::filesystem::temp_directory_path(none))};
 }
 
-void keep_older(const std::string& path) {
+std::string free_number(const std::string& folder) {
+    for (int number = 1;; ++number) {
+        std::string path = runtime::join(folder, "recuperado" + std::to_string(number) + ".dat");
+        if (!runtime::file_exists(path))
+            return path;
+    }
+}
+
+/// The name for the new one. An older one goes under a free number; where it must stay, another
+/// user's for one, the new one takes the number.
+std::string free_name(const std::string& folder) {
+    std::string path = runtime::join(folder, "recuperado.dat");
     if (!runtime::file_exists(path))
-        return;
-    int number = 1;
-    while (runtime::file_exists(numbered(number)))
-        ++number;
-    std::filesystem::rename(runtime::native_path(path), runtime::native_path(numbered(number)));
+        return path;
+    std::string other = free_number(folder);
+    std::error_code fault;
+    std::filesystem::rename(runtime::native_path(path), runtime::native_path(other), fault);
+    return fault ? other : path;
 }
 
 /// Through files of its own: the program's may be open, or at fault.
@@ -38,20 +58,60 @@ void write_outline(const std::string& path) {
     files.close(1);
 }
 
+/// The name is taken when the file is whole, so that one which lacks room leaves nothing
+/// unreadable.
+std::string save_in(const std::string& folder) {
+    runtime::FileBeside fresh(runtime::join(folder, "recuperado.dat"));
+    write_outline(fresh.path());
+    std::string path = free_name(folder);
+    fresh.take_name(path);
+    return path;
+}
+
+/// Empty where the folder takes no file. The report of the error that brought us here matters more
+/// than this one.
+std::string try_to_save_in(const std::string& folder) noexcept {
+    try {
+        return folder.empty() ? std::string() : save_in(folder);
+    } catch (...) {
+        return {};
+    }
+}
+
+/// In the code, since the database may be what failed. By the letters of the languages.
+struct KeptText {
+    char language;
+    std::string_view text;
+};
+
+constexpr auto kKeptTexts = std::to_array<KeptText>({
+    {'E', "La forma está a salvo. Se ha guardado en:"},
+    {'I', "The shape is safe. It has been saved in:"},
+    {'F', "La forme est en sécurité. Elle a été enregistrée dans :"},
+    {'P', "A forma está a salvo. Foi guardada em:"},
+    {'T', "La forma è al sicuro. È stata salvata in:"},
+});
+
 } // namespace
 
 std::string save_recovery() noexcept {
     try {
         if (!hay_forma())
             return {};
-        std::string path = program_file("recuperado.dat");
-        keep_older(path);
-        write_outline(path);
-        return path;
+        for (const std::string& folder : places())
+            if (std::string path = try_to_save_in(folder); !path.empty())
+                return path;
     } catch (...) {
-        // The report of the error that brought us here matters more than this one.
-        return {};
+        // As above.
     }
+    return {};
+}
+
+std::string kept_shape_text(const std::string& path) {
+    const char language = session.Idioma.empty() ? 'E' : session.Idioma[0];
+    const auto* const found = std::ranges::find(kKeptTexts, language, &KeptText::language);
+    const KeptText& kept = found == kKeptTexts.end() ? kKeptTexts.front() : *found;
+    return std::string(kept.text) + "\n" + path;
 }
 
 } // namespace velmora

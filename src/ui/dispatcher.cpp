@@ -18,13 +18,14 @@ constexpr std::chrono::milliseconds kYieldInterval(16);
 constexpr int kInternalError = 51;
 constexpr int kFaultStatus = 1;
 
-/// Names what the user has to mend, and the file that keeps the outline, in a line each.
+/// Says first that the shape is kept, and where; then what failed, with what the user has to mend.
+/// The other way round it reads as if the keeping had failed.
 void report(const RuntimeError& failure, const std::string& recovered) {
-    std::string text =
-        "Run-time error '" + std::to_string(failure.number) + "':\n\n" + description_of(failure);
-    for (const std::string& line : {failure.place, recovered})
-        if (!line.empty())
-            text += "\n" + line;
+    std::string text = recovered.empty() ? "" : kept_shape_text(recovered) + "\n\n";
+    text += "Run-time error '" + std::to_string(failure.number) + "':\n\n";
+    text += description_of(failure);
+    if (!failure.place.empty())
+        text += "\n" + failure.place;
     platform().dialogs.message(text, buttons::critical, "Velmora");
 }
 

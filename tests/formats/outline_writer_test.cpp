@@ -7,6 +7,7 @@
 #include "platform/dialogs.h"
 #include "runtime/paths.h"
 #include "support/recording_platform.h"
+#include "support/unprivileged.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -268,6 +269,31 @@ TEST(EscribeFichero, a_full_disk_raises_61_in_each_form) {
         triangle(platform.path("wing.dat"));
         EXPECT_EQ(number_of([] { EscribeFichero(); }), 61);
     }
+}
+
+TEST(EscribeFichero, what_a_full_disk_broke_off_is_removed) {
+    const test::SmallDisk disk(8192);
+    if (!disk.stands())
+        GTEST_SKIP() << "this user can't mount a small disk";
+    for (const Form form : {Form::sync_dat, Form::script, Form::profile}) {
+        RecordingPlatform platform;
+        choose(form);
+        triangle(disk.path("wing.dat"));
+        Forma.Pto.redim(20000);
+        Forma.Pto[7].Sinc = 1;
+        EXPECT_EQ(number_of([] { EscribeFichero(); }), 61);
+        EXPECT_TRUE(std::filesystem::is_empty(disk.path()));
+        EXPECT_FALSE(session.files.is_open(1));
+    }
+}
+
+TEST(EscribeFichero, another_fault_than_a_full_disk_removes_nothing) {
+    RecordingPlatform platform;
+    platform.shell.recycle_fails = true;
+    triangle(platform.write("wing.dat", "old"));
+    session.files.open_input(1, session.Velmora.TxtDat_File);
+    EXPECT_EQ(number_of([] { EscribeFichero(); }), 55);
+    EXPECT_TRUE(session.files.is_open(1));
 }
 #endif
 

@@ -97,6 +97,17 @@ TEST_F(HostTest, TheReportNamesWhatTheUserHasToMend) {
                         "Velmora"}));
 }
 
+TEST_F(HostTest, TheReportSaysFirstThatTheShapeIsKeptAndWhere) {
+    Forma.Pto.redim(2);
+    Forma.Pto[1].X = 4;
+    windows().events.fault = {};
+    run([] { raise(error::disk_full, "Disco lleno"); });
+    ASSERT_EQ(dialogs().boxes.size(), 1U);
+    EXPECT_EQ(dialogs().boxes[0].text, "La forma está a salvo. Se ha guardado en:\n" +
+                                           program_file("recuperado.dat") +
+                                           "\n\nRun-time error '61':\n\nDisco lleno");
+}
+
 TEST_F(HostTest, AFaultAboveAModalWindowUnwindsTheHandlerThatWaits) {
     bool went_on = false;
     later([this] { run([] { raise(error::type_mismatch); }); });
