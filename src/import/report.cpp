@@ -59,7 +59,7 @@ constexpr std::array<Wording, static_cast<std::size_t>(Fact::last_)> wordings = 
     {Fact::paper_space, "paper_space", "{n} entities of the paper left out"},
     {Fact::hidden_entities, "hidden_entities", "{n} invisible entities left out"},
     {Fact::stray_line, "stray_line", "no group code: {t}"},
-    {Fact::no_end, "no_end", "the file ends before its end mark"},
+    {Fact::ends_early, "ends_early", "the file ends before its end mark"},
     {Fact::behind_the_end, "behind_the_end", "what follows the end is left out"},
     {Fact::missing_block, "missing_block", "block {t} is not there"},
     {Fact::block_in_itself, "block_in_itself", "block {t} holds itself, left out there"},
@@ -118,6 +118,12 @@ void Report::add(Fact fact, std::size_t line, std::string_view text, double numb
     if (++counts_[static_cast<std::size_t>(fact)] > kept_of_each)
         return;
     remarks_.push_back({fact, line, std::string(shortened(text)), number, other});
+}
+
+void Report::append(const Report& other) {
+    remarks_.insert(remarks_.end(), other.remarks_.begin(), other.remarks_.end());
+    for (std::size_t i = 0; i < counts_.size(); ++i)
+        counts_[i] += other.counts_[i];
 }
 
 std::size_t Report::count(Fact fact) const {

@@ -55,7 +55,7 @@ enum class Fact : unsigned char {
     paper_space,
     hidden_entities,
     stray_line,
-    no_end,
+    ends_early,
     behind_the_end,
     missing_block,
     block_in_itself,
@@ -94,6 +94,8 @@ class Report {
     void add(Fact fact, std::size_t line, std::string_view text = {}, double number = 0,
              double other = 0);
     [[nodiscard]] const std::vector<Remark>& remarks() const { return remarks_; }
+    /// What another report holds, behind what this one does.
+    void append(const Report& other);
     /// How often it was said, those not kept among them.
     [[nodiscard]] std::size_t count(Fact fact) const;
 
