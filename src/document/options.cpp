@@ -19,12 +19,16 @@ void set_TxtPrecision(std::string_view text) {
     put_text(session.winoptions.TxtPrecision, text, TxtPrecision_Change);
 }
 
+void take_start_zoom() {
+    session.ZoomFactor = session.Def_Zoom > 0 ? session.Def_Zoom : 1.0;
+}
+
 // The working copies come first, so that a changed TxtPrecision rounds to the new Precision.
 void take_defaults() {
     session.PutArc = session.Def_Arc;
     session.PutCircle = session.Def_ACircle;
     session.Precision = session.Def_Dec;
-    session.ZoomFactor = session.Def_Zoom;
+    take_start_zoom();
     session.winoptions.TxtPutArc = CStr(session.Def_Arc);
     session.winoptions.TxtPutCircle = CStr(session.Def_ACircle);
     set_TxtPrecision(CStr(session.Def_Dec));

@@ -16,5 +16,8 @@ void set_TxtPrecision(std::string_view text);
 /// The boxes TxtPutArc, TxtPutCircle, TxtPrecision, Txt_zoom and their working copies from the
 /// stored defaults.
 void take_defaults();
+/// ZoomFactor from the stored start zoom, 1.0 where that is 0 or below: what divides by the zoom
+/// comes before the next layout.
+void take_start_zoom();
 
 } // namespace velmora

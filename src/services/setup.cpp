@@ -103,7 +103,7 @@ void take_language() {
 
 // Precision before its box: a box that takes another text rounds the shape, and to the new value.
 void take_working_copies() {
-    session.ZoomFactor = session.Def_Zoom;
+    take_start_zoom();
     session.winoptions.Txt_zoom = CStr(session.Def_Zoom);
     session.Precision = session.Def_Dec;
     set_TxtPrecision(CStr(session.Def_Dec));

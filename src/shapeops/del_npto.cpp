@@ -14,6 +14,8 @@
 #include "services/numeric_box.h"
 #include "services/window_literals.h"
 
+#include <algorithm>
+
 namespace velmora {
 
 namespace {
@@ -54,6 +56,18 @@ void show_maximum(double points) {
 std::int32_t position(double step, std::int32_t k, std::int32_t upper) {
     const std::int32_t place = runtime::to_int32(step * k + session.PtoSel);
     return place > upper ? place - upper - 1 : place;
+}
+
+/// Nothing to go stands beyond one turn. An interval that was typed before the number can ask for
+/// that: it was not looked at with this number.
+bool fits(double last) {
+    const double most = 2.0 * static_cast<double>(Forma.Pto.size()) - 1;
+    const double ends[] = {static_cast<double>(session.PtoSel),
+                           (jump() + 1) * last + session.PtoSel};
+    return std::ranges::all_of(ends, [most](double place) {
+        const double whole = runtime::Round(place, 0);
+        return whole >= 0 && whole <= most;
+    });
 }
 
 /// The outline with every point marked to stay or to go.
@@ -129,7 +143,10 @@ void del_Npto_cmd_ok_Click() {
     const double points = count();
     if (points <= 0)
         return reset_box(count_box());
-    Array<Pto> kept = kept_of(marked_outline(runtime::to_int32(runtime::Int(points - 1))));
+    const double last = runtime::Int(points - 1);
+    if (!fits(last))
+        return void(MuestraMensaje(mensaje::too_many_deletions));
+    Array<Pto> kept = kept_of(marked_outline(runtime::to_int32(last)));
     Forma.Pto.swap(kept);
     --session.PtoSel;
     if (!hay_seleccion())

@@ -11,8 +11,8 @@ void Txt_JumpPoints_Change();
 [[nodiscard]] int Txt_Numpoints2del_KeyPress(int key);
 /// Another control took the focus from Txt_Numpoints2del.
 void Txt_Numpoints2del_LostFocus();
-/// Removes the points, the selected one first. Raises 9 where the one wrap does not bring a
-/// position back into the array.
+/// Removes the points, the selected one first. Where the one wrap does not bring a position back
+/// into the array: message 83, nothing changes, the window stays.
 void del_Npto_cmd_ok_Click();
 void del_Npto_cmd_cancel_Click();
 

@@ -101,6 +101,8 @@ void ActualizaNuevoN() {
 
 // The shown count is the upper bound less one, on purpose; the next Define_Layout puts it right.
 void Mult_Ptos_cmd_ok_Click() {
+    if (runtime::Int(runtime::Val(session.Mult_Ptos.Combo1)) < 1)
+        return;
     multiply_points();
     Dibuja();
     show_TotalPtos(Forma.Pto.upper() - 1);

@@ -12,7 +12,8 @@ void Combo1_Click();
 /// Shows the number of points to come and refuses 32001 and more. No event calls it, on purpose:
 /// it stands ready for Combo1.
 void ActualizaNuevoN();
-/// Raises 6 beyond 32 bits of points, 9 for a factor below 1.
+/// A factor whose whole part is below 1 changes nothing, and the window stays. Raises 6 beyond 32
+/// bits of points.
 void Mult_Ptos_cmd_ok_Click();
 void Mult_Ptos_cmd_cancel_Click();
 

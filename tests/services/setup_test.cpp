@@ -233,6 +233,19 @@ TEST_F(SetupTest, accepting_stores_and_brings_everything_in_line) {
     EXPECT_THAT(machine.windows.calls, ElementsAre("unload setup"));
 }
 
+TEST_F(SetupTest, a_start_zoom_of_0_is_stored_and_leaves_a_zoom_that_can_be_divided_by) {
+    for (const char* zoom : {"0", "0.0", "-3"}) {
+        SCOPED_TRACE(zoom);
+        session.ZoomFactor = 7;
+        window.Txt_Def_zoom_Val = zoom;
+        setup_cmd_ok_Click();
+        EXPECT_EQ(session.ZoomFactor, 1.0);
+        EXPECT_LE(session.Def_Zoom, 0);
+        EXPECT_EQ(stored("Def_Zoom"), zoom == std::string("-3") ? "-3" : "0");
+        EXPECT_EQ(session.winoptions.Txt_zoom, stored("Def_Zoom"));
+    }
+}
+
 TEST_F(SetupTest, other_decimals_round_the_shape_at_once_to_the_new_precision) {
     Forma.Pto.redim(2);
     Forma.Pto[1].X = 1.23456;

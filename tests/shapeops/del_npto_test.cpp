@@ -2,7 +2,6 @@
 
 #include "commands/handlers.h"
 #include "document/session.h"
-#include "support/error_number.h"
 #include "support/outline.h"
 #include "support/recording_platform.h"
 
@@ -13,7 +12,6 @@
 namespace velmora {
 namespace {
 
-using test::number_of;
 using test::Points;
 using test::set_shape;
 using test::shape;
@@ -223,12 +221,34 @@ TEST_F(DelNpto, ok_without_a_count_stays_open) {
     }
 }
 
-TEST_F(DelNpto, only_one_wrap_is_made) {
-    session.PtoSel = 5;
-    window_.Txt_Numpoints2del = std::string("2");
-    window_.Txt_JumpPoints = std::string("6"); // 5, and 12 wraps to 6: beyond the array
-    EXPECT_EQ(number_of(del_Npto_cmd_ok_Click), 9);
-    EXPECT_EQ(shape(), numbered(6));
+// An interval put in before the number is checked against no number; only one wrap is made.
+TEST_F(DelNpto, positions_beyond_the_array_are_too_many_and_change_nothing) {
+    struct Case {
+        const char* count;
+        const char* jump;
+        int selected;
+        bool refused;
+    };
+    const Case cases[] = {
+        {"2", "6", 5, true},  // 5, and 12 wraps to 6: beyond the array
+        {"2", "5", 5, false}, // 11 wraps to 5
+        {"2", "99999999999", 0, true}, {"99999999999", "0", 0, true}, {"13", "0", 0, true},
+        {"1", "0", 12, true},          {"1", "0", -1, true},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.count << " " << c.jump << " " << c.selected);
+        platform_.dialogs.boxes.clear();
+        platform_.windows.calls.clear();
+        set_shape(numbered(6));
+        session.PtoSel = c.selected;
+        window_.Txt_Numpoints2del = c.count;
+        window_.Txt_JumpPoints = c.jump;
+        del_Npto_cmd_ok_Click();
+        EXPECT_EQ(boxes(), c.refused ? Calls{"No se pueden eliminar tantos puntos!"} : Calls{});
+        EXPECT_EQ(platform_.windows.calls, c.refused ? Calls{} : Calls{"unload del_Npto"});
+        EXPECT_EQ(shape() == numbered(6), c.refused);
+        EXPECT_EQ(session.PtoSel == c.selected, c.refused);
+    }
 }
 
 TEST_F(DelNpto, cancel_unloads) {

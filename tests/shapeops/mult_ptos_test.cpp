@@ -3,7 +3,6 @@
 #include "commands/handlers.h"
 #include "document/session.h"
 #include "services/fake_form.h"
-#include "support/error_number.h"
 #include "support/outline.h"
 #include "support/recording_platform.h"
 
@@ -14,7 +13,6 @@
 namespace velmora {
 namespace {
 
-using test::number_of;
 using test::Points;
 using test::set_shape;
 using test::shape;
@@ -148,9 +146,17 @@ TEST_F(MultPtos, a_factor_with_a_fraction_goes_to_the_nearest_whole_one) {
     EXPECT_EQ(shape().size(), 18U);
 }
 
-TEST_F(MultPtos, a_factor_below_1_has_no_array) {
-    choose("0.5");
-    EXPECT_EQ(number_of(Mult_Ptos_cmd_ok_Click), 9);
+TEST_F(MultPtos, a_factor_whose_whole_part_is_below_1_changes_nothing_and_the_window_stays) {
+    const Points before = shape();
+    for (const char* factor : {"0.4", "0.5", "0.9", "0.999999", " "}) {
+        SCOPED_TRACE(factor);
+        window_.Combo1 = factor;
+        Mult_Ptos_cmd_ok_Click();
+        EXPECT_EQ(shape(), before);
+        EXPECT_EQ(platform_.windows.calls, Calls{});
+        EXPECT_TRUE(platform_.pic.operations.empty());
+        EXPECT_EQ(window_.Combo1, factor);
+    }
 }
 
 TEST_F(MultPtos, factor_1000_and_a_shape_beyond_16_bits) {
