@@ -17,7 +17,7 @@ void InsertaPtoTramo(AdjustedSide& side, std::int32_t destino, std::int32_t indi
 
 /// Makes PtosA2 and PtosB2 from PtosA and PtosB. Without an error route of its own: a missing
 /// TEMP_AJUSTE, a side with fewer sync points than TxtTotalCtrlPtos_A says, OptZ of 0 and the like
-/// raise, and leave the hourglass on.
+/// raise, and leave the hourglass on: the failure is told and stops the command alone.
 void Cmd_Ajuste_Click();
 
 } // namespace velmora

@@ -109,7 +109,10 @@ void AjusteDialog::wire() {
     on_idle_click(*ui.cmd_selA, cmd_selA_Click);
     on_idle_click(*ui.cmd_selB, cmd_selB_Click);
     on_idle_click(*ui.cmd_opt, cmd_opt_Click);
-    on_idle_click(*ui.Cmd_Ajuste, Cmd_Ajuste_Click);
+    connect(ui.Cmd_Ajuste, &QAbstractButton::clicked, this, [this] {
+        if (host().idle())
+            host().run_alone(Cmd_Ajuste_Click);
+    });
     on_idle_click(*ui.Cmd_save, Cmd_save_Click);
     on_idle_click(*ui.cmd_exit, ajuste_cmd_exit_Click);
 }

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QTimer>
 #include <new>
+#include <optional>
 
 namespace velmora {
 
@@ -29,6 +30,20 @@ void report(const RuntimeError& failure, const std::string& recovered) {
     platform().dialogs.message(text, buttons::critical, "Velmora");
 }
 
+/// What a handler failed with, nothing where it did not. The end of the program goes through.
+std::optional<RuntimeError> failure_of(const std::function<void()>& handler) {
+    try {
+        handler();
+    } catch (const RuntimeError& failure) {
+        return failure;
+    } catch (const std::bad_alloc&) {
+        return RuntimeError(error::out_of_memory);
+    } catch (const std::exception& other) {
+        return RuntimeError(kInternalError, other.what());
+    }
+    return {};
+}
+
 void exit_event_loops(int status) {
     QCoreApplication::exit(status);
     // Before the application's own loop runs, the exit above is lost.
@@ -47,15 +62,10 @@ void WindowsHost::run(const std::function<void()>& handler) {
     ++d->running;
     d->pull();
     try {
-        handler();
+        if (const auto failure = failure_of(handler))
+            d->fail(*failure);
     } catch (const EndOfProgram&) {
         // The end was told where it was asked for.
-    } catch (const RuntimeError& failure) {
-        d->fail(failure);
-    } catch (const std::bad_alloc&) {
-        d->fail(RuntimeError(error::out_of_memory));
-    } catch (const std::exception& other) {
-        d->fail(RuntimeError(kInternalError, other.what()));
     }
     --d->running;
     if (d->ending_depth > d->running)
@@ -65,6 +75,13 @@ void WindowsHost::run(const std::function<void()>& handler) {
     d->push();
     d->ask_for_activation();
     d->show_popup();
+}
+
+void WindowsHost::run_alone(const std::function<void()>& handler) {
+    run([&] {
+        if (const auto failure = failure_of(handler))
+            d->tell_stopped(*failure);
+    });
 }
 
 bool WindowsHost::idle() const {
@@ -122,6 +139,13 @@ void WindowsHost::Private::fail(const RuntimeError& failure) {
     else
         report(failure, recovered);
     finish(kFaultStatus);
+}
+
+void WindowsHost::Private::tell_stopped(const RuntimeError& failure) const {
+    if (host.events.stopped)
+        host.events.stopped(failure);
+    else
+        report(failure, {});
 }
 
 void WindowsHost::Private::finish(int status) {

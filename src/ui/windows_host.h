@@ -24,6 +24,9 @@ struct WindowEvents {
     std::function<void(int pointer)> pointer;
     /// Without one, the report "Run-time error 'N':" is shown. The program ends with status 1.
     std::function<void(const RuntimeError& failure)> fault;
+    /// A handler failed that fails alone; without one, the same report is shown. The program goes
+    /// on.
+    std::function<void(const RuntimeError& failure)> stopped;
     std::function<void()> ended;
 };
 
@@ -46,6 +49,8 @@ class WindowsHost : public QObject, public Windows {
     [[nodiscard]] bool idle() const;
     /// Runs a handler of the logic as an event of a window.
     void run(const std::function<void()>& handler);
+    /// The same for one whose run-time error stops it alone: it is told, and the program goes on.
+    void run_alone(const std::function<void()>& handler);
     /// The window gets the activation from another window of the program, or loses it, as an event.
     void activate(std::string_view window);
     void deactivate(std::string_view window);

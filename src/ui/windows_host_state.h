@@ -56,6 +56,7 @@ struct WindowsHost::Private {
     void pull() const;
     void push() const;
     void fail(const RuntimeError& failure);
+    void tell_stopped(const RuntimeError& failure) const;
     void finish(int status);
     void leave_if_ended() const;
     void show_popup();

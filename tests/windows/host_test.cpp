@@ -84,6 +84,40 @@ TEST_F(HostTest, AFaultWithNobodyWatchingIsReportedAndNothingRunsAfterIt) {
     EXPECT_FALSE(ran);
 }
 
+TEST_F(HostTest, AHandlerThatFailsAloneIsToldAndTheProgramGoesOn) {
+    const std::pair<std::function<void()>, const char*> cases[] = {
+        {[] { raise(error::subscript); }, "stopped 9"},
+        {[] { throw std::bad_alloc(); }, "stopped 7"},
+        {[] { throw std::runtime_error("other"); }, "stopped 51"},
+    };
+    for (const auto& [handler, expected] : cases) {
+        told.clear();
+        windows().run_alone(handler);
+        EXPECT_THAT(told, ElementsAre(expected));
+        bool ran = false;
+        run([&] { ran = true; });
+        EXPECT_TRUE(ran) << expected;
+    }
+}
+
+TEST_F(HostTest, AHandlerThatFailsAloneHasTheReportOfEveryFault) {
+    windows().events.stopped = {};
+    windows().run_alone([] { raise(error::overflow, "Desbordamiento"); });
+    ASSERT_EQ(dialogs().boxes.size(), 1U);
+    EXPECT_EQ(dialogs().boxes[0],
+              (ShownBox{"Run-time error '6':\n\nDesbordamiento", 16, "Velmora"}));
+    EXPECT_THAT(told, IsEmpty());
+}
+
+TEST_F(HostTest, TheEndOfTheProgramGoesThroughAHandlerThatFailsAlone) {
+    windows().run_alone([this] {
+        later([this] { run([this] { windows().end_program(); }); });
+        windows().wait(1);
+        told.emplace_back("went on");
+    });
+    EXPECT_THAT(told, ElementsAre("ended"));
+}
+
 TEST_F(HostTest, TheReportNamesWhatTheUserHasToMend) {
     windows().events.fault = {};
     run([] {

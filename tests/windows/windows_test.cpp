@@ -57,6 +57,9 @@ void WindowsTest::rebuild() {
     events.fault = [this](const RuntimeError& failure) {
         told.push_back("fault " + std::to_string(failure.number));
     };
+    events.stopped = [this](const RuntimeError& failure) {
+        told.push_back("stopped " + std::to_string(failure.number));
+    };
     events.ended = [this] {
         told.emplace_back("ended");
     };

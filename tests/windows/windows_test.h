@@ -46,7 +46,8 @@ class WindowsTest : public testing::Test {
     /// A PNG of the window where VELMORA_PICTURES names a folder.
     static void picture(QWidget& window, const std::string& name);
 
-    std::vector<std::string> told; ///< "open wininfo", "closed intro", "fault 9", "ended"
+    std::vector<std::string>
+        told; ///< "open wininfo", "closed intro", "fault 9", "stopped 9", "ended"
 
   private:
     QTemporaryDir folder_;

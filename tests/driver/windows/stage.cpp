@@ -51,9 +51,12 @@ void Stage::watch() {
         if (tracing)
             transcript.line("pointer", number_text(std::int32_t{pointer}));
     };
-    events.fault = [this](const RuntimeError& failure) {
+    events.stopped = [this](const RuntimeError& failure) {
         transcript.line("fault", number_text(std::int32_t{failure.number}),
                         places.word(description_of(failure)));
+    };
+    events.fault = [this](const RuntimeError& failure) {
+        windows().events.stopped(failure);
         leave(ExitStatus::run_time_error);
     };
     events.ended = [this] {
