@@ -14,6 +14,7 @@ constexpr int kLastFactor = 10;
 MultPtosDialog::MultPtosDialog(WindowsHost& windows) : FormWindow(windows) {
     for (int factor = kFirstFactor; factor <= kLastFactor; ++factor)
         ui.Combo1->addItem(QString::number(factor));
+    ui.Combo1->setCompleter(nullptr); // "1" is a factor of its own, not the beginning of "10"
     bind();
     wire();
     list_controls(

@@ -64,6 +64,26 @@ TEST_F(MultPtosDialogTest, ATypedFactorMultiplies) {
     EXPECT_EQ(shape().size(), 12U);
 }
 
+TEST_F(MultPtosDialogTest, ATypedFactorIsNotCompletedToAnEntryOfTheList) {
+    in_window([this] {
+        type_factor("1");
+        EXPECT_EQ(factor().currentText(), "1");
+        EXPECT_EQ(session.Mult_Ptos.Combo1, "1");
+        ok().click();
+    });
+    EXPECT_EQ(shape(), (Points{{0, 0}, {4, 0}, {4, 4}}));
+}
+
+TEST_F(MultPtosDialogTest, AFactorWithoutAWholePartLeavesTheWindowOpen) {
+    in_window([this] {
+        factor().lineEdit()->setText("0.4"); // the digits alone pass a 0 on the way
+        ok().click();
+        EXPECT_NE(window("Mult_Ptos"), nullptr);
+    });
+    EXPECT_EQ(shape().size(), 3U);
+    EXPECT_THAT(told, ElementsAre("open Mult_Ptos", "closed Mult_Ptos"));
+}
+
 TEST_F(MultPtosDialogTest, EnterInTheListIsOk) {
     in_window([this] {
         type_factor("3");
