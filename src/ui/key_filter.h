@@ -1,16 +1,22 @@
-// The shared pieces of the text boxes: keys that are looked at before they type, and the focus that
-// leaves a box.
+// The shared pieces of the text boxes: characters that are looked at before they come in, by
+// whatever way, and the focus that leaves a box.
 #pragma once
 
 #include <QObject>
 #include <functional>
 
+class QContextMenuEvent;
+class QDropEvent;
+class QInputMethodEvent;
+class QKeyEvent;
 class QLineEdit;
+class QMouseEvent;
 
 namespace velmora {
 
-/// Calls `handler` with the character of each key that types; it returns the character to take
-/// instead, 0 to swallow the key. Keys that move, cut, copy or paste are no typing.
+/// Calls `handler` with each character that comes into a box: typed, composed by a dead key or an
+/// input method, pasted or dropped. It returns the character to take instead, 0 to refuse it; a
+/// text with a refused character is refused whole. Keys that move, cut or copy are no typing.
 class KeyFilter : public QObject {
     Q_OBJECT
   public:
@@ -20,6 +26,20 @@ class KeyFilter : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    enum class Outcome { same, other, refused, gone };
+    struct Taken {
+        Outcome outcome;
+        QString text;
+    };
+
+    bool key(QKeyEvent& event);
+    bool composed(QInputMethodEvent& event);
+    bool released(const QMouseEvent& event);
+    bool dropped(QDropEvent& event);
+    bool menu_asked(const QContextMenuEvent& event);
+    [[nodiscard]] Taken take(const QString& text);
+    void insert(const QString& text);
+
     QLineEdit& box_;
     std::function<int(int)> handler_;
 };
