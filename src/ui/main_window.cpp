@@ -9,6 +9,8 @@
 #include <QApplication>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
+#include <utility>
 
 namespace velmora {
 
@@ -18,6 +20,10 @@ constexpr QSize kSizeAtStart(1180, 780);
 constexpr int kListShare = 280; // of the width at start
 constexpr int kBeside = 500;    // what the floating windows take at the right, with their gaps
 constexpr int kTimerInterval = 10;
+
+bool is_use(const QEvent& event) {
+    return event.type() == QEvent::KeyPress || event.type() == QEvent::MouseButtonPress;
+}
 
 /// A control that has nothing to show.
 void add_part(QObject* part, const char* name) {
@@ -112,9 +118,17 @@ void MainWindow::QueryUnload() {
 }
 
 void MainWindow::place() {
+    window_.resize(kSizeAtStart);
+    fit_to_screen();
+    (void)window_.winId(); // makes the native window, where keys and presses come in first
+    window_.windowHandle()->installEventFilter(this);
+}
+
+void MainWindow::fit_to_screen() {
     const QRect screen = window_.screen()->availableGeometry();
-    window_.resize(kSizeAtStart.boundedTo(screen.size()));
-    QRect taken = window_.frameGeometry();
+    const QSize frame = window_.frameGeometry().size() - window_.size();
+    window_.resize(window_.size().boundedTo(screen.size() - frame));
+    QRect taken(QPoint(), window_.size() + frame);
     if (taken.width() + kBeside <= screen.width())
         taken.setWidth(taken.width() + kBeside);
     taken.moveCenter(screen.center());
@@ -130,6 +144,12 @@ void MainWindow::status_changed() {
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &window_ && event->type() == QEvent::PaletteChange)
         commands_.draw_icons();
+    // The desktop's frame is there when the window is painted; before, nobody knows its size.
+    if (watched == &window_ && event->type() == QEvent::Paint && !std::exchange(looked_at_, true) &&
+        !window_.screen()->availableGeometry().contains(window_.frameGeometry()))
+        fit_to_screen();
+    if (watched == window_.windowHandle() && is_use(*event))
+        host().activate(name());
     if (watched == &window_ && event->type() == QEvent::WindowStateChange)
         session.Velmora.minimized = window_.isMinimized();
     return Window::eventFilter(watched, event);

@@ -31,6 +31,8 @@ class MainWindow : public FormWindow<Ui::Velmora, QMainWindow> {
     void bind();
     void wire();
     void list_in_form_order();
+    /// The window with its frame stands on the screen, with room beside it where there is some.
+    void fit_to_screen();
 
     QMainWindow& window_;
     CommandActions commands_;
@@ -38,6 +40,7 @@ class MainWindow : public FormWindow<Ui::Velmora, QMainWindow> {
     QProgressBar& pbar1_;
     QProgressBar& pbar2_;
     CanvasView canvas_;
+    bool looked_at_ = false;
 };
 
 } // namespace velmora

@@ -13,7 +13,27 @@ namespace velmora {
 template <class Ui>
 class SidePanel : public FormWindow<Ui, QWidget> {
   public:
-    void place() override { keep_to_main(); }
+    /// Shown again, a window keeps the place where the user put it, until a resize of the main
+    /// window moves it.
+    void place() override {
+        const auto kept = this->host().side_places.find(this->name());
+        const QWidget* main = this->host().window("Velmora");
+        at_users_place_ = kept != this->host().side_places.end() && main != nullptr &&
+                          kept->second.main == main->size();
+        if (at_users_place_)
+            this->widget().move(kept->second.place);
+        else
+            keep_to_main();
+    }
+
+    /// It stands beside the work; the keyboard stays with the main window until the user comes.
+    bool takes_focus() const override { return false; }
+
+    void Unload() override {
+        const QWidget* main = this->host().window("Velmora");
+        if (looked_at_ && main != nullptr)
+            this->host().side_places[this->name()] = {this->widget().pos(), main->size()};
+    }
 
   protected:
     /// `row` is the window's place below the main window's top, in twips.
@@ -40,7 +60,8 @@ class SidePanel : public FormWindow<Ui, QWidget> {
     /// What was rolled up before the desktop put its frame around it stands off by the frame, which
     /// is there when the window is painted.
     bool is_first_look(const QEvent& event) {
-        return event.type() == QEvent::Paint && !std::exchange(looked_at_, true);
+        return event.type() == QEvent::Paint && !std::exchange(looked_at_, true) &&
+               !at_users_place_;
     }
 
     void keep_to_main() {
@@ -52,6 +73,7 @@ class SidePanel : public FormWindow<Ui, QWidget> {
     RollUp roll_up_;
     int row_;
     bool looked_at_ = false;
+    bool at_users_place_ = false;
 };
 
 } // namespace velmora

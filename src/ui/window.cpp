@@ -78,7 +78,7 @@ bool Window::eventFilter(QObject* watched, QEvent* event) {
     if (watched != widget_.get())
         return false;
     if (event->type() == QEvent::WindowActivate)
-        host_.activate(name());
+        host_.focused(name());
     if (event->type() != QEvent::Close)
         return false;
     event->ignore();

@@ -43,6 +43,8 @@ class Window : public QObject {
     /// The close box was used; the window is unloaded afterwards.
     virtual void QueryUnload() {}
     virtual void Unload() {}
+    /// The desktop's focus comes to the window with the program's activation.
+    [[nodiscard]] virtual bool takes_focus() const { return true; }
     /// Takes its place on the screen before it is shown the first time.
     virtual void place();
     /// The window is unloaded: its controls tell it nothing any more.

@@ -101,8 +101,10 @@ void WindowsHost::Private::present(Window& window) {
     presenting = false;
     if (appears && host.events.opened)
         host.events.opened(window.name());
-    if (alive)
-        set_active(&window);
+    if (!alive)
+        return;
+    set_active(&window);
+    beside = active == alive && !alive->takes_focus();
 }
 
 void WindowsHost::Private::set_active(Window* window) {
@@ -113,6 +115,7 @@ void WindowsHost::Private::set_active(Window* window) {
     const QPointer<Window> before = active;
     const QPointer<Window> now = window;
     active = window;
+    beside = false;
     if (before)
         before->Deactivate();
     if (now && active == now)
@@ -120,8 +123,10 @@ void WindowsHost::Private::set_active(Window* window) {
 }
 
 void WindowsHost::Private::ask_for_activation() {
-    if (std::exchange(activation_due, false) && active)
-        active->widget().activateWindow();
+    if (!std::exchange(activation_due, false) || !active)
+        return;
+    if (QWidget* widget = beside ? host.window(kMain) : &active->widget())
+        widget->activateWindow();
 }
 
 void WindowsHost::start() {
@@ -144,6 +149,13 @@ void WindowsHost::activate(std::string_view window) {
     if (!found || found == d->active || d->presenting)
         return;
     run([&] { d->set_active(found); });
+}
+
+void WindowsHost::focused(std::string_view window) {
+    if (d->beside && window == kMain)
+        return;
+    d->beside = false;
+    activate(window);
 }
 
 void WindowsHost::deactivate(std::string_view window) {

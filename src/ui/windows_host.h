@@ -7,7 +7,10 @@
 #include "runtime/error.h"
 
 #include <QObject>
+#include <QPoint>
+#include <QSize>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -30,6 +33,12 @@ struct WindowEvents {
     std::function<void()> ended;
 };
 
+/// Where a side window stood when it was unloaded, and the main window's size then.
+struct SidePlace {
+    QPoint place;
+    QSize main;
+};
+
 class WindowsHost : public QObject, public Windows {
     Q_OBJECT
   public:
@@ -37,6 +46,7 @@ class WindowsHost : public QObject, public Windows {
     ~WindowsHost() override;
 
     WindowEvents events;
+    std::map<std::string, SidePlace, std::less<>> side_places; ///< of those unloaded, by name
 
     /// Shows the start window; it gives way to the main window.
     void start();
@@ -54,6 +64,9 @@ class WindowsHost : public QObject, public Windows {
     /// The window gets the activation from another window of the program, or loses it, as an event.
     void activate(std::string_view window);
     void deactivate(std::string_view window);
+    /// The desktop gave a window its focus. A side window that was shown without it keeps the
+    /// activation when the focus comes to the main window, until that one is used.
+    void focused(std::string_view window);
     /// The close box of a window, as an event. The program ends with its last window.
     void close(std::string_view window);
     /// Loads a window without showing it. Part of a handler.

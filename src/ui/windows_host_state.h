@@ -34,6 +34,7 @@ struct WindowsHost::Private {
     QPointer<Window> active;
     bool activation_due =
         false;               ///< to be asked of the desktop when the handler has returned or waits
+    bool beside = false;     ///< the active window was shown without the desktop's focus
     bool presenting = false; ///< a window is being shown; its activation comes with that
     int running = 0;         ///< handlers, one above the other
     int ending_depth = 0;    ///< of the handler that asked for the end, 0 none

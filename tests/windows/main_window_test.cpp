@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QMenu>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QtTest>
@@ -127,6 +128,12 @@ TEST_F(MainWindowTest, TheEndKeyGoesToTheLastOfManyRows) {
 
 TEST_F(MainWindowTest, TheCanvasIs2000PixelsASide) {
     EXPECT_EQ(pic().size(), QSize(2000, 2000));
+}
+
+TEST_F(MainWindowTest, TheWindowStandsOnTheScreenWithItsFrame) {
+    const QWidget& main = *window("Velmora");
+    ASSERT_NE(main.frameGeometry().size(), main.size()) << "a frame is needed to see it";
+    EXPECT_TRUE(main.screen()->availableGeometry().contains(main.frameGeometry()));
 }
 
 TEST_F(MainWindowTest, PointerAndKeysReachTheCanvas) {

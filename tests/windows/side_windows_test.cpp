@@ -216,6 +216,73 @@ TEST_F(SideWindowsTest, TheOptionsLeaveRoomForTheOpenInformationAndItsTitle) {
               kTitle);
 }
 
+TEST_F(SideWindowsTest, ShownTheyLeaveTheKeyboardWithTheMainWindow) {
+    QWidget& main = *window("Velmora");
+    for (const char* name : {"wininfo", "winoptions"}) {
+        for (const bool loaded : {true, false}) {
+            SCOPED_TRACE(testing::Message() << name << (loaded ? " loaded" : " closed before"));
+            if (!loaded)
+                window(name)->close();
+            main.activateWindow();
+            control<QWidget>("Velmora", "pic").setFocus();
+            settle();
+            ASSERT_EQ(QApplication::activeWindow(), &main);
+            show(name);
+            EXPECT_EQ(QApplication::activeWindow(), &main);
+            EXPECT_TRUE(control<QWidget>("Velmora", "pic").hasFocus());
+        }
+    }
+}
+
+// It got the activation when it was shown, and keeps it until the main window is used.
+TEST_F(SideWindowsTest, ShownAWindowStaysOpenUntilTheMainWindowIsUsed) {
+    QWidget& main = *window("Velmora");
+    main.activateWindow();
+    settle();
+    show("wininfo");
+    EXPECT_FALSE(session.wininfo.rolled_up);
+    main.activateWindow(); // a message box in between gives the focus back
+    settle();
+    EXPECT_FALSE(session.wininfo.rolled_up);
+    QTest::keyClick(main.windowHandle(), Qt::Key_Shift);
+    EXPECT_TRUE(session.wininfo.rolled_up);
+    show("wininfo");
+    EXPECT_FALSE(session.wininfo.rolled_up);
+    QTest::mouseClick(main.windowHandle(), Qt::MiddleButton, {}, QPoint(5, 5));
+    EXPECT_TRUE(session.wininfo.rolled_up);
+}
+
+TEST_F(SideWindowsTest, AWindowThatTheUserWentToRollsUpWhenTheFocusLeavesIt) {
+    show("wininfo");
+    window("wininfo")->activateWindow();
+    settle();
+    EXPECT_EQ(QApplication::activeWindow(), window("wininfo"));
+    window("Velmora")->activateWindow();
+    settle();
+    EXPECT_TRUE(session.wininfo.rolled_up);
+}
+
+TEST_F(SideWindowsTest, ShownAgainAWindowKeepsTheUsersPlaceUntilTheMainWindowIsResized) {
+    QWidget& main = *window("Velmora");
+    const QPoint place(40, 70);
+    for (const char* name : {"wininfo", "winoptions"}) {
+        SCOPED_TRACE(name);
+        window(name)->move(place);
+        show(name);
+        EXPECT_EQ(window(name)->pos(), place);
+        window(name)->close();
+        settle();
+        show(name);
+        EXPECT_EQ(window(name)->pos(), place);
+        window(name)->close();
+        settle();
+        main.resize(main.size() - QSize(20, 20));
+        settle();
+        show(name);
+        EXPECT_NEAR(window(name)->frameGeometry().right(), main.frameGeometry().right(), 40);
+    }
+}
+
 TEST_F(SideWindowsTest, AClosedSideWindowComesBackByItsMenuEntry) {
     told.clear();
     window("wininfo")->close();

@@ -24,10 +24,11 @@ class TabOrderTest : public DialogsTest {
         set_shape({{0, 0}, {4, 0}, {4, 4}, {0, 4}});
         session.PtoSel = 1;
     }
-    /// Opens a window as its command does, on a page of its tabs where it has some.
+    /// Opens a window as its command does, on a page of its tabs where it has some, and goes to it:
+    /// a floating one leaves the keyboard with the main window.
     Names order_in(const char* window, const char* first, int page = 0) {
         show(window);
-        windows().activate(window);
+        this->window(window)->activateWindow();
         settle();
         if (auto* tabs = this->window(window)->findChild<QTabWidget*>())
             tabs->setCurrentIndex(page);
