@@ -9,6 +9,16 @@ namespace velmora {
 namespace {
 constexpr int kDefaultPointer = 0;
 constexpr int kHourglass = 11;
+
+std::string_view own_or_plain(std::string_view title) {
+    return title.empty() ? "Velmora" : title;
+}
+
+int keep_answer(int chosen) {
+    session.Respuesta = static_cast<std::int16_t>(chosen);
+    return chosen;
+}
+
 } // namespace
 
 void set_status(std::string_view text) {
@@ -30,9 +40,12 @@ void DoEvents() {
 }
 
 int MsgBox(std::string_view text, int buttons, std::string_view title) {
-    const int chosen = platform().dialogs.message(text, buttons, title.empty() ? "Velmora" : title);
-    session.Respuesta = static_cast<std::int16_t>(chosen);
-    return chosen;
+    return keep_answer(platform().dialogs.message(text, buttons, own_or_plain(title)));
+}
+
+int MsgBoxWithIcon(int icon, std::string_view text, int buttons, std::string_view title) {
+    return keep_answer(
+        platform().dialogs.message_with_icon(icon, text, buttons, own_or_plain(title)));
 }
 
 std::string InputBox(std::string_view prompt, std::string_view title, std::string_view preset) {

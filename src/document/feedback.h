@@ -18,6 +18,8 @@ void DoEvents();
 
 /// A message box; an empty title is "Velmora". The answer is returned, and stays in Respuesta.
 int MsgBox(std::string_view text, int buttons = 0, std::string_view title = {});
+/// The same with an icon to look at, which `buttons` does not name.
+int MsgBoxWithIcon(int icon, std::string_view text, int buttons, std::string_view title);
 /// An input box; the empty text when cancelled.
 std::string InputBox(std::string_view prompt, std::string_view title, std::string_view preset);
 

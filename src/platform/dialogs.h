@@ -48,6 +48,12 @@ class Dialogs {
     virtual ~Dialogs() = default;
     /// Shows a box and returns the answer.
     virtual int message(std::string_view text, int buttons_and_icon, std::string_view title) = 0;
+    /// The same where an icon helps that no code names: it is for the eye alone. Who has no eye for
+    /// it shows the box as coded.
+    virtual int message_with_icon(int /*icon*/, std::string_view text, int buttons_and_icon,
+                                  std::string_view title) {
+        return message(text, buttons_and_icon, title);
+    }
     /// Nothing when cancelled.
     virtual std::optional<std::string> input(std::string_view prompt, std::string_view title,
                                              std::string_view preset) = 0;

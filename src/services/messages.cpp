@@ -7,6 +7,7 @@
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "services/hourglass.h"
+#include "services/message_codes.h"
 
 #include <optional>
 
@@ -53,6 +54,16 @@ Message look_up(int codigo) {
             runtime::to_int32(runtime::Val(trimmed_field("Botones")))};
 }
 
+/// What the eye is shown where the table names no icon: a question, a loss to think over, a note,
+/// or that something was not done.
+int icon_for(int codigo, int coded) {
+    if (codigo == mensaje::sync_points_lost)
+        return buttons::exclamation;
+    if (codigo == mensaje::language_next_start)
+        return buttons::information;
+    return coded == buttons::ok ? buttons::exclamation : buttons::question;
+}
+
 } // namespace
 
 std::string GetMensaje(int codigo) {
@@ -65,7 +76,8 @@ int MuestraMensaje(int codigo) {
         message.text = "Error de Tabla de Idiomas";
         message.buttons = buttons::exclamation;
     }
-    return MsgBox(message.text, message.buttons, message.title);
+    return MsgBoxWithIcon(icon_for(codigo, message.buttons), message.text, message.buttons,
+                          message.title);
 }
 
 void close_messages() noexcept {

@@ -52,6 +52,30 @@ TEST_F(MessagesTest, texts_are_those_of_the_table_to_the_letter) {
         EXPECT_EQ(GetMensaje(code), text);
 }
 
+// The icon is for the eye; the code of the box stays that of the table.
+TEST_F(MessagesTest, messages_have_an_icon_where_one_helps) {
+    struct Case {
+        int message;
+        int icon;
+        int coded;
+    };
+    const Case cases[] = {
+        {mensaje::confirm_exit, buttons::question, buttons::yes_no},
+        {mensaje::sync_points_lost, buttons::exclamation, buttons::yes_no},
+        {mensaje::add_origin_sync, buttons::question, buttons::ok_cancel},
+        {mensaje::offer_unit_scale, buttons::question, buttons::yes_no},
+        {mensaje::only_numbers, buttons::exclamation, buttons::ok},
+        {mensaje::no_shape, buttons::exclamation, buttons::ok},
+        {mensaje::cad_not_open, buttons::exclamation, buttons::ok},
+        {mensaje::language_next_start, buttons::information, buttons::ok},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.message);
+        EXPECT_EQ(buttons_of(c.message), c.coded);
+        EXPECT_EQ(machine.dialogs.icons.back(), c.icon);
+    }
+}
+
 TEST_F(MessagesTest, every_code_in_use_has_a_text_and_its_buttons) {
     std::set<int> codes = {132, 144};
     for (int code = 4; code <= 99; ++code)

@@ -42,6 +42,12 @@ int RecordingDialogs::message(std::string_view text, int buttons, std::string_vi
                                                                                    : answer::ok);
 }
 
+int RecordingDialogs::message_with_icon(int icon, std::string_view text, int buttons,
+                                        std::string_view title) {
+    icons.push_back(icon);
+    return message(text, buttons, title);
+}
+
 std::optional<std::string> RecordingDialogs::input(std::string_view prompt, std::string_view title,
                                                    std::string_view preset) {
     input_calls.push_back({std::string(prompt), std::string(title), std::string(preset)});

@@ -42,10 +42,13 @@ class RecordingDialogs : public Dialogs {
     std::deque<std::optional<std::uint32_t>> colours; ///< queue; empty: cancelled
     std::deque<std::optional<FontChoice>> fonts;      ///< queue; empty: cancelled
     std::vector<ShownBox> boxes;
+    std::vector<int> icons; ///< of the boxes with an icon that no code names
     std::vector<std::vector<std::string>> input_calls; ///< prompt, title, preset
     std::vector<FileRequest> open_calls, save_calls;
 
     int message(std::string_view text, int buttons, std::string_view title) override;
+    int message_with_icon(int icon, std::string_view text, int buttons,
+                          std::string_view title) override;
     std::optional<std::string> input(std::string_view prompt, std::string_view title,
                                      std::string_view preset) override;
     std::string open_file(const FileRequest& request) override;

@@ -153,6 +153,12 @@ class QtDialogs : public Dialogs {
         return answer_of(box.exec());
     }
 
+    int message_with_icon(int icon, std::string_view text, int buttons_and_icon,
+                          std::string_view title) override {
+        const bool coded = (buttons_and_icon & kIconMask) != 0;
+        return message(text, coded ? buttons_and_icon : buttons_and_icon + icon, title);
+    }
+
     std::optional<std::string> input(std::string_view prompt, std::string_view title,
                                      std::string_view preset) override {
         bool taken = false;
