@@ -11,6 +11,11 @@
 
 namespace velmora {
 
+namespace error {
+/// A CAD that runs and turns calls away: it has a question of its own open, or is at work.
+inline constexpr int cad_busy = static_cast<int>(0x80010001U);
+} // namespace error
+
 /// One entity of a model space. Coordinates are drawing units, angles radians.
 class AcadEntity {
   public:
@@ -62,7 +67,7 @@ class AcadApplication {
 class Autocad {
   public:
     virtual ~Autocad() = default;
-    /// GetObject(, "AutoCAD.Application"). Raises 429 when none runs.
+    /// GetObject(, "AutoCAD.Application"). Raises 429 when none runs; one that is busy runs.
     [[nodiscard]] virtual std::shared_ptr<AcadApplication> GetObject() = 0;
     /// AppActivate "Autocad". Raises 5 without an application.
     virtual void AppActivate() = 0;

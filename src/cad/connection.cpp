@@ -37,19 +37,26 @@ void look_for_application() {
         trap([] { MuestraMensaje(mensaje::cad_not_open); }, [](const RuntimeError&) {});
 }
 
+void clear_names() {
+    session.wininfo.TxtOpensw.clear();
+    session.wininfo.txtAcadVer.clear();
+}
+
 // What was shown of a document stays, on purpose: only the application's state changes.
 void show_not_connected() {
     session.AcadOpen = False;
     session.wininfo.ShpAcadOpen = kNotConnected;
-    session.wininfo.TxtOpensw.clear();
-    session.wininfo.txtAcadVer.clear();
+    clear_names();
     enable_document_commands(false);
     enable("mnu_SendToCad", false);
 }
 
-void show_connected() {
+void show_names() {
     session.wininfo.TxtOpensw = acad().AcadApp->Name();
     session.wininfo.txtAcadVer = acad().AcadApp->Version();
+}
+
+void show_connected() {
     session.wininfo.ShpAcadOpen = kConnected;
     session.AcadOpen = True;
     enable("mnu_SendToCad", true);
@@ -59,6 +66,23 @@ void show_no_document() {
     enable_document_commands(false);
     session.wininfo.ShpAcadDocLoaded = kNotConnected;
     session.wininfo.TxtAcadFile.clear();
+}
+
+void look_for_document() {
+    if (acad().AcadApp->Documents_Count() >= 1)
+        take_active_document();
+    else
+        show_no_document();
+}
+
+/// What was found is open, also while it turns calls away; then `otherwise` runs.
+template <class Call, class Otherwise>
+void unless_busy(Call call, Otherwise otherwise) {
+    trap(call, [&](const RuntimeError& failure) {
+        if (failure.number != error::cad_busy)
+            throw RuntimeError(failure);
+        otherwise();
+    });
 }
 
 } // namespace
@@ -89,11 +113,20 @@ void ReconectaAcad() {
         show_not_connected();
         return;
     }
+    bool busy = false;
+    unless_busy(show_names, [&] {
+        busy = true;
+        clear_names();
+    });
     show_connected();
-    if (acad().AcadApp->Documents_Count() >= 1)
-        take_active_document();
-    else
+    if (busy) {
         show_no_document();
+        return;
+    }
+    unless_busy(look_for_document, [] {
+        forget_document();
+        show_no_document();
+    });
 }
 
 } // namespace velmora

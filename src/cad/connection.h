@@ -13,7 +13,8 @@ struct AcadConnection {
 AcadConnection& acad();
 
 /// Attaches to a running CAD and its active document, with the state of wininfo and of the three
-/// commands; message 31 when none runs. Always safe to call again.
+/// commands; message 31 when none runs. One that is busy is connected
+/// without its texts and without a document. Always safe to call again.
 void ReconectaAcad();
 
 /// Makes the application's active document the connected one, with the state of wininfo and of the

@@ -16,11 +16,6 @@ namespace {
 constexpr auto kCallRejected = static_cast<std::int32_t>(0x8021001CU);
 constexpr auto kExceptionInCad = static_cast<std::int32_t>(0x80020009U);
 
-struct Pick {
-    std::vector<double> point;
-    int error = 0;
-};
-
 bool connected_with_document() {
     if (session.AcadOpen == False) {
         MuestraMensaje(mensaje::cad_not_open);
@@ -35,27 +30,29 @@ bool connected_with_document() {
 
 // An error of the activation remains although the point was picked, on purpose: only a later error
 // takes its place.
-Pick ask_point() {
-    Pick pick;
+int ask_point() {
+    int error = 0;
     const auto keep_number = [&](const RuntimeError& failure) {
-        pick.error = failure.number;
+        error = failure.number;
     };
     trap([] { platform().cad.AppActivate(); }, keep_number);
     DoEvents();
-    trap([&] { pick.point = connected_document()->GetPoint(GetMensaje(mensaje::pick_start)); },
-         keep_number);
-    return pick;
+    trap(
+        [] { session.AcadPunto = connected_document()->GetPoint(GetMensaje(mensaje::pick_start)); },
+        keep_number);
+    return error;
 }
 
-Pick ask_until_answered() {
-    Pick pick;
+int ask_until_answered() {
+    int error = 0;
     do
-        pick = ask_point();
-    while (pick.error == kCallRejected || pick.error == kExceptionInCad);
-    return pick;
+        error = ask_point();
+    while (error == kCallRejected || error == kExceptionInCad);
+    return error;
 }
 
-void take_origin(const std::vector<double>& point) {
+void take_origin() {
+    const std::vector<double>& point = session.AcadPunto;
     if (point.size() < 2)
         raise(error::subscript);
     session.CadOrigX = Normaliza15(point[0]);
@@ -74,12 +71,11 @@ Flag SelOrigen() {
         return False;
     session.SelOrigenActivo = True;
     set_status(GetMensaje(mensaje::use_alt_tab));
-    const Pick pick = ask_until_answered();
-    if (pick.error != 0) {
+    if (ask_until_answered() != 0) {
         MuestraMensaje(mensaje::wrong_point);
         return False;
     }
-    take_origin(pick.point);
+    take_origin();
     session.LoadOk = 0;
     set_status(GetMensaje(mensaje::capturing));
     session.SelOrigenActivo = False;

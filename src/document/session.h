@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velmora {
 
@@ -86,6 +87,7 @@ struct Session {
     // CAD
     Flag AcadOpen = False, AcadDocLoaded = False, SelOrigenActivo = False;
     double CadOrigX = 0, CadOrigY = 0;
+    std::vector<double> AcadPunto;               ///< the point as the CAD returned it
     Array<ObjCad> ObjsCad = empty_entity_list(); ///< lives for one capture or one DXF load
     std::int32_t TotalObjs = 0, NLines = 0, NSplines = 0, NLWPolylines = 0, NArcs = 0, NCircles = 0;
 

@@ -128,6 +128,33 @@ TEST_F(ConnectionTest, a_connected_application_that_fails_is_not_passed_over) {
     EXPECT_EQ(number_of([] { ReconectaAcad(); }), 462);
 }
 
+TEST_F(ConnectionTest, an_application_that_is_busy_is_open_without_texts_and_document) {
+    run_application(true);
+    ReconectaAcad();
+    cad.application->name_error = error::cad_busy;
+    ReconectaAcad();
+    EXPECT_EQ(session.AcadOpen, True);
+    EXPECT_EQ(session.AcadDocLoaded, False);
+    EXPECT_EQ(session.wininfo.ShpAcadOpen, 65280U);
+    EXPECT_EQ(session.wininfo.ShpAcadDocLoaded, 255U);
+    EXPECT_EQ(session.wininfo.TxtOpensw, "");
+    EXPECT_EQ(session.wininfo.txtAcadVer, "");
+    EXPECT_EQ(session.wininfo.TxtAcadFile, "");
+    expect_commands(false, false, true);
+    EXPECT_TRUE(machine.dialogs.boxes.empty());
+}
+
+TEST_F(ConnectionTest, one_that_becomes_busy_with_its_document_has_none) {
+    run_application(true);
+    cad.application->document->name_error = error::cad_busy;
+    ReconectaAcad();
+    EXPECT_EQ(session.AcadOpen, True);
+    EXPECT_EQ(session.AcadDocLoaded, False);
+    EXPECT_EQ(session.wininfo.TxtOpensw, "AutoCAD");
+    EXPECT_EQ(acad().AcadDoc, nullptr);
+    expect_commands(false, false, true);
+}
+
 TEST_F(ConnectionWithoutDatabaseTest, the_failing_message_is_passed_over_here_alone) {
     EXPECT_EQ(number_of([] { ReconectaAcad(); }), 0);
     EXPECT_TRUE(machine.dialogs.boxes.empty());

@@ -39,6 +39,7 @@ TEST_F(SelOrigenTest, takes_the_picked_point) {
     EXPECT_EQ(SelOrigen(), True);
     EXPECT_EQ(session.CadOrigX, 1.23456789012346);
     EXPECT_EQ(session.CadOrigY, -2.5);
+    EXPECT_THAT(session.AcadPunto, ElementsAre(1.2345678901234568, -2.5, 0));
     EXPECT_EQ(session.OrigX, 1.23456789012346);
     EXPECT_EQ(session.OrigY, -2.5);
     EXPECT_EQ(session.wininfo.TxtOrigX, "1.23456789012346");

@@ -202,6 +202,13 @@ TEST_F(ComAutocadTest, an_application_that_is_busy_is_asked_again) {
     EXPECT_EQ(drawing->Name(), "Ala.dwg");
 }
 
+TEST_F(ComAutocadTest, an_application_that_is_busy_is_found) {
+    server.say({"running AutoCAD 15.0", "busy 1000"});
+    const auto application = cad->GetObject();
+    server.say({"busy 0"});
+    EXPECT_EQ(application->Name(), "AutoCAD");
+}
+
 TEST_F(ComAutocadTest, what_was_closed_or_erased_is_462_and_the_rest_goes_on) {
     const auto drawing = open_drawing({"line 0 0 1 0", "line 1 0 2 0"});
     const auto entity = drawing->Item(1);

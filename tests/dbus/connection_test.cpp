@@ -69,13 +69,18 @@ TEST_F(BusConnectionTest, a_name_that_is_no_text_is_no_cad) {
     EXPECT_EQ(number_of([&] { std::ignore = cad->GetObject(); }), 429);
 }
 
-TEST_F(BusConnectionTest, a_cad_that_is_stuck_is_no_cad) {
-    start_cad();
+TEST_F(BusConnectionTest, a_cad_that_is_busy_is_open_and_tells_the_rest_later) {
+    start_cad({"document ala.dwg"});
     remote->freeze();
-    EXPECT_EQ(number_of([&] { std::ignore = cad->GetObject(); }), 429);
-    remote->thaw();
     ReconectaAcad();
     EXPECT_EQ(session.AcadOpen, True);
+    EXPECT_EQ(session.AcadDocLoaded, False);
+    EXPECT_EQ(session.wininfo.TxtOpensw, "");
+    EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
+    remote->thaw();
+    ReconectaAcad();
+    EXPECT_EQ(session.wininfo.TxtOpensw, "AutoCAD");
+    EXPECT_EQ(session.wininfo.TxtAcadFile, "ALA.DWG");
 }
 
 TEST_F(BusConnectionTest, a_cad_that_is_gone_raises_462_until_the_next_connection) {

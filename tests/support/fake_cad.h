@@ -9,8 +9,13 @@ namespace velmora::test {
 class FakeDocument : public AcadDocument {
   public:
     std::string name = " Dibujo1.dwg ";
+    int name_error = 0; ///< raised when its name is asked for
 
-    std::string Name() override { return name; }
+    std::string Name() override {
+        if (name_error != 0)
+            raise(name_error);
+        return name;
+    }
     void Activate() override {}
     std::int32_t Count() override { return 0; }
     std::unique_ptr<AcadEntity> Item(std::int32_t) override { return nullptr; }

@@ -116,7 +116,7 @@ class ComAutocad : public Autocad {
         LateBound application(apartment_, std::move(found));
         // One that crashed stays among the active objects for a while, and anybody can take a
         // class.
-        if (!application.offers(L"Documents"))
+        if (!application.may_offer(L"Documents"))
             raise(error::cannot_create_object);
         return std::make_shared<ComApplication>(std::move(application));
     }

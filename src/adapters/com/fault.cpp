@@ -1,6 +1,7 @@
 #include "adapters/com/fault.h"
 
 #include "adapters/com/wide_text.h"
+#include "cad/autocad.h"
 
 #include <algorithm>
 #include <array>
@@ -28,6 +29,8 @@ const auto kMeanings = std::to_array<Meaning>({
     {of_windows(RPC_S_SERVER_UNAVAILABLE), error::server_unavailable},
     {of_windows(RPC_S_CALL_FAILED), error::server_unavailable},
     {of_windows(RPC_S_CALL_FAILED_DNE), error::server_unavailable},
+    {RPC_E_CALL_REJECTED, error::cad_busy},
+    {RPC_E_SERVERCALL_RETRYLATER, error::cad_busy},
     {DISP_E_UNKNOWNNAME, error::no_such_member},
     {DISP_E_MEMBERNOTFOUND, error::no_such_member},
     {DISP_E_TYPEMISMATCH, error::type_mismatch},

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <tuple>
 
 namespace velmora::com {
 
@@ -66,10 +65,11 @@ Variant LateBound::invoke(const wchar_t* member, WORD flags,
     return value;
 }
 
-bool LateBound::offers(const wchar_t* member) {
-    bool known = true;
-    trap([&] { std::ignore = id_of(member); }, [&](const RuntimeError&) { known = false; });
-    return known;
+bool LateBound::may_offer(const wchar_t* member) {
+    auto* name = const_cast<wchar_t*>(member); // the interface is older than const
+    DISPID id = DISPID_UNKNOWN;
+    const HRESULT result = object_->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id);
+    return SUCCEEDED(result) || is_busy(result);
 }
 
 void LateBound::put(const wchar_t* member, Variant value) {

@@ -33,8 +33,9 @@ class LateBound {
         invoke(member, DISPATCH_METHOD, pack(arguments...));
     }
     void put(const wchar_t* member, Variant value);
-    /// Whether it has the member. False too where it can't be asked any more.
-    [[nodiscard]] bool offers(const wchar_t* member);
+    /// Whether it has the member, as far as can be told at once: one that is busy may have it.
+    /// False where it can't be asked any more.
+    [[nodiscard]] bool may_offer(const wchar_t* member);
 
   private:
     /// As automation takes them: the last one first.

@@ -61,6 +61,11 @@ int number_of(const QDBusError& failure) {
 
 } // namespace
 
+bool is_silence(const QDBusError& failure) {
+    return failure.type() == QDBusError::NoReply || failure.type() == QDBusError::Timeout ||
+           failure.type() == QDBusError::TimedOut;
+}
+
 RuntimeError fault_of(const QDBusError& failure) {
     const int number = own_number(failure.name()).value_or(number_of(failure));
     // What the bus says of a CAD that is gone is no text for its user.

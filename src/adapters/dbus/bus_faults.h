@@ -11,4 +11,7 @@ namespace velmora {
 /// other gets the run-time's number for it. The description is the CAD's own.
 [[nodiscard]] RuntimeError fault_of(const QDBusError& failure);
 
+/// Nobody answered in time; or the one who was asked went meanwhile.
+[[nodiscard]] bool is_silence(const QDBusError& failure);
+
 } // namespace velmora

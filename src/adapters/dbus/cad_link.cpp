@@ -30,9 +30,18 @@ QDBusConnection session_bus() {
     return QDBusConnection::connectToBus(QDBusConnection::SessionBus, kConnection);
 }
 
+/// The error of a question: `silence` where the one who was asked is there and says nothing.
+RuntimeError fault_of_question(const QDBusConnection& bus, const QDBusMessage& question,
+                               const QDBusError& failure, int silence) {
+    if (is_silence(failure) && bus.interface()->isServiceRegistered(question.service()))
+        return RuntimeError(silence);
+    return fault_of(failure);
+}
+
 /// The windows repaint meanwhile and stand still: what a person does in them waits.
 QDBusMessage answer_to(const QDBusConnection& bus, QDBusMessage question,
-                       std::chrono::milliseconds patience) {
+                       std::chrono::milliseconds patience,
+                       int silence = error::server_unavailable) {
     question.setAutoStartService(false);
     const QDBusPendingCallWatcher watcher(
         bus.asyncCall(question, static_cast<int>(patience.count())));
@@ -44,7 +53,7 @@ QDBusMessage answer_to(const QDBusConnection& bus, QDBusMessage question,
     if (!watcher.isFinished())
         raise(error::server_unavailable);
     if (watcher.isError())
-        throw fault_of(watcher.error());
+        throw fault_of_question(bus, question, watcher.error(), silence);
     return watcher.reply();
 }
 
@@ -76,11 +85,11 @@ std::optional<CadLink> CadLink::attach(CadPatience patience) {
     return CadLink(bus, owner.value(), patience);
 }
 
-QString CadLink::property(const char* name, std::chrono::milliseconds patience) const {
+QString CadLink::property(const char* name) const {
     const QDBusMessage answer = answer_to(bus_,
                                           question_to(owner_, "org.freedesktop.DBus.Properties",
                                                       "Get", {QString(kInterface), QString(name)}),
-                                          patience);
+                                          patience_.to_attach, error::cad_busy);
     const QVariant value = only_value(answer, "v").value<QDBusVariant>().variant();
     if (value.typeId() != QMetaType::QString)
         raise(error::type_mismatch);

@@ -16,10 +16,8 @@ class CadLink {
     /// To whoever owns the name now, and to nobody who owns it later; nothing when nobody does.
     [[nodiscard]] static std::optional<CadLink> attach(CadPatience patience);
 
-    [[nodiscard]] QString property(const char* name, std::chrono::milliseconds patience) const;
-    [[nodiscard]] QString property(const char* name) const {
-        return property(name, patience_.to_answer);
-    }
+    /// Raises cad_busy where the CAD is there and does not answer.
+    [[nodiscard]] QString property(const char* name) const;
     /// Raises what the CAD answers, 462 when it is gone or silent.
     void tell(const char* method, const QVariantList& arguments = {}) const;
     /// The answer's one value; `signature` is what the interface says of it, 13 is raised for
@@ -29,8 +27,6 @@ class CadLink {
     /// The same for a question to the user, who may take any time.
     [[nodiscard]] QVariant ask_user(const char* method, const char* signature,
                                     const QVariantList& arguments) const;
-
-    [[nodiscard]] const CadPatience& patience() const { return patience_; }
 
   private:
     CadLink(QDBusConnection bus, QString owner, CadPatience patience);

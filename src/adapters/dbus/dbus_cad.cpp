@@ -31,11 +31,11 @@ class DbusCad : public Autocad {
     }
 
   private:
-    /// Anybody can own a name.
+    /// Anybody can own a name. One that says nothing is at work.
     [[nodiscard]] static bool offers_interface(const CadLink& link) {
         bool offers = true;
-        trap([&] { std::ignore = link.property("Name", link.patience().to_attach); },
-             [&](const RuntimeError&) { offers = false; });
+        trap([&] { std::ignore = link.property("Name"); },
+             [&](const RuntimeError& failure) { offers = failure.number == error::cad_busy; });
         return offers;
     }
 

@@ -69,6 +69,10 @@ class Served : public IDispatch {
 };
 
 HRESULT Served::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) {
+    if (manners_.busy > 0) {
+        --manners_.busy;
+        return RPC_E_CALL_REJECTED;
+    }
     const auto found = std::ranges::find_if(
         members_, [&](const Member& member) { return same_name(member.name, names[0]); });
     if (found == members_.end() || found->name == manners_.hidden_member) {

@@ -11,9 +11,9 @@ namespace velmora::driver {
 
 namespace {
 
-using Member =
-    std::variant<std::int16_t Session::*, std::int32_t Session::*, std::uint32_t Session::*,
-                 double Session::*, char Session::*, std::string Session::*>;
+using Member = std::variant<std::int16_t Session::*, std::int32_t Session::*,
+                            std::uint32_t Session::*, double Session::*, char Session::*,
+                            std::string Session::*, std::vector<double> Session::*>;
 
 struct NamedValue {
     std::string_view name;
@@ -81,6 +81,7 @@ constexpr auto kValues = std::to_array<NamedValue>({
     {"AcadOpen", &Session::AcadOpen},
     {"AcadDocLoaded", &Session::AcadDocLoaded},
     {"SelOrigenActivo", &Session::SelOrigenActivo},
+    {"AcadPunto", &Session::AcadPunto},
     {"CadOrigX", &Session::CadOrigX},
     {"CadOrigY", &Session::CadOrigY},
     {"TotalObjs", &Session::TotalObjs},
@@ -123,6 +124,12 @@ std::string text_of(char value) {
 }
 std::string text_of(const std::string& value) {
     return value;
+}
+std::string text_of(const std::vector<double>& numbers) {
+    std::string text;
+    for (const double number : numbers)
+        text.append(text.empty() ? "" : " ").append(number_text(number));
+    return text;
 }
 
 } // namespace
