@@ -30,6 +30,8 @@ struct Session {
     char SepDecimal = '.';
     std::string program_folder; ///< where the program's own writable files stand
     bool language_database_open = false;
+    std::string language_database_fault; ///< why it could not be opened; empty otherwise
+    std::vector<std::string> kept_aside; ///< the user's files that gave way to newer ones, by path
     std::int16_t ExitConfirmed = 0;
     Flag FirstActivate = True;
     std::int16_t Respuesta = 0; ///< last message box answer: 1 OK, 2 Cancel, 6 Yes, 7 No

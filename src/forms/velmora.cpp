@@ -17,6 +17,7 @@
 #include "services/message_codes.h"
 #include "services/messages.h"
 #include "services/settings.h"
+#include "services/stand_in_database.h"
 #include "services/window_literals.h"
 
 namespace velmora {
@@ -54,9 +55,15 @@ void set_flags() {
     session.GenSCR = session.GenDATPerfil = False;
 }
 
-// A file that is missing, locked or no database leaves the program with its design texts.
+std::string told(const RuntimeError& failure) {
+    return "nº: " + CStr(std::int32_t{failure.number}) + "  - Desc: " + description_of(failure);
+}
+
+// A file that is missing leaves the program with its design texts and without messages. One that
+// can't be read has another in its place, and the user is told.
 void open_language_database() {
     session.language_database_open = false;
+    session.language_database_fault.clear();
     const std::string file = program_file("\\VELMORA.MDB");
     if (!runtime::file_exists(file))
         return;
@@ -65,7 +72,10 @@ void open_language_database() {
             platform().database.open(file);
             session.language_database_open = true;
         },
-        [](const RuntimeError&) {});
+        [&](const RuntimeError& failure) {
+            session.language_database_fault = file + "\n" + told(failure);
+            open_stand_in_database();
+        });
 }
 
 void close_language_database() {
@@ -104,6 +114,15 @@ std::string main_caption() {
 void take_colours() {
     session.Velmora.pic_BackColor = session.cl_fondo;
     session.Velmora.lbl_xyfloat_ForeColor = session.cl_coords;
+}
+
+void tell_of_data_files() {
+    for (const std::string& file : session.kept_aside)
+        MsgBox(GetMensaje(mensaje::kept_aside) + "\n\n" + file, buttons::information, box_title());
+    if (!session.language_database_fault.empty())
+        MsgBox(GetMensaje(mensaje::stand_in_texts) + "\n\n" + session.language_database_fault,
+               buttons::exclamation, box_title());
+    session.kept_aside.clear();
 }
 
 void end_with_everything_closed() {
@@ -165,6 +184,7 @@ void Velmora_Activate() {
     ReconectaAcad();
     platform().windows.show("wininfo");
     platform().windows.show("winoptions");
+    tell_of_data_files();
     platform().windows.set_focus("Velmora", "pic");
 }
 

@@ -7,15 +7,16 @@
 namespace velmora {
 
 /// Load of the start window `intro`: version, settings, session flags, language database, literals.
-/// A database that can't be opened leaves the design texts, without a box. Raises what LeeSettings
-/// does.
+/// Without a database the design texts stay; one that can't be read is stood in for by the design
+/// texts and the Spanish messages. Raises what LeeSettings does.
 void intro_Load();
 /// Load of the main window: session values, separator, caption, literals, recent files.
 void Velmora_Load();
 /// Load of the side windows. Raises what LeeSettings does.
 void wininfo_Load();
 void winoptions_Load();
-/// First activation: connects to the CAD, shows the side windows. Later ones do nothing.
+/// First activation: connects to the CAD, shows the side windows, tells what became of the
+/// program's own files. Later ones do nothing.
 void Velmora_Activate();
 /// The main window's close box was used: the side windows go and the program ends, no question.
 void Velmora_QueryUnload();

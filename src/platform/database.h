@@ -72,6 +72,8 @@ class Database {
     /// where it is missing, 3343 where it is no database (an empty file is none), 3008 while
     /// another program has it locked, 3051 where it may not be read. What was open is closed first.
     virtual void open(std::string_view path) = 0;
+    /// An empty one without a file, gone when it is closed.
+    virtual void open_empty() = 0;
     virtual void close() noexcept = 0;
     [[nodiscard]] virtual bool is_open() const = 0;
 

@@ -89,6 +89,8 @@ inline constexpr int rotation_angle = 98;
 inline constexpr int rotation_title = 99;
 inline constexpr int no_support_address = 100;
 inline constexpr int no_web_page = 101;
+inline constexpr int kept_aside = 110;
+inline constexpr int stand_in_texts = 111;
 inline constexpr int open_filter = 132;
 inline constexpr int picture_filter = 144;
 

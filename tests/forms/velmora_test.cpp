@@ -210,63 +210,131 @@ TEST_F(StartTest, side_windows_take_their_literals) {
 
 // What stands in the place of the language database.
 
-enum class Fault { missing, empty, no_database, no_tables, locked };
+constexpr const char* kNotOpen =
+    "Autocad no está abierto en este momento! Abrelo y pulsa Reconectar Acad";
 
-struct StartWithoutDatabaseTest : StartTest, testing::WithParamInterface<Fault> {
+struct StartWithoutDatabaseTest : StartTest {
+    test::FakeControl& entry = main.add("mnu_openfile", ControlKind::other);
+
+    StartWithoutDatabaseTest() { entry.texts = {"diseño"}; }
+
+    static void start() {
+        intro_Load();
+        Velmora_Load();
+        Velmora_Activate();
+    }
+    void expect_design_texts() {
+        EXPECT_THAT(entry.texts, ElementsAre("diseño"));
+        EXPECT_EQ(session.Velmora.MousePointer, 0);
+        EXPECT_THAT(machine.windows.calls,
+                    ElementsAre("show wininfo", "show winoptions", "focus Velmora.pic"));
+    }
+    static std::unique_ptr<Database> other_program() {
+        auto other = make_sqlite_database();
+        other->open(program_file("\\VELMORA.MDB"));
+        return other;
+    }
+};
+
+TEST_F(StartWithoutDatabaseTest, a_missing_one_leaves_no_messages) {
+    std::filesystem::remove(machine.folder / "VELMORA.MDB");
+    start();
+    expect_design_texts();
+    EXPECT_FALSE(session.language_database_open);
+    EXPECT_EQ(session.Velmora.Caption, "Velmora 1.0 (1011) ");
+    EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
+    EXPECT_EQ(number_of([] { (void)MuestraMensaje(37); }), 91);
+}
+
+TEST_F(StartWithoutDatabaseTest, one_without_tables_leaves_no_messages) {
+    for (const char* table : {"Mensajes", "intro", "Velmora"})
+        other_program()->execute(std::string("DROP TABLE ") + table);
+    start();
+    expect_design_texts();
+    EXPECT_TRUE(session.language_database_open);
+    EXPECT_EQ(session.Velmora.Caption, "Velmora 1.0 (1011) ");
+    EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
+    EXPECT_EQ(number_of([] { (void)MuestraMensaje(37); }), 3078);
+}
+
+enum class Fault { empty, no_database, half, locked };
+
+struct StartWithDamagedDatabaseTest : StartWithoutDatabaseTest, testing::WithParamInterface<Fault> {
     std::unique_ptr<Database> locker;
 
-    StartWithoutDatabaseTest() {
+    StartWithDamagedDatabaseTest() {
         const auto path = machine.folder / "VELMORA.MDB";
         switch (GetParam()) {
-        case Fault::missing:
-            std::filesystem::remove(path);
-            break;
         case Fault::empty:
             machine.write("VELMORA.MDB", "");
             break;
         case Fault::no_database:
             machine.write("VELMORA.MDB", std::string(5000, 'x'));
             break;
-        case Fault::no_tables:
-            remove_tables();
+        case Fault::half:
+            std::filesystem::resize_file(path, std::filesystem::file_size(path) / 2);
             break;
         case Fault::locked:
             locker = other_program();
             locker->execute("BEGIN EXCLUSIVE");
         }
     }
-    std::unique_ptr<Database> other_program() {
-        auto other = make_sqlite_database();
-        other->open(program_file("\\VELMORA.MDB"));
-        return other;
-    }
-    void remove_tables() {
-        const auto other = other_program();
-        for (const char* table : {"Mensajes", "intro", "Velmora"})
-            other->execute(std::string("DROP TABLE ") + table);
-    }
+    static int number() { return GetParam() == Fault::locked ? 3008 : 3343; }
 };
 
-TEST_P(StartWithoutDatabaseTest, the_program_starts_with_its_design_texts_and_without_a_box) {
-    auto& entry = main.add("mnu_openfile", ControlKind::other);
-    entry.texts = {"diseño"};
+TEST_P(StartWithDamagedDatabaseTest, the_spanish_messages_stand_in_and_the_user_is_told) {
+    session.Idioma = "I";
+    machine.settings.save("Values", "Idioma", "I");
+    start();
+    expect_design_texts();
+    EXPECT_FALSE(session.language_database_open);
+    EXPECT_EQ(session.Velmora.Caption,
+              "Velmora 1.0 (1011) - Coordenadas para corte CNC por hilo caliente");
+    ASSERT_EQ(machine.dialogs.boxes.size(), 2U);
+    EXPECT_EQ(machine.dialogs.boxes[0].text, kNotOpen);
+    const auto& box = machine.dialogs.boxes[1];
+    EXPECT_THAT(box.text,
+                testing::StartsWith("La base de datos de idiomas no se puede leer. El programa "
+                                    "sigue con los textos en español. Fichero:\n\n" +
+                                    program_file("\\VELMORA.MDB") +
+                                    "\nnº: " + std::to_string(number()) + "  - Desc: "));
+    EXPECT_EQ(box.title, "Velmora 1.0");
+}
+
+TEST_P(StartWithDamagedDatabaseTest, a_message_keeps_its_buttons) {
+    start();
+    machine.dialogs.boxes.clear();
+    MuestraMensaje(4);
+    EXPECT_EQ(machine.dialogs.boxes.at(0).text, "Estás seguro de querer salir de Velmora?");
+    EXPECT_EQ(machine.dialogs.boxes.at(0).buttons & 7, buttons::yes_no);
+}
+
+TEST_P(StartWithDamagedDatabaseTest, the_next_start_with_a_whole_one_tells_nothing) {
+    start();
+    close_messages();
+    locker.reset();
+    put_database(machine);
+    machine.dialogs.boxes.clear();
+    session.FirstActivate = True;
+    start();
+    EXPECT_TRUE(session.language_database_open);
+    EXPECT_EQ(machine.dialogs.boxes.size(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Faults, StartWithDamagedDatabaseTest,
+                         testing::Values(Fault::empty, Fault::no_database, Fault::half,
+                                         Fault::locked));
+
+TEST_F(StartTest, what_gave_way_to_a_newer_file_is_told) {
+    session.kept_aside = {"/home/ana/VELMORA-1.MDB"};
     intro_Load();
     Velmora_Load();
     Velmora_Activate();
-    EXPECT_EQ(session.language_database_open, GetParam() == Fault::no_tables);
-    EXPECT_EQ(session.Velmora.Caption, "Velmora 1.0 (1011) ");
-    EXPECT_THAT(entry.texts, ElementsAre("diseño"));
-    EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
-    EXPECT_EQ(session.Velmora.MousePointer, 0);
-    EXPECT_THAT(machine.windows.calls,
-                ElementsAre("show wininfo", "show winoptions", "focus Velmora.pic"));
-    EXPECT_EQ(number_of([] { (void)MuestraMensaje(37); }),
-              GetParam() == Fault::no_tables ? 3078 : 91);
+    ASSERT_EQ(machine.dialogs.boxes.size(), 2U);
+    EXPECT_EQ(machine.dialogs.boxes[1].text,
+              "Un fichero tuyo era distinto del que trae el programa y se ha renovado. El tuyo se "
+              "ha guardado con otro nombre:\n\n/home/ana/VELMORA-1.MDB");
 }
-
-INSTANTIATE_TEST_SUITE_P(Faults, StartWithoutDatabaseTest,
-                         testing::Values(Fault::missing, Fault::empty, Fault::no_database,
-                                         Fault::no_tables, Fault::locked));
 
 // Running and leaving.
 

@@ -108,6 +108,13 @@ class LanguageDatabase(unittest.TestCase):
         self.assertTrue((self.work / "b2.DAT").exists())
         self.assertNotEqual((self.work / "a2.DAT").read_bytes(), BEFORE["a2.DAT"])
 
+    def test_damaged_another_one_stands_in(self):
+        whole = self.database.read_bytes()
+        self.database.write_bytes(whole[:len(whole) // 2])
+        status, printed = self.drive()
+        self.assertEqual((status, printed[-1]), (0, "pointer 0"))
+        self.assertTrue((self.work / "b2.DAT").exists())
+
     def test_without_the_table(self):
         self.execute("DROP TABLE TEMP_AJUSTE")
         self.assert_stopped(self.drive(), 3078)

@@ -1,7 +1,7 @@
 #include "adapters/sqlite/sqlite_database.h"
 
+#include "adapters/sqlite/sqlite_connection.h"
 #include "adapters/sqlite/sqlite_recordsets.h"
-#include "runtime/paths.h"
 #include "runtime/text.h"
 
 #include <sqlite3.h>
@@ -12,36 +12,6 @@ namespace {
 
 using sqlite::Connection;
 using sqlite::Statement;
-
-// A file that another program has locked must never hold up the start.
-constexpr int kBusyMilliseconds = 200;
-
-// An empty file passes for a database without tables as long as nobody looks.
-void refuse_empty(const Connection& connection) {
-    Statement pages(connection, "PRAGMA page_count");
-    if (pages.step() && pages.column(0) == Value{std::int64_t{0}})
-        raise(error::not_a_database, "file is empty");
-}
-
-Connection connect(std::string_view path) {
-    if (!runtime::file_exists(path))
-        raise(error::invalid_database_path);
-    const std::string file = runtime::path_text(runtime::native_path(path));
-    sqlite3* handle = nullptr;
-    // A write-protected file is opened for reading by the same flags.
-    const int code = sqlite3_open_v2(file.c_str(), &handle,
-                                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE, nullptr);
-    if (handle == nullptr)
-        raise(error::out_of_memory);
-    Connection connection(handle, sqlite3_close_v2);
-    if (code != SQLITE_OK)
-        throw sqlite::fault_of(handle);
-    sqlite3_busy_timeout(handle, kBusyMilliseconds);
-    // A file that is no database, or is locked, shows here and not at the first text.
-    Statement(connection, "SELECT count(*) FROM sqlite_master").step();
-    refuse_empty(connection);
-    return connection;
-}
 
 bool is_select(std::string_view text) {
     return runtime::UCase(text.substr(0, 7)) == "SELECT ";
@@ -69,7 +39,11 @@ class SqliteDatabase : public Database {
   public:
     void open(std::string_view path) override {
         close();
-        connection_ = connect(path);
+        connection_ = sqlite::connect(path);
+    }
+    void open_empty() override {
+        close();
+        connection_ = sqlite::connect_to_nothing();
     }
     void close() noexcept override {
         rollback();
