@@ -1,5 +1,6 @@
 #include "adapters/qt/qt_platform.h"
 #include "document/session.h"
+#include "runtime/paths.h"
 
 #include <QApplication>
 
@@ -8,7 +9,10 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("Velmora");
     velmora::QtPlatform platform;
     platform.install();
-    velmora::session.program_folder = velmora::find_program_folder();
+    const velmora::ProgramFolder folder = velmora::find_program_folder();
+    velmora::session.program_folder = velmora::runtime::path_text(folder.path);
+    for (const auto& file : folder.kept_aside)
+        velmora::session.kept_aside.push_back(velmora::runtime::path_text(file));
     platform.windows->start();
     return QApplication::exec();
 }

@@ -1,21 +1,21 @@
 #include "adapters/qt/program_folder.h"
 
+#include "adapters/qt/data_files.h"
 #include "runtime/paths.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+
+#include <optional>
 
 namespace velmora {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* kDatabase = "VELMORA.MDB";
-constexpr const char* kFiles[] = {kDatabase,     "mdbwav0.wav",    "mdbwav1.wav", "mdbwav7.wav",
-                                  "velmora.chm", "deployment.txt", "acad.dwt"};
-constexpr const char* kHelpPages = "help";
 
 QString qt_path(const fs::path& path) {
     return QString::fromStdString(runtime::path_text(path));
@@ -25,41 +25,73 @@ fs::path path_of(const QString& path) {
     return runtime::native_path(path.toStdString());
 }
 
+bool has_database(const fs::path& folder) {
+    return QFileInfo(qt_path(folder / kLanguageDatabase)).isFile();
+}
+
 /// The database takes a journal beside it, so its folder must be writable too.
 bool is_portable(const fs::path& folder) {
-    return QFileInfo(qt_path(folder / kDatabase)).isWritable() &&
+    return QFileInfo(qt_path(folder / kLanguageDatabase)).isWritable() &&
            QFileInfo(qt_path(folder)).isWritable();
 }
 
-void copy_missing(const fs::path& from, const fs::path& to) {
+/// Anybody may make a folder of that name where all users write; only its owner sets permissions.
+bool is_own(const fs::path& folder) {
+    constexpr auto kOwnerAlone =
+        QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+    return !QFileInfo(qt_path(folder)).isSymLink() &&
+           QFile::setPermissions(qt_path(folder), kOwnerAlone);
+}
+
+std::optional<ProgramFolder> filled(const fs::path& folder, const std::vector<fs::path>& sources) {
     std::error_code ignored;
-    for (const char* name : kFiles) {
-        if (fs::exists(to / name, ignored) || !fs::copy_file(from / name, to / name, ignored))
-            continue;
-        fs::permissions(to / name, fs::perms::owner_write, fs::perm_options::add, ignored);
-    }
-    fs::copy(from / kHelpPages, to / kHelpPages,
-             fs::copy_options::recursive | fs::copy_options::skip_existing, ignored);
+    fs::create_directories(folder, ignored);
+    if (!QFileInfo(qt_path(folder)).isWritable())
+        return std::nullopt;
+    ProgramFolder result{folder, bring_data_files(sources, folder)};
+    const bool expected = has_database(sources[0]) || has_database(sources[1]);
+    return is_portable(folder) || !expected ? std::optional(result) : std::nullopt;
+}
+
+fs::path readable(const ProgramPlaces& places) {
+    return has_database(places.installed) ? places.installed : places.executable;
+}
+
+/// Empty where the desktop names none.
+std::vector<fs::path> stand_ins() {
+    std::vector<fs::path> folders;
+    for (const QString& place :
+         {QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation), QDir::tempPath()})
+        if (!place.isEmpty())
+            folders.push_back(path_of(place) / "Velmora");
+    return folders;
 }
 
 } // namespace
 
-fs::path choose_program_folder(const ProgramPlaces& places) {
+ProgramFolder choose_program_folder(const ProgramPlaces& places) {
     if (is_portable(places.executable))
-        return places.executable;
-    std::error_code ignored;
-    fs::create_directories(places.user_data, ignored);
-    copy_missing(places.installed, places.user_data);
-    copy_missing(places.executable, places.user_data);
-    return places.user_data;
+        return {places.executable, {}};
+    const std::vector<fs::path> sources{places.installed, places.executable};
+    if (const auto folder = filled(places.user_data, sources))
+        return *folder;
+    for (const fs::path& stand_in : places.stand_ins) {
+        std::error_code ignored;
+        fs::create_directories(stand_in, ignored);
+        if (!is_own(stand_in))
+            continue;
+        if (const auto folder = filled(stand_in, sources))
+            return *folder;
+    }
+    return {readable(places), {}};
 }
 
-std::string find_program_folder() {
+ProgramFolder find_program_folder() {
     const fs::path executable = path_of(QCoreApplication::applicationDirPath());
     const fs::path user_data =
         path_of(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-    return runtime::path_text(
-        choose_program_folder({executable, user_data, executable / ".." / "share" / "velmora"}));
+    return choose_program_folder(
+        {executable, user_data, executable / ".." / "share" / "velmora", stand_ins()});
 }
 
 } // namespace velmora

@@ -1,14 +1,25 @@
 #include "adapters/qt/program_folder.h"
 
-#include <QTemporaryDir>
-#include <fstream>
+#include "adapters/sqlite/sqlite_database.h"
+#include "runtime/paths.h"
+#include "support/places.h"
+#include "support/temporary_folder.h"
+
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#ifdef __linux__
+#include <csignal>
+#include <sys/resource.h>
+#endif
 
 namespace velmora {
 
 namespace {
 
 namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::IsEmpty;
 
 class ProgramFolderTest : public testing::Test {
   protected:
@@ -16,55 +27,290 @@ class ProgramFolderTest : public testing::Test {
         for (const fs::path& folder : {places.executable, places.installed})
             fs::create_directories(folder);
     }
-    ~ProgramFolderTest() override { fs::permissions(places.executable, fs::perms::owner_all); }
 
-    static void write(const fs::path& path, const char* text) { std::ofstream(path) << text; }
+    static void write(const fs::path& path, std::string_view text) {
+        fs::create_directories(path.parent_path());
+        fs::remove(path);
+        std::ofstream(path, std::ios::binary) << text;
+    }
     static std::string read(const fs::path& path) {
-        std::ifstream file(path);
+        std::ifstream file(path, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
     static bool writable(const fs::path& path) {
         return (fs::status(path).permissions() & fs::perms::owner_write) != fs::perms::none;
     }
+    static void put_database(const fs::path& folder) {
+        fs::copy_file(test::built_database(), folder / "VELMORA.MDB",
+                      fs::copy_options::overwrite_existing);
+    }
+    static void change(const fs::path& folder, std::string_view statement) {
+        const auto database = make_sqlite_database();
+        database->open(runtime::path_text(folder / "VELMORA.MDB"));
+        database->execute(statement);
+    }
+    static void set_message(const fs::path& folder, const std::string& text) {
+        change(folder, "UPDATE Mensajes SET Descripcion = '" + text +
+                           "' WHERE Codigo = '37' AND Idioma = 'E'");
+    }
+    static std::string message_in(const fs::path& file) {
+        const auto database = make_sqlite_database();
+        database->open(runtime::path_text(file));
+        const auto row = database->open_recordset(
+            "SELECT Descripcion FROM Mensajes WHERE Codigo = '37' AND Idioma = 'E'",
+            Access::read_only);
+        return text_of(row->field("Descripcion"));
+    }
 
-    QTemporaryDir folder_;
-    fs::path root = folder_.path().toStdString();
-    ProgramPlaces places{root / "bin", root / "data" / "Velmora", root / "share" / "velmora"};
+    std::string users_message() const { return message_in(places.user_data / "VELMORA.MDB"); }
+    /// The program starts: fills the user's folder from the installed files.
+    ProgramFolder start() const { return choose_program_folder(places); }
+    void start_in_users_folder() const { ASSERT_EQ(start().path, places.user_data); }
+
+    test::TemporaryFolder folder_;
+    fs::path root = folder_.path();
+    ProgramPlaces places{root / "bin",
+                         root / "data" / "Velmora",
+                         root / "share" / "velmora",
+                         {root / "run" / "Velmora", root / "tmp" / "Velmora"}};
+    fs::path kept = places.user_data / "VELMORA-1.MDB";
 };
 
 TEST_F(ProgramFolderTest, IsTheExecutablesWhereTheDatabaseLiesBesideIt) {
     write(places.executable / "VELMORA.MDB", "portable");
-    EXPECT_EQ(choose_program_folder(places), places.executable);
+    EXPECT_EQ(start().path, places.executable);
     EXPECT_FALSE(fs::exists(places.user_data));
 }
 
 TEST_F(ProgramFolderTest, IsTheUsersFilledFromTheInstalledFiles) {
-    for (const char* name : {"VELMORA.MDB", "mdbwav0.wav", "velmora.chm", "deployment.txt"})
+    for (const char* name : {"mdbwav0.wav", "velmora.chm", "deployment.txt"})
         write(places.installed / name, name);
-    fs::create_directories(places.installed / "help");
+    put_database(places.installed);
     write(places.installed / "help" / "index.html", "pages");
     fs::permissions(places.installed / "VELMORA.MDB", fs::perms::owner_read);
-    EXPECT_EQ(choose_program_folder(places), places.user_data);
+    start_in_users_folder();
     EXPECT_EQ(read(places.user_data / "mdbwav0.wav"), "mdbwav0.wav");
     EXPECT_EQ(read(places.user_data / "velmora.chm"), "velmora.chm");
     EXPECT_EQ(read(places.user_data / "deployment.txt"), "deployment.txt");
     EXPECT_EQ(read(places.user_data / "help" / "index.html"), "pages");
+    EXPECT_EQ(users_message(), message_in(test::built_database()));
     EXPECT_TRUE(writable(places.user_data / "VELMORA.MDB"));
 }
 
-TEST_F(ProgramFolderTest, KeepsWhatTheUsersFolderHas) {
-    write(places.installed / "VELMORA.MDB", "installed");
-    fs::create_directories(places.user_data);
-    write(places.user_data / "VELMORA.MDB", "the user's");
-    EXPECT_EQ(choose_program_folder(places), places.user_data);
-    EXPECT_EQ(read(places.user_data / "VELMORA.MDB"), "the user's");
+TEST_F(ProgramFolderTest, IsTheUsersWithNothingInstalledToo) {
+    EXPECT_EQ(start().path, places.user_data);
+    EXPECT_TRUE(fs::is_directory(places.user_data));
 }
 
-TEST_F(ProgramFolderTest, IsTheUsersWithNothingInstalledToo) {
-    EXPECT_EQ(choose_program_folder(places), places.user_data);
-    EXPECT_TRUE(fs::is_directory(places.user_data));
-    EXPECT_TRUE(fs::is_empty(places.user_data));
+TEST_F(ProgramFolderTest, ACopyNobodyTouchedIsRenewedWithTheProgram) {
+    put_database(places.installed);
+    write(places.installed / "mdbwav0.wav", "old sound");
+    write(places.installed / "help" / "index.html", "old page");
+    start_in_users_folder();
+    set_message(places.installed, "Nuevo");
+    write(places.installed / "mdbwav0.wav", "new sound");
+    write(places.installed / "help" / "index.html", "new page");
+    const ProgramFolder folder = start();
+    EXPECT_EQ(users_message(), "Nuevo");
+    EXPECT_EQ(read(places.user_data / "mdbwav0.wav"), "new sound");
+    EXPECT_EQ(read(places.user_data / "help" / "index.html"), "new page");
+    EXPECT_THAT(folder.kept_aside, IsEmpty());
+    EXPECT_FALSE(fs::exists(kept));
 }
+
+TEST_F(ProgramFolderTest, WhatTheProgramWritesIntoItsDatabaseIsNoChangeOfTheUsers) {
+    put_database(places.installed);
+    start_in_users_folder();
+    change(places.user_data, "INSERT INTO TEMP_AJUSTE VALUES (1, 2, 3, 4, 'A')");
+    change(places.user_data, "DELETE FROM Mult_Ptos");
+    set_message(places.installed, "Nuevo");
+    EXPECT_THAT(start().kept_aside, IsEmpty());
+    EXPECT_EQ(users_message(), "Nuevo");
+}
+
+TEST_F(ProgramFolderTest, ADatabaseTheUserChangedStaysUntilANewerOneComes) {
+    put_database(places.installed);
+    start_in_users_folder();
+    set_message(places.user_data, "Mío");
+    EXPECT_THAT(start().kept_aside, IsEmpty());
+    EXPECT_EQ(users_message(), "Mío");
+    set_message(places.installed, "Nuevo");
+    EXPECT_THAT(start().kept_aside, ElementsAre(kept));
+    EXPECT_EQ(users_message(), "Nuevo");
+    EXPECT_EQ(message_in(kept), "Mío");
+    EXPECT_THAT(start().kept_aside, IsEmpty());
+}
+
+TEST_F(ProgramFolderTest, ACopyOfAProgramWithoutARecordIsKeptAsideWhereItDiffers) {
+    put_database(places.installed);
+    write(places.installed / "mdbwav0.wav", "new sound");
+    fs::create_directories(places.user_data);
+    put_database(places.user_data);
+    set_message(places.user_data, "De antes");
+    write(places.user_data / "mdbwav0.wav", "old sound");
+    write(kept, "taken");
+    EXPECT_THAT(start().kept_aside, ElementsAre(places.user_data / "VELMORA-2.MDB"));
+    EXPECT_EQ(message_in(places.user_data / "VELMORA-2.MDB"), "De antes");
+    EXPECT_EQ(read(kept), "taken");
+    EXPECT_EQ(users_message(), message_in(test::built_database()));
+    EXPECT_EQ(read(places.user_data / "mdbwav0.wav"), "new sound");
+}
+
+TEST_F(ProgramFolderTest, ADamagedDatabaseIsKeptAsideAndRenewed) {
+    put_database(places.installed);
+    start_in_users_folder();
+    const std::string half = read(test::built_database()).substr(0, 133120);
+    write(places.user_data / "VELMORA.MDB", half);
+    write(places.user_data / "VELMORA.MDB-journal", "what belongs to the damaged one");
+    EXPECT_THAT(start().kept_aside, ElementsAre(kept));
+    EXPECT_EQ(read(kept), half);
+    EXPECT_FALSE(fs::exists(places.user_data / "VELMORA.MDB-journal"));
+    EXPECT_EQ(users_message(), message_in(test::built_database()));
+}
+
+TEST_F(ProgramFolderTest, ADamagedInstalledDatabaseTakesNothingsPlace) {
+    put_database(places.installed);
+    start_in_users_folder();
+    write(places.installed / "VELMORA.MDB", "rubbish");
+    EXPECT_THAT(start().kept_aside, IsEmpty());
+    EXPECT_EQ(users_message(), message_in(test::built_database()));
+}
+
+TEST_F(ProgramFolderTest, ADatabaseThatAnotherOneHasLockedStays) {
+    put_database(places.installed);
+    start_in_users_folder();
+    set_message(places.installed, "Nuevo");
+    const auto other = make_sqlite_database();
+    other->open(runtime::path_text(places.user_data / "VELMORA.MDB"));
+    other->execute("BEGIN EXCLUSIVE");
+    EXPECT_THAT(start().kept_aside, IsEmpty());
+    other->rollback();
+    EXPECT_NE(users_message(), "Nuevo");
+    start_in_users_folder();
+    EXPECT_EQ(users_message(), "Nuevo");
+}
+
+TEST_F(ProgramFolderTest, AUsersOwnTemplateAndSoundStay) {
+    for (const char* name : {"acad.dwt", "mdbwav7.wav"})
+        write(places.installed / name, "the program's");
+    start_in_users_folder();
+    for (const char* name : {"acad.dwt", "mdbwav7.wav"}) {
+        write(places.user_data / name, "the user's");
+        write(places.installed / name, "the newer program's");
+    }
+    start_in_users_folder();
+    EXPECT_EQ(read(places.user_data / "acad.dwt"), "the user's");
+    EXPECT_EQ(read(places.user_data / "mdbwav7.wav"), "the user's");
+}
+
+TEST_F(ProgramFolderTest, AHelpFolderThatIsReadOnlyArrivesAndCanBeRenewed) {
+    write(places.installed / "help" / "index.html", "page");
+    write(places.installed / "help" / "img" / "a.png", "picture");
+    for (const char* name : {"help/index.html", "help/img/a.png"})
+        fs::permissions(places.installed / name, fs::perms::owner_read);
+    for (const char* name : {"help/img", "help"})
+        fs::permissions(places.installed / name, fs::perms::owner_read | fs::perms::owner_exec);
+    start_in_users_folder();
+    EXPECT_EQ(read(places.user_data / "help" / "img" / "a.png"), "picture");
+    for (const char* name : {"help", "help/img", "help/index.html", "help/img/a.png"})
+        EXPECT_TRUE(writable(places.user_data / name)) << name;
+    for (const char* name : {"help", "help/img"})
+        fs::permissions(places.installed / name, fs::perms::owner_all);
+}
+
+TEST_F(ProgramFolderTest, AnEmptyReadOnlyHelpFolderOfBeforeIsFilled) {
+    write(places.installed / "help" / "index.html", "page");
+    fs::create_directories(places.user_data / "help");
+    fs::permissions(places.user_data / "help", fs::perms::owner_read | fs::perms::owner_exec);
+    start_in_users_folder();
+    EXPECT_EQ(read(places.user_data / "help" / "index.html"), "page");
+}
+
+// A file in the way of a folder stands for every place that can't be written; permissions mean
+// nothing to root.
+
+TEST_F(ProgramFolderTest, WithoutAUsersFolderTheNextPlaceServes) {
+    put_database(places.installed);
+    write(root / "data", "in the way");
+    EXPECT_EQ(start().path, places.stand_ins[0]);
+    EXPECT_EQ(message_in(places.stand_ins[0] / "VELMORA.MDB"), message_in(test::built_database()));
+}
+
+TEST_F(ProgramFolderTest, ATemporaryFolderServesWhereNothingElseDoes) {
+    put_database(places.installed);
+    write(root / "data", "in the way");
+    write(root / "run", "in the way");
+    EXPECT_EQ(start().path, places.stand_ins[1]);
+}
+
+TEST_F(ProgramFolderTest, AStandInThatIsALinkIsLeftAlone) {
+    put_database(places.installed);
+    write(root / "data", "in the way");
+    fs::create_directories(root / "elsewhere");
+    fs::create_directories(root / "run");
+    fs::create_directory_symlink(root / "elsewhere", places.stand_ins[0]);
+    EXPECT_EQ(start().path, places.stand_ins[1]);
+    EXPECT_TRUE(fs::is_empty(root / "elsewhere"));
+}
+
+TEST_F(ProgramFolderTest, TheInstalledDatabaseIsReadWhereNothingCanBeWritten) {
+    put_database(places.installed);
+    for (const char* name : {"data", "run", "tmp"})
+        write(root / name, "in the way");
+    EXPECT_EQ(start().path, places.installed);
+}
+
+#ifdef __linux__
+
+/// No file of this process grows beyond a length, as on a disk that is full.
+class FileLimit {
+  public:
+    explicit FileLimit(rlim_t bytes) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
+    FileLimit(const FileLimit&) = delete;
+    FileLimit& operator=(const FileLimit&) = delete;
+
+  private:
+    rlimit before_{};
+};
+
+TEST_F(ProgramFolderTest, AFileArrivesWholeOrNotAtAllAndComesAtTheNextStart) {
+    put_database(places.installed);
+    write(places.installed / "mdbwav0.wav", "a short sound");
+    write(places.installed / "help" / "index.html", std::string(50000, 'x'));
+    {
+        const FileLimit full(20000);
+        EXPECT_EQ(start().path, places.installed);
+    }
+    EXPECT_EQ(read(places.user_data / "mdbwav0.wav"), "a short sound");
+    EXPECT_FALSE(fs::exists(places.user_data / "VELMORA.MDB"));
+    EXPECT_TRUE(fs::is_empty(places.user_data / "help"));
+    start_in_users_folder();
+    EXPECT_EQ(users_message(), message_in(test::built_database()));
+    EXPECT_EQ(read(places.user_data / "help" / "index.html").size(), 50000U);
+}
+
+TEST_F(ProgramFolderTest, AFullDiskLeavesTheUsersDatabaseWhereItIs) {
+    put_database(places.installed);
+    start_in_users_folder();
+    set_message(places.user_data, "Mío");
+    set_message(places.installed, "Nuevo");
+    {
+        const FileLimit full(20000);
+        const ProgramFolder folder = start();
+        EXPECT_EQ(folder.path, places.user_data);
+        EXPECT_THAT(folder.kept_aside, IsEmpty());
+    }
+    EXPECT_EQ(users_message(), "Mío");
+    EXPECT_FALSE(fs::exists(kept));
+}
+
+#endif
 
 } // namespace
 
