@@ -8,8 +8,8 @@
 #include "runtime/paths.h"
 #include "runtime/text.h"
 #include "support/recording_platform.h"
-#include "support/watching.h"
 #include "support/unprivileged.h"
+#include "support/watching.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -87,10 +87,10 @@ void show_values(Transcript& transcript, const Places& places, std::span<const s
     if (words.empty())
         fault("show values NAME ...");
     for (const std::string& name : words) {
-        const auto value = session_value(session, name);
+        const auto value = session_value(session, name, places);
         if (!value)
             fault("no session value " + word_text(name));
-        transcript.line(name, "=", places.word(*value));
+        transcript.line(name, "=", *value);
     }
 }
 

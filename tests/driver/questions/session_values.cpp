@@ -2,9 +2,11 @@
 
 #include "document/session.h"
 #include "script/numbers.h"
+#include "script/places.h"
 
 #include <algorithm>
 #include <array>
+#include <type_traits>
 #include <variant>
 
 namespace velmora::driver {
@@ -119,26 +121,30 @@ std::string text_of(std::uint32_t colour) {
 std::string text_of(double value) {
     return number_text(value);
 }
-std::string text_of(char value) {
-    return {value};
-}
-std::string text_of(const std::string& value) {
-    return value;
-}
 std::string text_of(const std::vector<double>& numbers) {
     std::string text;
     for (const double number : numbers)
         text.append(text.empty() ? "" : " ").append(number_text(number));
-    return text;
+    return text.empty() ? "none" : text;
 }
 
 } // namespace
 
-std::optional<std::string> session_value(const Session& session, std::string_view name) {
+std::optional<std::string> session_value(const Session& session, std::string_view name,
+                                         const Places& places) {
     const auto found = std::ranges::find(kValues, name, &NamedValue::name);
     if (found == kValues.end())
         return std::nullopt;
-    return std::visit([&](auto member) { return text_of(session.*member); }, found->member);
+    return std::visit(
+        [&]<class Value>(Value Session::*member) {
+            if constexpr (std::is_same_v<Value, std::string>)
+                return places.word(session.*member);
+            else if constexpr (std::is_same_v<Value, char>)
+                return places.word(std::string(1, session.*member));
+            else
+                return text_of(session.*member);
+        },
+        found->member);
 }
 
 } // namespace velmora::driver
