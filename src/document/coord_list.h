@@ -1,7 +1,7 @@
 // The coordinate list beside the canvas: rows, and the click that selects a point.
 #pragma once
 
-#include "document/window_state.h"
+#include "document/windows/velmora.h"
 
 #include <string>
 #include <string_view>

@@ -1,7 +1,7 @@
 // A text's outlines as one list of entries, each a place and what leads there.
 #pragma once
 
-#include "document/window_state.h"
+#include "document/windows/seltexto.h"
 #include "generators/text_outlines.h"
 
 #include <cstdint>

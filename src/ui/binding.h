@@ -3,7 +3,7 @@
 // that what a running handler wrote is never lost to an older text on the screen.
 #pragma once
 
-#include "document/window_state.h"
+#include "document/windows/velmora.h"
 
 #include <functional>
 #include <memory>

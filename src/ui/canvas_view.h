@@ -2,7 +2,7 @@
 // label, and the events that go to the logic.
 #pragma once
 
-#include "document/window_state.h"
+#include "document/windows/velmora.h"
 
 #include <QObject>
 #include <functional>

@@ -2,7 +2,7 @@
 // logic gives their entries.
 #pragma once
 
-#include "document/window_state.h"
+#include "document/windows/velmora.h"
 
 #include <functional>
 #include <string>

@@ -2,7 +2,7 @@
 // that a list of a million rows stands at once.
 #pragma once
 
-#include "document/window_state.h"
+#include "document/windows/velmora.h"
 
 #include <QAbstractListModel>
 #include <QListView>

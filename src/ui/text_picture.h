@@ -2,7 +2,7 @@
 // longer than the window.
 #pragma once
 
-#include "document/window_state.h"
+#include "document/windows/seltexto.h"
 
 #include <QAbstractScrollArea>
 #include <QLine>
