@@ -1,5 +1,5 @@
 #include "adapters/qt/qt_platform.h"
-#include "document/session.h"
+#include "document/state/program.h"
 #include "runtime/paths.h"
 
 #include <QApplication>
@@ -10,9 +10,9 @@ int main(int argc, char** argv) {
     velmora::QtPlatform platform;
     platform.install();
     const velmora::ProgramFolder folder = velmora::find_program_folder();
-    velmora::session.program_folder = velmora::runtime::path_text(folder.path);
+    velmora::state::program.program_folder = velmora::runtime::path_text(folder.path);
     for (const auto& file : folder.kept_aside)
-        velmora::session.kept_aside.push_back(velmora::runtime::path_text(file));
+        velmora::state::program.kept_aside.push_back(velmora::runtime::path_text(file));
     platform.windows->start();
     return QApplication::exec();
 }

@@ -1,6 +1,6 @@
 #include "ui/about_box.h"
 
-#include "document/session.h"
+#include "document/windows/acerca.h"
 #include "forms/acerca.h"
 #include "ui/icons.h"
 #include "ui/windows_host.h"
@@ -25,9 +25,9 @@ AboutBox::AboutBox(WindowsHost& windows) : FormWindow(windows) {
 }
 
 void AboutBox::bind() {
-    bindings().label(*ui.lblVer, session.acerca.lblVer);
+    bindings().label(*ui.lblVer, state::acerca.lblVer);
     // The names come when the box stands already; it makes room for them, none for none.
-    bindings().shows<std::string>([] { return session.acerca.SSPanel1; },
+    bindings().shows<std::string>([] { return state::acerca.SSPanel1; },
                                   [this](const std::string& names) {
                                       ui.SSPanel1->setText(QString::fromStdString(names));
                                       ui.SSPanel1->setVisible(!names.empty());

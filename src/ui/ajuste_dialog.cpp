@@ -3,7 +3,7 @@
 #include "cutprep/adjustment.h"
 #include "cutprep/save_sides.h"
 #include "cutprep/sides.h"
-#include "document/session.h"
+#include "document/windows/ajuste.h"
 #include "platform/platform.h"
 #include "ui/windows_host.h"
 
@@ -71,7 +71,7 @@ AjusteDialog::~AjusteDialog() {
 }
 
 void AjusteDialog::bind_sides() {
-    AjusteWindow& state = session.ajuste;
+    AjusteWindow& state = state::ajuste;
     bindings().text(*ui.txt_fileA, state.txt_fileA);
     bindings().text(*ui.Txt_FileB, state.Txt_FileB);
     bindings().text(*ui.TxtTotalPtos_A, state.TxtTotalPtos_A);
@@ -83,7 +83,7 @@ void AjusteDialog::bind_sides() {
 }
 
 void AjusteDialog::bind_results() {
-    AjusteWindow& state = session.ajuste;
+    AjusteWindow& state = state::ajuste;
     bindings().text(*ui.Txt_File_A2, state.Txt_File_A2);
     bindings().text(*ui.Txt_File_B2, state.Txt_File_B2);
     bindings().text(*ui.TxtTotalPtosNew_A, state.TxtTotalPtosNew_A);
@@ -96,7 +96,7 @@ void AjusteDialog::bind_results() {
 }
 
 void AjusteDialog::bind_status() {
-    AjusteWindow& state = session.ajuste;
+    AjusteWindow& state = state::ajuste;
     bindings().label(*ui.lbl_estado, state.lbl_estado);
     bindings().shows<bool>([&state] { return !state.lbl_estado.empty(); },
                            [this](bool working) {

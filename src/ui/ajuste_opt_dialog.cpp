@@ -1,6 +1,6 @@
 #include "ui/ajuste_opt_dialog.h"
 
-#include "document/session.h"
+#include "document/windows/ajuste_opt.h"
 #include "forms/ajuste_opt.h"
 
 namespace velmora {
@@ -13,7 +13,7 @@ AjusteOptDialog::AjusteOptDialog(WindowsHost& windows) : FormWindow(windows) {
 }
 
 void AjusteOptDialog::bind() {
-    AjusteOptWindow& state = session.ajuste_opt;
+    AjusteOptWindow& state = state::ajuste_opt;
     bindings().text(*ui.txt_X, state.txt_X);
     bindings().text(*ui.txt_Y, state.txt_Y);
     bindings().text(*ui.txt_Z, state.txt_Z);

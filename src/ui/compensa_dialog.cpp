@@ -1,6 +1,6 @@
 #include "ui/compensa_dialog.h"
 
-#include "document/session.h"
+#include "document/windows/compensa.h"
 #include "forms/compensa.h"
 
 namespace velmora {
@@ -13,7 +13,7 @@ CompensaDialog::CompensaDialog(WindowsHost& windows) : FormWindow(windows) {
 }
 
 void CompensaDialog::bind() {
-    CompensaWindow& state = session.Compensa;
+    CompensaWindow& state = state::Compensa;
     bindings().text(*ui.Txt_merma, state.Txt_merma);
     bindings().enabled(*ui.cmd_ok, state.cmd_ok_enabled);
 }

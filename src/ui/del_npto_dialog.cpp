@@ -1,6 +1,6 @@
 #include "ui/del_npto_dialog.h"
 
-#include "document/session.h"
+#include "document/windows/del_npto.h"
 #include "shapeops/del_npto.h"
 
 namespace velmora {
@@ -20,7 +20,7 @@ DelNptoDialog::DelNptoDialog(WindowsHost& windows) : FormWindow(windows) {
 }
 
 void DelNptoDialog::bind() {
-    DelNptoWindow& state = session.del_Npto;
+    DelNptoWindow& state = state::del_Npto;
     bindings().text(*ui.Txt_Numpoints2del, state.Txt_Numpoints2del);
     bindings().text(*ui.Txt_JumpPoints, state.Txt_JumpPoints);
     bindings().label(*ui.Lbl_Maxpoints, state.Lbl_Maxpoints);

@@ -1,6 +1,6 @@
 #include "ui/info_panel.h"
 
-#include "document/session.h"
+#include "document/windows/wininfo.h"
 #include "forms/velmora.h"
 #include "services/side_windows.h"
 #include "ui/icons.h"
@@ -28,7 +28,7 @@ InfoPanel::InfoPanel(WindowsHost& windows) : SidePanel(windows, kRow) {
 }
 
 void InfoPanel::bind() {
-    WinInfo& state = session.wininfo;
+    WinInfo& state = state::wininfo;
     const std::pair<QLineEdit*, std::string*> boxes[] = {
         {ui.TxtAcadFile, &state.TxtAcadFile},   {ui.TxtOpensw, &state.TxtOpensw},
         {ui.txtAcadVer, &state.txtAcadVer},     {ui.TxtNArcs, &state.TxtNArcs},

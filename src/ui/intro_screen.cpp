@@ -1,6 +1,7 @@
 #include "ui/intro_screen.h"
 
-#include "document/session.h"
+#include "document/state/program.h"
+#include "document/windows/intro.h"
 #include "forms/velmora.h"
 #include "ui/icons.h"
 #include "ui/translations.h"
@@ -38,8 +39,8 @@ IntroScreen::IntroScreen(WindowsHost& windows)
     // The other texts hand a click on to the picture; the build number does not take part.
     ui.lblsubver->setAttribute(Qt::WA_NoMousePropagation);
 
-    bindings().label(*ui.lblVer, session.intro.lblVer);
-    bindings().label(*ui.lblsubver, session.intro.lblsubver);
+    bindings().label(*ui.lblVer, state::intro.lblVer);
+    bindings().label(*ui.lblsubver, state::intro.lblsubver);
     list_controls({"Timer1", "Image1", "Label1", "lblVelmora", "lblVer", "lblsubver"});
 }
 
@@ -54,7 +55,7 @@ void IntroScreen::draw_texts() {
 
 void IntroScreen::Load() {
     intro_Load();
-    install_translations(session.Idioma);
+    install_translations(state::program.Idioma);
     timer_.start();
 }
 

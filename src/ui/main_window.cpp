@@ -1,7 +1,7 @@
 #include "ui/main_window.h"
 
 #include "document/coord_list.h"
-#include "document/session.h"
+#include "document/windows/velmora.h"
 #include "forms/velmora.h"
 #include "ui/shortcuts_first.h"
 #include "ui/windows_host.h"
@@ -42,7 +42,7 @@ MainWindow::MainWindow(WindowsHost& windows)
     ui.bands->addStretch(1);
     ui.split->setStretchFactor(1, 1);
     ui.split->setSizes({kListShare, kSizeAtStart.width() - kListShare});
-    ui.Lst_Coords->show_rows_of(session.Velmora);
+    ui.Lst_Coords->show_rows_of(state::Velmora);
     add_parts_without_a_look();
     add_status_bar();
     bind();
@@ -70,7 +70,7 @@ void MainWindow::add_status_bar() {
 }
 
 void MainWindow::bind() {
-    VelmoraWindow& state = session.Velmora;
+    VelmoraWindow& state = state::Velmora;
     bindings().title(window_, state.Caption);
     bindings().text(*ui.TxtDat_File, state.TxtDat_File);
     bindings().text(*ui.TxtDescDat, state.TxtDescDat);
@@ -136,7 +136,7 @@ void MainWindow::fit_to_screen() {
 }
 
 void MainWindow::status_changed() {
-    status_.setText(QString::fromStdString(session.Velmora.StatusBar1));
+    status_.setText(QString::fromStdString(state::Velmora.StatusBar1));
     if (status_.isVisible())
         status_.repaint();
 }
@@ -151,7 +151,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == window_.windowHandle() && is_use(*event))
         host().activate(name());
     if (watched == &window_ && event->type() == QEvent::WindowStateChange)
-        session.Velmora.minimized = window_.isMinimized();
+        state::Velmora.minimized = window_.isMinimized();
     return Window::eventFilter(watched, event);
 }
 

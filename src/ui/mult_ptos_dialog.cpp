@@ -1,6 +1,6 @@
 #include "ui/mult_ptos_dialog.h"
 
-#include "document/session.h"
+#include "document/windows/mult_ptos.h"
 #include "shapeops/mult_ptos.h"
 #include "ui/windows_host.h"
 
@@ -22,7 +22,7 @@ MultPtosDialog::MultPtosDialog(WindowsHost& windows) : FormWindow(windows) {
 }
 
 void MultPtosDialog::bind() {
-    MultPtosWindow& state = session.Mult_Ptos;
+    MultPtosWindow& state = state::Mult_Ptos;
     bindings().text(*ui.Combo1->lineEdit(), state.Combo1);
     bindings().label(*ui.Lbl_NPoints, state.Lbl_NPoints);
     bindings().label(*ui.lbl_New_NPoints, state.lbl_New_NPoints);

@@ -1,6 +1,6 @@
 #include "ui/new_dat_dialog.h"
 
-#include "document/session.h"
+#include "document/windows/new_dat.h"
 #include "forms/new_dat.h"
 #include "ui/icons.h"
 #include "ui/tab_stops.h"
@@ -30,7 +30,7 @@ void NewDatDialog::draw_tiles() {
 }
 
 void NewDatDialog::bind() {
-    NewDatWindow& state = session.New_Dat;
+    NewDatWindow& state = state::New_Dat;
     bindings().check(*ui.SSOpt_predef, state.SSOpt_predef);
     bindings().shows<bool>([&state] { return !state.SSOpt_predef; },
                            [this](bool on) { ui.SSOpt_create->setChecked(on); });

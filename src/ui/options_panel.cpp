@@ -1,7 +1,7 @@
 #include "ui/options_panel.h"
 
 #include "document/options.h"
-#include "document/session.h"
+#include "document/windows/winoptions.h"
 #include "forms/velmora.h"
 #include "services/side_windows.h"
 
@@ -23,7 +23,7 @@ OptionsPanel::OptionsPanel(WindowsHost& windows) : SidePanel(windows, kRow) {
 }
 
 void OptionsPanel::bind() {
-    WinOptions& state = session.winoptions;
+    WinOptions& state = state::winoptions;
     bindings().text(*ui.TxtPutArc, state.TxtPutArc);
     bindings().text(*ui.TxtPutCircle, state.TxtPutCircle);
     bindings().text(*ui.TxtPrecision, state.TxtPrecision);

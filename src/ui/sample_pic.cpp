@@ -1,7 +1,7 @@
 #include "ui/sample_pic.h"
 
 #include "canvas/colours.h"
-#include "document/session.h"
+#include "document/state/settings.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -36,11 +36,12 @@ SamplePic::SamplePic(QWidget* parent) : QWidget(parent), float_(*new QLabel(this
 }
 
 void SamplePic::draw() {
-    colours_ = {colour(session.cl_fondo),     colour(session.cl_ejes),    colour(session.cl_lineas),
-                colour(session.cl_linea1),    colour(session.cl_linea2),  colour(session.cl_punto),
-                colour(session.cl_puntosinc), colour(session.cl_puntosel)};
+    colours_ = {colour(state::settings.cl_fondo),     colour(state::settings.cl_ejes),
+                colour(state::settings.cl_lineas),    colour(state::settings.cl_linea1),
+                colour(state::settings.cl_linea2),    colour(state::settings.cl_punto),
+                colour(state::settings.cl_puntosinc), colour(state::settings.cl_puntosel)};
     QPalette palette = float_.palette();
-    palette.setColor(QPalette::WindowText, colour(session.cl_coords));
+    palette.setColor(QPalette::WindowText, colour(state::settings.cl_coords));
     float_.setPalette(palette);
     update();
 }

@@ -1,6 +1,6 @@
 #include "ui/scale_xy_dialog.h"
 
-#include "document/session.h"
+#include "document/windows/scale_xy.h"
 #include "forms/scale_xy.h"
 
 namespace velmora {
@@ -14,7 +14,7 @@ ScaleXyDialog::ScaleXyDialog(WindowsHost& windows) : FormWindow(windows) {
 }
 
 void ScaleXyDialog::bind() {
-    ScaleXyWindow& state = session.Scale_xy;
+    ScaleXyWindow& state = state::Scale_xy;
     bindings().check(*ui.Opt_fixed, state.Opt_fixed);
     bindings().shows<bool>([&state] { return !state.Opt_fixed; },
                            [this](bool on) { ui.Opt_percent->setChecked(on); });

@@ -1,6 +1,6 @@
 #include "ui/seltexto_dialog.h"
 
-#include "document/session.h"
+#include "document/windows/seltexto.h"
 #include "forms/seltexto.h"
 
 namespace velmora {
@@ -15,7 +15,7 @@ SeltextoDialog::SeltextoDialog(WindowsHost& windows) : FormWindow(windows) {
 }
 
 void SeltextoDialog::bind() {
-    SeltextoWindow& state = session.seltexto;
+    SeltextoWindow& state = state::seltexto;
     bindings().text(*ui.char_, state.char_);
     bindings().shows<std::uint64_t>(
         [&state] { return state.Pictext_draws; },

@@ -1,6 +1,6 @@
 #include "ui/setup_dialog.h"
 
-#include "document/session.h"
+#include "document/windows/setup.h"
 #include "services/setup.h"
 #include "ui/controls.h"
 #include "ui/windows_host.h"
@@ -53,7 +53,7 @@ SetupDialog::SetupDialog(WindowsHost& windows) : FormWindow(windows) {
 }
 
 void SetupDialog::bind() {
-    SetupWindow& state = session.setup;
+    SetupWindow& state = state::setup;
     bindings().text(*ui.Txt_Def_Dec_Val, state.Txt_Def_Dec_Val);
     bindings().text(*ui.Txt_Def_Arc_Val, state.Txt_Def_Arc_Val);
     bindings().text(*ui.Txt_Def_Circle_Val, state.Txt_Def_Circle_Val);
@@ -65,7 +65,7 @@ void SetupDialog::bind() {
 }
 
 void SetupDialog::bind_colours() {
-    const SetupWindow& state = session.setup;
+    const SetupWindow& state = state::setup;
     const std::pair<ColourLabel*, const std::uint32_t&> labels[] = {
         {ui.lblcolor_fondo, state.lblcolor_fondo},
         {ui.lblcolor_ejes, state.lblcolor_ejes},

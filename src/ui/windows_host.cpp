@@ -1,6 +1,6 @@
 #include "ui/windows_host.h"
 
-#include "document/session.h"
+#include "document/windows/velmora.h"
 #include "ui/icons.h"
 #include "ui/window_registry.h"
 #include "ui/windows_host_state.h"
@@ -273,13 +273,13 @@ Form* WindowsHost::form(std::string_view window) {
 
 void WindowsHost::status_changed() {
     if (events.status)
-        events.status(session.Velmora.StatusBar1);
+        events.status(state::Velmora.StatusBar1);
     for (const auto& [name, window] : d->windows)
         window->status_changed();
 }
 
 void WindowsHost::pointer_changed() {
-    const int pointer = session.Velmora.MousePointer;
+    const int pointer = state::Velmora.MousePointer;
     if (events.pointer)
         events.pointer(pointer);
     if (pointer == 0)
