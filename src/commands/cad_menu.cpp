@@ -3,8 +3,12 @@
 #include "cad/connection.h"
 #include "cad/send.h"
 #include "commands/handlers.h"
+#include "document/flag.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/state/cad.h"
+#include "document/state/document.h"
+#include "document/state/options.h"
+#include "document/windows/velmora.h"
 #include "platform/dialogs.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
@@ -16,7 +20,8 @@ namespace {
 
 /// Also after a capture that took nothing, on purpose: then it works on the shape that was there.
 void scale_and_refresh() {
-    if (session.RedimCapture != False && MuestraMensaje(mensaje::offer_unit_scale) == answer::yes)
+    if (state::options.RedimCapture != False &&
+        MuestraMensaje(mensaje::offer_unit_scale) == answer::yes)
         ScaleToUnit();
     Apply_Precision();
     Define_Layout();
@@ -31,14 +36,14 @@ void mnu_Reconect() {
 }
 
 void mnu_capture() {
-    if (session.AcadOpen == False)
+    if (state::cad.AcadOpen == False)
         return;
-    session.Velmora.TxtDat_File.clear();
-    session.Velmora.TxtDescDat.clear();
-    session.FileName.clear();
+    state::Velmora.TxtDat_File.clear();
+    state::Velmora.TxtDescDat.clear();
+    state::document.FileName.clear();
     Flag from_drawing = True;
     CapturaAcad(from_drawing);
-    session.PtoSel = 0;
+    state::document.PtoSel = 0;
     scale_and_refresh();
 }
 

@@ -1,11 +1,20 @@
 // The commands of the menu mnu_Archivo.
 #include "canvas/print.h"
 #include "commands/handlers.h"
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/number_text.h"
 #include "document/options.h"
 #include "document/recent_files.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/state/cad.h"
+#include "document/state/document.h"
+#include "document/state/program.h"
+#include "document/state/settings.h"
+#include "document/state/view.h"
+#include "document/windows/velmora.h"
+#include "document/windows/wininfo.h"
+#include "document/windows/winoptions.h"
 #include "formats/box_text.h"
 #include "formats/load.h"
 #include "formats/save.h"
@@ -21,33 +30,33 @@ namespace velmora {
 namespace {
 
 void take_colours() {
-    session.Velmora.pic_BackColor = session.cl_fondo;
-    session.Velmora.lbl_xyfloat_ForeColor = session.cl_coords;
+    state::Velmora.pic_BackColor = state::settings.cl_fondo;
+    state::Velmora.lbl_xyfloat_ForeColor = state::settings.cl_coords;
 }
 
 void generate_when_named() {
-    if (!session.FileName.empty())
+    if (!state::document.FileName.empty())
         GeneraFichero();
 }
 
 void clear_list() {
-    session.Velmora.Lst_Coords.clear();
-    ++session.Velmora.Lst_Coords_fill;
+    state::Velmora.Lst_Coords.clear();
+    ++state::Velmora.Lst_Coords_fill;
 }
 
 void reset_origin_figures() {
-    session.OrigX = Forma.Pto[0].X;
-    session.OrigY = Forma.Pto[0].Y;
-    session.wininfo.TxtOrigX = CStr(session.OrigX);
-    session.wininfo.TxtOrigY = CStr(session.OrigY);
+    state::document.OrigX = Forma.Pto[0].X;
+    state::document.OrigY = Forma.Pto[0].Y;
+    state::wininfo.TxtOrigX = CStr(state::document.OrigX);
+    state::wininfo.TxtOrigY = CStr(state::document.OrigY);
 }
 
 /// TotalSinc and TotalObjs are not among them, on purpose.
 void reset_counts() {
-    WinInfo& box = session.wininfo;
-    session.TotalPtos = session.PtosSuprimidos = 0;
-    session.NLines = session.NSplines = session.NCircles = 0;
-    session.NArcs = session.NLWPolylines = 0;
+    WinInfo& box = state::wininfo;
+    state::document.TotalPtos = state::document.PtosSuprimidos = 0;
+    state::cad.NLines = state::cad.NSplines = state::cad.NCircles = 0;
+    state::cad.NArcs = state::cad.NLWPolylines = 0;
     for (std::string* text :
          {&box.TxtTotalPtos, &box.TxtPtosSupr, &box.TxtNlines, &box.TxtNSplines, &box.TxtNCircles,
           &box.TxtNArcs, &box.TxtNLWPolylines, &box.TxtTotalCtrlPtos, &box.TxtProcesed})
@@ -65,7 +74,7 @@ void mnu_newfile() {
         Dibuja();
         Carga_List_Coords("NEWFILE");
     }
-    if (session.PtosToInsertMode) {
+    if (state::view.PtosToInsertMode) {
         Define_Layout();
         Dibuja();
         Carga_List_Coords("NEWFILE");
@@ -77,21 +86,21 @@ void mnu_openfile() {
     CargaFichero(1, result);
     if (result != True)
         return;
-    session.PtoSel = 0;
+    state::document.PtoSel = 0;
     Apply_Precision();
     LeeSettings();
-    session.winoptions.Txt_zoom = CStr(session.Def_Zoom);
-    session.ZoomFactor = session.Def_Zoom;
+    state::winoptions.Txt_zoom = CStr(state::settings.Def_Zoom);
+    state::view.ZoomFactor = state::settings.Def_Zoom;
     take_colours();
     Define_Layout();
     Dibuja();
-    UpdateFileMenu(session.Velmora.TxtDat_File);
+    UpdateFileMenu(state::Velmora.TxtDat_File);
     Carga_List_Coords("NEWFILE");
 }
 
 void mnuRecentFile(int index) {
-    const std::string path = session.Velmora.mnuRecentFile.at(static_cast<std::size_t>(index)).path;
-    session.Velmora.TxtDat_File = path;
+    const std::string path = state::Velmora.mnuRecentFile.at(static_cast<std::size_t>(index)).path;
+    state::Velmora.TxtDat_File = path;
     std::int16_t result = False;
     CargaFichero(0, result);
     if (result != True)
@@ -109,7 +118,7 @@ void mnuRecentFile(int index) {
 void mnu_savefile() {
     if (!shape_at_hand())
         return;
-    if (runtime::Trim(session.Velmora.TxtDat_File).empty())
+    if (runtime::Trim(state::Velmora.TxtDat_File).empty())
         DialogoGuardar();
     generate_when_named();
 }
@@ -123,8 +132,8 @@ void mnu_savefileas() {
 
 void mnu_closefile() {
     Forma.Pto.redim(0);
-    session.Velmora.TxtDat_File.clear();
-    session.Velmora.TxtDescDat.clear();
+    state::Velmora.TxtDat_File.clear();
+    state::Velmora.TxtDescDat.clear();
     clear_list();
     reset_origin_figures();
     reset_counts();
@@ -141,7 +150,7 @@ void mnu_print() {
 
 void mnu_exit() {
     std::int16_t cancel = 0;
-    session.ExitConfirmed = 0;
+    state::program.ExitConfirmed = 0;
     SalVelmora(cancel);
 }
 

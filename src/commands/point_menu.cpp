@@ -2,8 +2,13 @@
 // window that takes points out. Without a selection the former do nothing and say nothing.
 #include "commands/handlers.h"
 #include "document/feedback.h"
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/selection.h"
+#include "document/state/document.h"
+#include "document/state/view.h"
+#include "document/windows/velmora.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
@@ -31,7 +36,7 @@ void Rotate() {
         InputBox(GetMensaje(mensaje::rotation_angle), GetMensaje(mensaje::rotation_title), "0"));
     if (angle == 0)
         return;
-    rotate_about(Forma.Pto[session.PtoSel], angle);
+    rotate_about(Forma.Pto[state::document.PtoSel], angle);
     Apply_Precision();
     Carga_List_Coords("UPDATE");
     Define_Layout();
@@ -43,31 +48,31 @@ void Rotate() {
 void Set_00() {
     if (!hay_seleccion())
         return;
-    translate_to_origin(Forma.Pto[session.PtoSel]);
+    translate_to_origin(Forma.Pto[state::document.PtoSel]);
     Dibuja_unless_NoRedraw();
 }
 
 void set_10() {
     if (!hay_seleccion())
         return;
-    Forma.Pto[session.PtoSel].X = 1.0;
-    Forma.Pto[session.PtoSel].Y = 0.0;
+    Forma.Pto[state::document.PtoSel].X = 1.0;
+    Forma.Pto[state::document.PtoSel].Y = 0.0;
     Dibuja_unless_NoRedraw();
 }
 
 void set_x0() {
     if (!hay_seleccion())
         return;
-    Forma.Pto[session.PtoSel].Y = 0.0;
+    Forma.Pto[state::document.PtoSel].Y = 0.0;
     Dibuja_unless_NoRedraw();
 }
 
 void Move_Shape() {
     if (!hay_seleccion())
         return;
-    session.MoveShapeMode = True;
-    session.Velmora.pic_MousePointer = kUpArrow;
-    session.DestX = session.DestY = 0;
+    state::view.MoveShapeMode = True;
+    state::Velmora.pic_MousePointer = kUpArrow;
+    state::view.DestX = state::view.DestY = 0;
     set_status(GetMensaje(mensaje::pick_new_place));
 }
 

@@ -6,7 +6,8 @@
 #include "commands/handlers.h"
 #include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/state/view.h"
+#include "document/windows/winoptions.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "services/shape_at_hand.h"
@@ -27,8 +28,8 @@ void transform_and_refresh(void (*transform)()) {
 }
 
 void zoom_to(double zoom) {
-    session.ZoomFactor = zoom;
-    session.winoptions.Txt_zoom = CStr(zoom);
+    state::view.ZoomFactor = zoom;
+    state::winoptions.Txt_zoom = CStr(zoom);
     Define_Layout();
     Dibuja();
 }
@@ -100,13 +101,13 @@ void mnu_scale_xy() {
 }
 
 void mnu_zoom_up() {
-    zoom_to(zoom_above(session.ZoomFactor));
+    zoom_to(zoom_above(state::view.ZoomFactor));
 }
 
 void mnu_zoom_down() {
-    if (session.ZoomFactor <= 1)
+    if (state::view.ZoomFactor <= 1)
         return;
-    zoom_to(zoom_below(session.ZoomFactor));
+    zoom_to(zoom_below(state::view.ZoomFactor));
 }
 
 // No test for a shape here, on purpose: the list of an empty document shows its one record.

@@ -1,7 +1,7 @@
 // The commands of the menus mnu_config, mnuherra, mnu_ver and mnu_hlp: they bring up windows.
 #include "commands/handlers.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/state/program.h"
 #include "platform/platform.h"
 #include "platform/shell.h"
 #include "platform/windows.h"

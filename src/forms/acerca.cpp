@@ -1,6 +1,7 @@
 #include "forms/acerca.h"
 
-#include "document/session.h"
+#include "document/state/program.h"
+#include "document/windows/acerca.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "services/deployment.h"
@@ -11,11 +12,11 @@ namespace velmora {
 
 void acerca_Load() {
     load_literals("acerca");
-    session.acerca.lblVer = "Velmora Ver.: " + session.Ver + " " + version_in_brackets();
+    state::acerca.lblVer = "Velmora Ver.: " + state::program.Ver + " " + version_in_brackets();
 }
 
 void acerca_Activate() {
-    session.acerca.SSPanel1 = deployment().helpers;
+    state::acerca.SSPanel1 = deployment().helpers;
 }
 
 void acerca_Command1_Click() {

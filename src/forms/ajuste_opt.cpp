@@ -1,8 +1,9 @@
 #include "forms/ajuste_opt.h"
 
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/workbench.h"
 #include "document/text_box.h"
+#include "document/windows/ajuste_opt.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
@@ -24,7 +25,7 @@ void offer_stored(std::string& box, double stored) {
 }
 
 NumericBox box_of(AjusteOptBox box) {
-    AjusteOptWindow& window = session.ajuste_opt;
+    AjusteOptWindow& window = state::ajuste_opt;
     switch (box) {
     case AjusteOptBox::txt_X:
         return {kWindow, "txt_X", window.txt_X, ".", "0", ajuste_opt_Change};
@@ -39,18 +40,18 @@ NumericBox box_of(AjusteOptBox box) {
 } // namespace
 
 void ajuste_opt_Load() {
-    session.ajuste_opt = {};
+    state::ajuste_opt = {};
     load_literals(kWindow);
-    offer_stored(session.ajuste_opt.txt_X, session.OptX);
-    offer_stored(session.ajuste_opt.txt_Y, session.OptY);
-    offer_stored(session.ajuste_opt.txt_Z, session.OptZ);
+    offer_stored(state::ajuste_opt.txt_X, state::workbench.OptX);
+    offer_stored(state::ajuste_opt.txt_Y, state::workbench.OptY);
+    offer_stored(state::ajuste_opt.txt_Z, state::workbench.OptZ);
 }
 
 void ajuste_opt_Change() {
     const auto other_than_0 = [](const std::string& text) {
         return runtime::Val(text) != 0;
     };
-    AjusteOptWindow& window = session.ajuste_opt;
+    AjusteOptWindow& window = state::ajuste_opt;
     window.cmb_ok_enabled =
         other_than_0(window.txt_X) && other_than_0(window.txt_Y) && other_than_0(window.txt_Z);
 }
@@ -60,10 +61,10 @@ int ajuste_opt_KeyPress(AjusteOptBox box, int key) {
 }
 
 void cmb_ok_Click() {
-    const AjusteOptWindow& window = session.ajuste_opt;
-    session.OptX = runtime::Val(window.txt_X);
-    session.OptZ = runtime::Val(window.txt_Z);
-    session.OptY = runtime::Val(window.txt_Y);
+    const AjusteOptWindow& window = state::ajuste_opt;
+    state::workbench.OptX = runtime::Val(window.txt_X);
+    state::workbench.OptZ = runtime::Val(window.txt_Z);
+    state::workbench.OptY = runtime::Val(window.txt_Y);
     platform().windows.unload(kWindow);
 }
 

@@ -1,7 +1,8 @@
 #include "forms/compensa.h"
 
 #include "cutprep/compensation.h"
-#include "document/session.h"
+#include "document/forma.h"
+#include "document/windows/compensa.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
@@ -17,21 +18,21 @@ constexpr std::string_view kWindow = "Compensa";
 } // namespace
 
 void Compensa_Load() {
-    session.Compensa = {};
+    state::Compensa = {};
     load_literals(kWindow);
 }
 
 void Txt_merma_Change() {
-    session.Compensa.cmd_ok_enabled = runtime::Val(session.Compensa.Txt_merma) != 0;
+    state::Compensa.cmd_ok_enabled = runtime::Val(state::Compensa.Txt_merma) != 0;
 }
 
 int Txt_merma_KeyPress(int key) {
     return numeric_key(
-        {kWindow, "Txt_merma", session.Compensa.Txt_merma, ".", "0", Txt_merma_Change}, key);
+        {kWindow, "Txt_merma", state::Compensa.Txt_merma, ".", "0", Txt_merma_Change}, key);
 }
 
 void Compensa_cmd_ok_Click() {
-    Forma.Paralela = compensated(Forma.Pto, runtime::Val(session.Compensa.Txt_merma));
+    Forma.Paralela = compensated(Forma.Pto, runtime::Val(state::Compensa.Txt_merma));
     platform().windows.unload(kWindow);
 }
 

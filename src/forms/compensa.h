@@ -1,10 +1,13 @@
 // The window Compensa: asks for what wire or cutter takes away and makes Forma.Paralela.
 #pragma once
 
+#include "document/forma.h"
+#include "document/windows/compensa.h"
+
 namespace velmora {
 
 void Compensa_Load();
-/// The text of Txt_merma changed (it stands in session.Compensa).
+/// The text of Txt_merma changed (it stands in state::Compensa).
 void Txt_merma_Change();
 /// A key of the box: the key to take, 0 to swallow it.
 [[nodiscard]] int Txt_merma_KeyPress(int key);

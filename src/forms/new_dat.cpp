@@ -1,9 +1,18 @@
 #include "forms/new_dat.h"
 
 #include "document/feedback.h"
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/number_text.h"
-#include "document/session.h"
 #include "document/shown_counts.h"
+#include "document/state/document.h"
+#include "document/state/program.h"
+#include "document/state/settings.h"
+#include "document/state/view.h"
+#include "document/windows/new_dat.h"
+#include "document/windows/velmora.h"
+#include "document/windows/wininfo.h"
+#include "document/windows/winoptions.h"
 #include "generators/figures.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
@@ -42,7 +51,7 @@ constexpr auto kStarts = std::to_array<Pto>({{0, 0, kSync, 0},
                                              {0.5, 1, kSync, 0}});
 
 void choose(bool predefined) {
-    NewDatWindow& window = session.New_Dat;
+    NewDatWindow& window = state::New_Dat;
     window.SSOpt_predef = predefined;
     window.frm_shapes_enabled = predefined;
     window.Frm_Create_enabled = !predefined;
@@ -62,14 +71,14 @@ void take_circle_points(std::string_view answer) {
     ignoring_errors([&] {
         const double number = CDbl(answer);
         if (runtime::Int(number) == number)
-            session.New_Dat.circle_points = runtime::to_int32(number);
+            state::New_Dat.circle_points = runtime::to_int32(number);
     });
 }
 
 // A prompt that can't be read is passed over too, but not the one that is asked until there are
 // enough points: that loop would never end.
 void ask_circle_points() {
-    const std::int32_t& points = session.New_Dat.circle_points;
+    const std::int32_t& points = state::New_Dat.circle_points;
     ignoring_errors([&] {
         take_circle_points(
             InputBox(GetMensaje(mensaje::ask_circle_points) + " ", box_title(), CStr(points)));
@@ -88,13 +97,13 @@ void take_outline(std::span<const Pto> points) {
 // The shown count of a circle takes the point that closes it with it, on purpose; the next
 // Define_Layout puts it right.
 void take_circle() {
-    const std::int32_t points = session.New_Dat.circle_points;
+    const std::int32_t points = state::New_Dat.circle_points;
     take_outline(figures::circle(points).all());
     show_TotalPtos(points + 1);
 }
 
 void take_figure() {
-    switch (session.New_Dat.shape) {
+    switch (state::New_Dat.shape) {
     case kCircle:
         take_circle();
         break;
@@ -109,7 +118,7 @@ void take_figure() {
 
 /// The start of the chosen button; the first where none is chosen.
 const Pto& chosen_start() {
-    const auto& options = session.New_Dat.Option;
+    const auto& options = state::New_Dat.Option;
     const auto chosen = std::ranges::find(options, true);
     return chosen == options.end()
                ? kStarts.front()
@@ -118,28 +127,28 @@ const Pto& chosen_start() {
 
 // The sync total says 0 although the start is a sync point, on purpose.
 void start_by_hand() {
-    session.PtosToInsertMode = True;
+    state::view.PtosToInsertMode = True;
     Forma.Pto.redim(0);
     Forma.Pto[0] = chosen_start();
-    session.BandaX = Forma.Pto[0].X;
-    session.BandaY = Forma.Pto[0].Y;
-    session.wininfo.TxtPtosSupr = CStr(0);
-    session.PtosSuprimidos = 0;
+    state::view.BandaX = Forma.Pto[0].X;
+    state::view.BandaY = Forma.Pto[0].Y;
+    state::wininfo.TxtPtosSupr = CStr(0);
+    state::document.PtosSuprimidos = 0;
     show_TotalSinc(0);
 }
 
 void show_stored_zoom() {
-    session.winoptions.Txt_zoom = CStr(session.Def_Zoom);
-    session.ZoomFactor = session.Def_Zoom;
+    state::winoptions.Txt_zoom = CStr(state::settings.Def_Zoom);
+    state::view.ZoomFactor = state::settings.Def_Zoom;
 }
 
 } // namespace
 
 // The circle's number outlives the window: it is what the next one proposes.
 void New_Dat_Load() {
-    const std::int32_t last_number = session.New_Dat.circle_points;
-    session.New_Dat = {};
-    session.New_Dat.circle_points = last_number;
+    const std::int32_t last_number = state::New_Dat.circle_points;
+    state::New_Dat = {};
+    state::New_Dat.circle_points = last_number;
     load_literals(kWindow);
 }
 
@@ -152,7 +161,7 @@ void SSOpt_create_Click() {
 }
 
 void New_Dat_Picture1_Click(int index) {
-    NewDatWindow& window = session.New_Dat;
+    NewDatWindow& window = state::New_Dat;
     window.shape = static_cast<std::int16_t>(index);
     window.Picture1.fill(false);
     window.Picture1.at(static_cast<std::size_t>(index)) = true;
@@ -167,15 +176,15 @@ void New_Dat_Picture1_Click(int index) {
 
 void New_Dat_cmd_ok_Click() {
     LeeSettings();
-    if (session.New_Dat.SSOpt_predef)
+    if (state::New_Dat.SSOpt_predef)
         take_figure();
     else
         start_by_hand();
     show_stored_zoom();
-    session.PtoSel = 0;
-    session.Velmora.TxtDat_File.clear();
-    session.FileName.clear();
-    session.Velmora.TxtDescDat.clear();
+    state::document.PtoSel = 0;
+    state::Velmora.TxtDat_File.clear();
+    state::document.FileName.clear();
+    state::Velmora.TxtDescDat.clear();
     platform().windows.unload(kWindow);
 }
 

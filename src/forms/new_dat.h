@@ -1,6 +1,8 @@
 // The window New_Dat: starts a document from a figure of unit size, or with one point from which
-// the shape is drawn by hand. Its values stand in session.New_Dat.
+// the shape is drawn by hand. Its values stand in state::New_Dat.
 #pragma once
+
+#include "document/windows/new_dat.h"
 
 namespace velmora {
 

@@ -2,8 +2,9 @@
 
 #include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/state/document.h"
 #include "document/text_box.h"
+#include "document/windows/scale_xy.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
@@ -22,19 +23,19 @@ bool reads_non_zero(const std::string& text) {
 }
 
 void enable_ok_by(const std::string& x, const std::string& y) {
-    session.Scale_xy.cmd_ok_enabled = reads_non_zero(x) && reads_non_zero(y);
+    state::Scale_xy.cmd_ok_enabled = reads_non_zero(x) && reads_non_zero(y);
 }
 
 void fixed_changed() {
-    enable_ok_by(session.Scale_xy.txt_fixed_x, session.Scale_xy.txt_fixed_y);
+    enable_ok_by(state::Scale_xy.txt_fixed_x, state::Scale_xy.txt_fixed_y);
 }
 
 void percent_changed() {
-    enable_ok_by(session.Scale_xy.txt_percent_x, session.Scale_xy.txt_percent_y);
+    enable_ok_by(state::Scale_xy.txt_percent_x, state::Scale_xy.txt_percent_y);
 }
 
 NumericBox box_of(ScaleBox box) {
-    ScaleXyWindow& window = session.Scale_xy;
+    ScaleXyWindow& window = state::Scale_xy;
     switch (box) {
     case ScaleBox::fixed_x:
         return {kWindow, "txt_fixed_x", window.txt_fixed_x, ".", "0", fixed_changed};
@@ -49,19 +50,19 @@ NumericBox box_of(ScaleBox box) {
 }
 
 void choose(bool fixed) {
-    session.Scale_xy.Opt_fixed = fixed;
-    session.Scale_xy.frm_fixed_enabled = fixed;
-    session.Scale_xy.frm_percent_enabled = !fixed;
+    state::Scale_xy.Opt_fixed = fixed;
+    state::Scale_xy.frm_fixed_enabled = fixed;
+    state::Scale_xy.frm_percent_enabled = !fixed;
 }
 
 } // namespace
 
 void Scale_xy_Load() {
-    session.Scale_xy = {};
+    state::Scale_xy = {};
     load_literals(kWindow);
-    ScaleXyWindow& window = session.Scale_xy;
-    put_text(window.txt_fixed_x, CStr(session.Longitud), fixed_changed);
-    put_text(window.txt_fixed_y, CStr(session.Altura), fixed_changed);
+    ScaleXyWindow& window = state::Scale_xy;
+    put_text(window.txt_fixed_x, CStr(state::document.Longitud), fixed_changed);
+    put_text(window.txt_fixed_y, CStr(state::document.Altura), fixed_changed);
     put_text(window.txt_percent_x, "100", percent_changed);
     put_text(window.txt_percent_y, "100", percent_changed);
 }
@@ -86,7 +87,7 @@ int Scale_xy_KeyPress(ScaleBox box, int key) {
 
 // The window stays open, so that a scale can be applied again to its own result.
 void Scale_xy_cmd_ok_Click() {
-    const ScaleXyWindow& window = session.Scale_xy;
+    const ScaleXyWindow& window = state::Scale_xy;
     if (window.Opt_fixed)
         ScaleXY(runtime::Val(window.txt_fixed_x), runtime::Val(window.txt_fixed_y), 1);
     else

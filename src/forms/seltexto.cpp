@@ -1,7 +1,8 @@
 #include "forms/seltexto.h"
 
+#include "document/forma.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/windows/seltexto.h"
 #include "generators/text_path.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
@@ -26,20 +27,20 @@ constexpr double kLargestSize = 2160; ///< points
 using PathPoint = SeltextoWindow::PathPoint;
 
 void clear_picture() {
-    session.seltexto.Pictext.clear();
-    ++session.seltexto.Pictext_draws;
+    state::seltexto.Pictext.clear();
+    ++state::seltexto.Pictext_draws;
 }
 
 std::vector<Figure> printed_figures() {
     if (platform().text_outlines == nullptr)
         raise(error::object_not_set);
-    return platform().text_outlines->figures(session.seltexto.char_, session.seltexto.Pictext_Font,
+    return platform().text_outlines->figures(state::seltexto.char_, state::seltexto.Pictext_Font,
                                              kTopLeft);
 }
 
 /// Draws the entries 0 to last_index. A figure that closes leaves the place at its first entry.
 void draw_path() {
-    SeltextoWindow& window = session.seltexto;
+    SeltextoWindow& window = state::seltexto;
     PathPoint at, first;
     const auto line_to = [&](PathPoint to) {
         window.Pictext.push_back({at, to});
@@ -58,7 +59,7 @@ void draw_path() {
 /// A text without a figure, of blanks alone, leaves what there is before the first text: one entry
 /// at (0, 0).
 void preview() {
-    SeltextoWindow& window = session.seltexto;
+    SeltextoWindow& window = state::seltexto;
     window.last_index = 0;
     clear_picture();
     const std::int32_t result = GetPath(printed_figures(), std::span(window.points).first(kRoom),
@@ -72,13 +73,13 @@ void preview() {
 }
 
 void preview_unless_empty() {
-    if (!session.seltexto.char_.empty())
+    if (!state::seltexto.char_.empty())
         preview();
 }
 
 /// A size that no picture takes leaves the one that it has.
 void take_font(const FontChoice& chosen) {
-    FontChoice& font = session.seltexto.Pictext_Font;
+    FontChoice& font = state::seltexto.Pictext_Font;
     font.name = runtime::Trim(chosen.name);
     font.bold = chosen.bold;
     font.italic = chosen.italic;
@@ -87,7 +88,7 @@ void take_font(const FontChoice& chosen) {
 }
 
 void choose_font() {
-    const auto chosen = platform().dialogs.choose_font(session.seltexto.Pictext_Font);
+    const auto chosen = platform().dialogs.choose_font(state::seltexto.Pictext_Font);
     if (!chosen || runtime::Trim(chosen->name).empty())
         return;
     take_font(*chosen);
@@ -95,7 +96,7 @@ void choose_font() {
 }
 
 void take_outline() {
-    const SeltextoWindow& window = session.seltexto;
+    const SeltextoWindow& window = state::seltexto;
     Forma.Pto.redim(window.last_index);
     for (std::int32_t i = 0; i <= window.last_index; ++i) {
         const PathPoint& point = window.points.at(static_cast<std::size_t>(i));
@@ -107,7 +108,7 @@ void take_outline() {
 } // namespace
 
 void seltexto_Load() {
-    SeltextoWindow& window = session.seltexto;
+    SeltextoWindow& window = state::seltexto;
     const SeltextoWindow fresh;
     window.char_ = fresh.char_;
     window.Pictext_Font = fresh.Pictext_Font;

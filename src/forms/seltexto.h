@@ -1,6 +1,8 @@
 // The window seltexto: a typed text in any font becomes the shape. Its values stand in
-// session.seltexto.
+// state::seltexto.
 #pragma once
+
+#include "document/windows/seltexto.h"
 
 namespace velmora {
 

@@ -2,10 +2,21 @@
 
 #include "cad/connection.h"
 #include "document/feedback.h"
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/number_text.h"
 #include "document/options.h"
 #include "document/recent_files.h"
-#include "document/session.h"
+#include "document/state/cad.h"
+#include "document/state/document.h"
+#include "document/state/loading.h"
+#include "document/state/options.h"
+#include "document/state/program.h"
+#include "document/state/settings.h"
+#include "document/state/view.h"
+#include "document/windows/intro.h"
+#include "document/windows/velmora.h"
+#include "document/windows/winoptions.h"
 #include "platform/database.h"
 #include "platform/dialogs.h"
 #include "platform/machine.h"
@@ -27,32 +38,33 @@ namespace {
 constexpr int kGoodbyeMilliseconds = 3000;
 
 void play(std::string_view file) {
-    if (session.Sound == 1)
+    if (state::program.Sound == 1)
         platform().shell.play(program_file(file));
 }
 
 void set_version() {
-    session.Ver = "1.0";
-    session.SubVer = 1011;
+    state::program.Ver = "1.0";
+    state::program.SubVer = 1011;
     save_version();
 }
 
 void show_version() {
-    session.intro.lblVer = "Ver. " + session.Ver;
-    session.intro.lblsubver = CStr(std::int32_t{session.SubVer});
+    state::intro.lblVer = "Ver. " + state::program.Ver;
+    state::intro.lblsubver = CStr(std::int32_t{state::program.SubVer});
 }
 
 void take_working_copies() {
-    session.PutArc = session.Def_Arc;
-    session.PutCircle = session.Def_ACircle;
-    session.Precision = session.Def_Dec;
-    session.ZoomFactor = session.Def_Zoom;
+    state::options.PutArc = state::settings.Def_Arc;
+    state::options.PutCircle = state::settings.Def_ACircle;
+    state::options.Precision = state::settings.Def_Dec;
+    state::view.ZoomFactor = state::settings.Def_Zoom;
 }
 
 void set_flags() {
-    session.ShowPtos = session.ShowPtosCtrl = session.GenDATSinc = session.ShowCoords = True;
-    session.OptimizeOnGen = session.RedimCapture = True;
-    session.GenSCR = session.GenDATPerfil = False;
+    state::view.ShowPtos = state::view.ShowPtosCtrl = state::options.GenDATSinc =
+        state::view.ShowCoords = True;
+    state::options.OptimizeOnGen = state::options.RedimCapture = True;
+    state::options.GenSCR = state::options.GenDATPerfil = False;
 }
 
 std::string told(const RuntimeError& failure) {
@@ -62,18 +74,18 @@ std::string told(const RuntimeError& failure) {
 // A file that is missing leaves the program with its design texts and without messages. One that
 // can't be read has another in its place, and the user is told.
 void open_language_database() {
-    session.language_database_open = false;
-    session.language_database_fault.clear();
+    state::program.language_database_open = false;
+    state::program.language_database_fault.clear();
     const std::string file = program_file("\\VELMORA.MDB");
     if (!runtime::file_exists(file))
         return;
     trap(
         [&] {
             platform().database.open(file);
-            session.language_database_open = true;
+            state::program.language_database_open = true;
         },
         [&](const RuntimeError& failure) {
-            session.language_database_fault = file + "\n" + told(failure);
+            state::program.language_database_fault = file + "\n" + told(failure);
             open_stand_in_database();
         });
 }
@@ -81,23 +93,23 @@ void open_language_database() {
 void close_language_database() {
     close_messages();
     platform().database.close();
-    session.language_database_open = false;
+    state::program.language_database_open = false;
 }
 
 void reset_modes() {
-    session.ExitConfirmed = 0;
-    session.FirstActivate = True;
-    session.PtoSelAnt = -1;
-    session.MoveShapeMode = session.PtosToInsertMode = False;
-    session.AcadOpen = session.AcadDocLoaded = session.SelOrigenActivo = False;
-    session.DefExt = ".dat";
+    state::program.ExitConfirmed = 0;
+    state::program.FirstActivate = True;
+    state::document.PtoSelAnt = -1;
+    state::view.MoveShapeMode = state::view.PtosToInsertMode = False;
+    state::cad.AcadOpen = state::cad.AcadDocLoaded = state::cad.SelOrigenActivo = False;
+    state::document.DefExt = ".dat";
 }
 
 void reset_numbers() {
-    session.Velmora.Pbar1 = session.Velmora.pbar2 = ProgressBar{.Min = 0, .Max = 1, .Value = 0};
-    session.LimiteCoord = 25000;
-    session.PI = 3.14159265358979;
-    session.SepDecimal = platform().machine.decimal_separator();
+    state::Velmora.Pbar1 = state::Velmora.pbar2 = ProgressBar{.Min = 0, .Max = 1, .Value = 0};
+    state::loading.LimiteCoord = 25000;
+    state::program.PI = 3.14159265358979;
+    state::program.SepDecimal = platform().machine.decimal_separator();
     Forma.Pto.redim(0);
 }
 
@@ -108,21 +120,23 @@ std::string credit() {
 }
 
 std::string main_caption() {
-    return "Velmora " + session.Ver + " (" + CStr(std::int32_t{session.SubVer}) + ") " + credit();
+    return "Velmora " + state::program.Ver + " (" + CStr(std::int32_t{state::program.SubVer}) +
+           ") " + credit();
 }
 
 void take_colours() {
-    session.Velmora.pic_BackColor = session.cl_fondo;
-    session.Velmora.lbl_xyfloat_ForeColor = session.cl_coords;
+    state::Velmora.pic_BackColor = state::settings.cl_fondo;
+    state::Velmora.lbl_xyfloat_ForeColor = state::settings.cl_coords;
 }
 
 void tell_of_data_files() {
-    for (const std::string& file : session.kept_aside)
+    for (const std::string& file : state::program.kept_aside)
         MsgBox(GetMensaje(mensaje::kept_aside) + "\n\n" + file, buttons::information, box_title());
-    if (!session.language_database_fault.empty())
-        MsgBox(GetMensaje(mensaje::stand_in_texts) + "\n\n" + session.language_database_fault,
+    if (!state::program.language_database_fault.empty())
+        MsgBox(GetMensaje(mensaje::stand_in_texts) + "\n\n" +
+                   state::program.language_database_fault,
                buttons::exclamation, box_title());
-    session.kept_aside.clear();
+    state::program.kept_aside.clear();
 }
 
 void end_with_everything_closed() {
@@ -137,7 +151,7 @@ void end_with_everything_closed() {
 
 void intro_Load() {
     set_version();
-    session.Sound = read_sound();
+    state::program.Sound = read_sound();
     show_version();
     play("\\mdbwav0.wav");
     LeeSettings();
@@ -150,7 +164,7 @@ void intro_Load() {
 void Velmora_Load() {
     reset_modes();
     reset_numbers();
-    session.Velmora.Caption = main_caption();
+    state::Velmora.Caption = main_caption();
     load_literals("Velmora");
     GetRecentFiles();
     take_defaults();
@@ -165,22 +179,22 @@ void winoptions_Load() {
     load_literals("winoptions");
     LeeSettings();
     take_defaults();
-    WinOptions& box = session.winoptions;
-    box.ChkPtos = session.ShowPtos != False;
-    box.ChkPtosCtrl = session.ShowPtosCtrl != False;
-    box.ChkCoords = session.ShowCoords != False;
-    box.ChkDATSinc = session.GenDATSinc != False;
-    box.ChkSCR = session.GenSCR != False;
-    box.Chk_DATPerfil = session.GenDATPerfil != False;
-    box.chk_optimize = session.OptimizeOnGen != False;
-    box.chk_Redim_Capture = session.RedimCapture != False;
+    WinOptions& box = state::winoptions;
+    box.ChkPtos = state::view.ShowPtos != False;
+    box.ChkPtosCtrl = state::view.ShowPtosCtrl != False;
+    box.ChkCoords = state::view.ShowCoords != False;
+    box.ChkDATSinc = state::options.GenDATSinc != False;
+    box.ChkSCR = state::options.GenSCR != False;
+    box.Chk_DATPerfil = state::options.GenDATPerfil != False;
+    box.chk_optimize = state::options.OptimizeOnGen != False;
+    box.chk_Redim_Capture = state::options.RedimCapture != False;
 }
 
 void Velmora_Activate() {
-    if (session.FirstActivate == False)
+    if (state::program.FirstActivate == False)
         return;
-    session.FirstActivate = False;
-    session.NoRedraw = True;
+    state::program.FirstActivate = False;
+    state::view.NoRedraw = True;
     ReconectaAcad();
     platform().windows.show("wininfo");
     platform().windows.show("winoptions");
@@ -195,14 +209,14 @@ void Velmora_QueryUnload() {
 }
 
 void SalVelmora(std::int16_t& cancel) {
-    if (session.ExitConfirmed != 0)
+    if (state::program.ExitConfirmed != 0)
         return;
     if (MuestraMensaje(mensaje::confirm_exit) != answer::yes) {
         cancel = True;
-        session.ExitConfirmed = 1;
+        state::program.ExitConfirmed = 1;
         return;
     }
-    if (session.Sound == 1) {
+    if (state::program.Sound == 1) {
         play("\\mdbwav7.wav");
         platform().windows.wait(kGoodbyeMilliseconds);
     }
@@ -210,7 +224,7 @@ void SalVelmora(std::int16_t& cancel) {
 }
 
 void AbreEdicion() {
-    const std::string& file = session.Velmora.TxtDat_File;
+    const std::string& file = state::Velmora.TxtDat_File;
     if (runtime::Trim(file).empty())
         return;
     if (runtime::file_exists(file))
