@@ -4,8 +4,10 @@
 #include "cutprep/previews.h"
 #include "cutprep/projection.h"
 #include "document/feedback.h"
+#include "document/forma.h"
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/workbench.h"
+#include "document/windows/ajuste.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 
@@ -116,12 +118,12 @@ class Runs {
 
     void adjust() {
         for (std::int32_t tramo = 1; tramo <= NumSinc_; ++tramo) {
-            session.ajuste.lbl_estado = std::to_string(tramo) + " / " + std::to_string(NumSinc_);
+            state::ajuste.lbl_estado = std::to_string(tramo) + " / " + std::to_string(NumSinc_);
             DoEvents();
             adjust_run(tramo);
         }
         transaction_.commit();
-        session.ajuste.lbl_estado.clear();
+        state::ajuste.lbl_estado.clear();
     }
 
   private:
@@ -152,14 +154,14 @@ std::string result_path(const std::string& loaded) {
 }
 
 void begin() {
-    session.PtosA2.redim(0);
-    session.PtosB2.redim(0);
+    state::workbench.PtosA2.redim(0);
+    state::workbench.PtosB2.redim(0);
     set_pointer(kHourglass);
 }
 
 void copy_to_work() {
-    session.TrabajoA = session.PtosA;
-    session.TrabajoB = session.PtosB;
+    state::workbench.TrabajoA = state::workbench.PtosA;
+    state::workbench.TrabajoB = state::workbench.PtosB;
 }
 
 } // namespace
@@ -182,7 +184,7 @@ void InsertaPtoTramo(AdjustedSide& side, std::int32_t destino, std::int32_t indi
 
 void Cmd_Ajuste_Click() {
     begin();
-    const std::int32_t NumSinc = runtime::to_int32(runtime::Val(session.ajuste.TxtTotalCtrlPtos_A));
+    const std::int32_t NumSinc = runtime::to_int32(runtime::Val(state::ajuste.TxtTotalCtrlPtos_A));
     copy_to_work();
     Runs(NumSinc).adjust();
     DibujaNewMini_A();
@@ -190,9 +192,9 @@ void Cmd_Ajuste_Click() {
     project_results();
     DibujaDefMini_A();
     DibujaDefMini_B();
-    session.ajuste.Txt_File_A2 = result_path(session.ajuste.txt_fileA);
-    session.ajuste.Txt_File_B2 = result_path(session.ajuste.Txt_FileB);
-    session.ajuste.Cmd_save_enabled = true;
+    state::ajuste.Txt_File_A2 = result_path(state::ajuste.txt_fileA);
+    state::ajuste.Txt_File_B2 = result_path(state::ajuste.Txt_FileB);
+    state::ajuste.Cmd_save_enabled = true;
     set_pointer(kDefaultPointer);
 }
 

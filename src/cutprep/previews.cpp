@@ -3,7 +3,8 @@
 #include "cutprep/preview_surface.h"
 #include "document/extents.h"
 #include "document/feedback.h"
-#include "document/session.h"
+#include "document/forma.h"
+#include "document/state/settings.h"
 #include "platform/platform.h"
 #include "runtime/error.h"
 #include "runtime/numbers.h"
@@ -88,9 +89,9 @@ void draw_points(PreviewSurface& picture, const Array<Pto>& points, const Frame&
     for (const Pto& point : points.all()) {
         const double x = frame.x(point);
         const double y = frame.y(point);
-        picture.Circle(x, y, kPointRadius, session.cl_punto);
+        picture.Circle(x, y, kPointRadius, state::settings.cl_punto);
         if (point.Sinc == 1)
-            picture.Circle(x, y, kSyncRadius, session.cl_puntosinc);
+            picture.Circle(x, y, kSyncRadius, state::settings.cl_puntosinc);
     }
 }
 

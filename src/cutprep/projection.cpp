@@ -1,6 +1,7 @@
 #include "cutprep/projection.h"
 
-#include "document/session.h"
+#include "document/forma.h"
+#include "document/state/workbench.h"
 #include "runtime/numbers.h"
 
 namespace velmora {
@@ -8,8 +9,8 @@ namespace velmora {
 namespace {
 
 double outward(double own, double other, double reach) {
-    const double way = runtime::checked((own - other) * (session.OptZ + reach));
-    return runtime::checked(runtime::divide(way, session.OptZ) + own);
+    const double way = runtime::checked((own - other) * (state::workbench.OptZ + reach));
+    return runtime::checked(runtime::divide(way, state::workbench.OptZ) + own);
 }
 
 Pto projected(const Pto& own, const Pto& other, double reach) {
@@ -22,14 +23,16 @@ Pto projected(const Pto& own, const Pto& other, double reach) {
 } // namespace
 
 void project_results() {
-    Array<Pto> A = session.PtosA2;
-    Array<Pto> B = session.PtosB2;
-    for (std::int32_t i = 0; i <= session.PtosA2.upper(); ++i) {
-        A[i] = projected(session.PtosA2[i], session.PtosB2[i], session.OptX);
-        B[i] = projected(session.PtosB2[i], session.PtosA2[i], session.OptY);
+    Array<Pto> A = state::workbench.PtosA2;
+    Array<Pto> B = state::workbench.PtosB2;
+    for (std::int32_t i = 0; i <= state::workbench.PtosA2.upper(); ++i) {
+        A[i] = projected(state::workbench.PtosA2[i], state::workbench.PtosB2[i],
+                         state::workbench.OptX);
+        B[i] = projected(state::workbench.PtosB2[i], state::workbench.PtosA2[i],
+                         state::workbench.OptY);
     }
-    session.PtosA2.swap(A);
-    session.PtosB2.swap(B);
+    state::workbench.PtosA2.swap(A);
+    state::workbench.PtosB2.swap(B);
 }
 
 } // namespace velmora

@@ -2,8 +2,10 @@
 
 #include "cutprep/side.h"
 #include "document/feedback.h"
+#include "document/forma.h"
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/loading.h"
+#include "document/windows/ajuste.h"
 #include "formats/files.h"
 #include "formats/record_file.h"
 #include "runtime/paths.h"
@@ -36,7 +38,7 @@ void write_outline(const Array<Pto>& points) {
 
 void write_sync_points(const Array<Pto>& points) {
     for (std::int32_t i = 0; i <= points.upper(); ++i)
-        if (session.ajuste.ChkPtosCtrl || points[i].Sinc == 1)
+        if (state::ajuste.ChkPtosCtrl || points[i].Sinc == 1)
             write_record(record_of(points[i]));
 }
 
@@ -49,7 +51,7 @@ void write_records(const Side& side) {
     write_record({sync_section_title, ""});
     write_record({"", ""});
     write_sync_points(side.Ptos2);
-    session.files.close(1);
+    state::loading.files.close(1);
 }
 
 void write_side(const Side& side) {
@@ -67,14 +69,14 @@ void remove_earlier(const std::string& path) {
 void Cmd_save_Click() {
     const Side A = side_of("A");
     const Side B = side_of("B");
-    session.ajuste.cmd_exit_enabled = false;
+    state::ajuste.cmd_exit_enabled = false;
     set_pointer(kHourglass);
     remove_earlier(A.Txt_File2);
     remove_earlier(B.Txt_File2);
     write_side(A);
     write_side(B);
     set_pointer(kDefaultPointer);
-    session.ajuste.cmd_exit_enabled = true;
+    state::ajuste.cmd_exit_enabled = true;
 }
 
 } // namespace velmora

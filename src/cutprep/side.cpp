@@ -1,16 +1,17 @@
 #include "cutprep/side.h"
 
-#include "document/session.h"
+#include "document/state/workbench.h"
+#include "document/windows/ajuste.h"
 
 namespace velmora {
 
 Side side_of(std::string_view lado) {
-    AjusteWindow& window = session.ajuste;
+    AjusteWindow& window = state::ajuste;
     if (lado == "A")
         return {"A",
-                session.PtosA,
-                session.TrabajoA,
-                session.PtosA2,
+                state::workbench.PtosA,
+                state::workbench.TrabajoA,
+                state::workbench.PtosA2,
                 window.txt_fileA,
                 window.TxtTotalPtos_A,
                 window.TxtTotalCtrlPtos_A,
@@ -18,9 +19,9 @@ Side side_of(std::string_view lado) {
                 window.TxtTotalPtosNew_A,
                 window.TxtTotalCtrlPtosNew_A};
     return {"B",
-            session.PtosB,
-            session.TrabajoB,
-            session.PtosB2,
+            state::workbench.PtosB,
+            state::workbench.TrabajoB,
+            state::workbench.PtosB2,
             window.Txt_FileB,
             window.TxtTotalPtos_B,
             window.TxtTotalCtrlPtos_B,

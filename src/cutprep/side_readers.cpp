@@ -1,6 +1,10 @@
 #include "cutprep/side_readers.h"
 
 #include "cutprep/side.h"
+#include "document/flag.h"
+#include "document/forma.h"
+#include "document/state/document.h"
+#include "document/state/loading.h"
 #include "formats/coordinate_limit.h"
 #include "formats/reader_support.h"
 #include "formats/record_file.h"
@@ -16,26 +20,26 @@ namespace velmora {
 namespace {
 
 void report(const ReaderName& name, const RuntimeError& failure, const ReadCounts& counts) {
-    session.files.abandon(1);
+    state::loading.files.abandon(1);
     show_reader_error(name, failure, counts.lines);
 }
 
 /// UltimoPto keeps the count with the closing point, on purpose.
 void close_outline(Array<Pto>& pts, const Side& side, ReadCounts& counts) {
-    session.UltimoPto = counts.points;
+    state::document.UltimoPto = counts.points;
     show_count(side.TxtTotalPtos, counts.points);
     drop_closing_point(pts, counts.points);
     show_count(side.TxtTotalPtos, counts.points);
 }
 
 void read_slwsinc(std::string_view path, Array<Pto>& pts, const Side& side, ReadCounts& counts) {
-    session.files.open_random(1, path, FixedRecord::length);
+    state::loading.files.open_random(1, path, FixedRecord::length);
     (void)next_record(counts);
     (void)next_record(counts);
     read_slwsinc_outline(pts, side.TxtTotalPtos, counts);
     close_outline(pts, side, counts);
     match_slwsinc_sync_points(pts, side.TxtTotalCtrlPtos, counts);
-    session.files.close(1);
+    state::loading.files.close(1);
 }
 
 /// The search as far as the document in the main window reaches.
@@ -64,7 +68,7 @@ class DocumentLongSearch {
 
 Pass read_slwmd(std::string_view path, Array<Pto>& pts, const Side& side, ReadCounts& counts,
                 CoordinateLimit& limit) {
-    session.files.open_input(1, path);
+    state::loading.files.open_input(1, path);
     (void)read_line(counts);
     (void)read_line(counts);
     if (!read_slwmd_outline(pts, counts, limit))
@@ -72,7 +76,7 @@ Pass read_slwmd(std::string_view path, Array<Pto>& pts, const Side& side, ReadCo
     close_outline(pts, side, counts);
     DocumentLongSearch search(pts, side);
     read_slwmd_sync_points(counts, [&](double X, double Y) { search.mark(X, Y); });
-    session.files.close(1);
+    state::loading.files.close(1);
     return Pass::complete;
 }
 

@@ -2,8 +2,8 @@
 // side. Neither asks whether to go on after a fault: the points read so far stay, `ok` is 0.
 #pragma once
 
+#include "document/flag.h"
 #include "document/forma.h"
-#include "document/session.h"
 
 #include <string_view>
 

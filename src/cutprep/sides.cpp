@@ -4,7 +4,11 @@
 #include "cutprep/side.h"
 #include "cutprep/side_readers.h"
 #include "document/feedback.h"
-#include "document/session.h"
+#include "document/flag.h"
+#include "document/state/document.h"
+#include "document/state/program.h"
+#include "document/state/workbench.h"
+#include "document/windows/ajuste.h"
 #include "formats/box_text.h"
 #include "formats/load.h"
 #include "platform/dialogs.h"
@@ -29,11 +33,11 @@ constexpr std::string_view kNotice =
     "jugar con ella, y de paso podeis ir comentando cosillas.";
 
 std::string ask_for_path() {
-    if (session.LastDir.empty())
-        session.LastDir = session.program_folder;
+    if (state::document.LastDir.empty())
+        state::document.LastDir = state::program.program_folder;
     return platform().dialogs.open_file({.title = GetMensaje(mensaje::open_title),
                                          .filter = "DAT Files |*.DAT",
-                                         .folder = session.LastDir,
+                                         .folder = state::document.LastDir,
                                          .name = {}});
 }
 
@@ -60,7 +64,7 @@ bool read_side(const Side& side, const std::string& path) {
 }
 
 void compare_sync_totals() {
-    AjusteWindow& window = session.ajuste;
+    AjusteWindow& window = state::ajuste;
     window.cmd_opt_enabled =
         runtime::Val(window.TxtTotalCtrlPtos_B) == runtime::Val(window.TxtTotalCtrlPtos_A);
     if (!window.cmd_opt_enabled)
@@ -68,7 +72,7 @@ void compare_sync_totals() {
 }
 
 void select_side(const Side& side, const Side& other, void (*draw)()) {
-    session.ajuste.cmd_opt_enabled = false;
+    state::ajuste.cmd_opt_enabled = false;
     const std::string path = ask_for_path();
     if (path.empty())
         return;
@@ -83,9 +87,9 @@ void select_side(const Side& side, const Side& other, void (*draw)()) {
 } // namespace
 
 void ajuste_Load() {
-    session.ajuste = {};
-    session.PtosA.redim(0);
-    session.PtosB.redim(0);
+    state::ajuste = {};
+    state::workbench.PtosA.redim(0);
+    state::workbench.PtosB.redim(0);
     load_literals(kWindow);
 }
 
@@ -103,7 +107,7 @@ void cmd_selB_Click() {
 
 void cmd_opt_Click() {
     platform().windows.show_modal("ajuste_opt");
-    session.ajuste.Cmd_Ajuste_enabled = true;
+    state::ajuste.Cmd_Ajuste_enabled = true;
 }
 
 void ajuste_cmd_exit_Click() {
