@@ -2,8 +2,14 @@
 
 #include "cad/entities.h"
 #include "document/feedback.h"
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/cad.h"
+#include "document/state/document.h"
+#include "document/state/loading.h"
+#include "document/windows/velmora.h"
+#include "document/windows/wininfo.h"
 #include "runtime/prefetch.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
@@ -71,25 +77,25 @@ void put_point(const Pto& point, std::int32_t& write_index) {
     Forma.Pto.redim_keep(write_index);
     Forma.Pto[write_index] = {.X = point.X, .Y = point.Y};
     ++write_index;
-    session.UltimoPto = write_index;
+    state::document.UltimoPto = write_index;
 }
 
 void start_figures() {
-    session.UltimoPto = 0;
-    session.TotalPtos = 0;
-    session.PtosSuprimidos = 0;
-    session.wininfo.TxtTotalPtos = CStr(session.TotalPtos);
-    session.wininfo.TxtPtosSupr = CStr(session.PtosSuprimidos);
+    state::document.UltimoPto = 0;
+    state::document.TotalPtos = 0;
+    state::document.PtosSuprimidos = 0;
+    state::wininfo.TxtTotalPtos = CStr(state::document.TotalPtos);
+    state::wininfo.TxtPtosSupr = CStr(state::document.PtosSuprimidos);
     DoEvents();
     set_status(GetMensaje(mensaje::reorganising_2));
-    session.Velmora.Pbar1 = {.Min = 0, .Max = session.ObjsCad.upper() + 1.0, .Value = 0};
+    state::Velmora.Pbar1 = {.Min = 0, .Max = state::cad.ObjsCad.upper() + 1.0, .Value = 0};
 }
 
 void copy_only_entity(const ObjCad& object) {
     Forma.Pto.redim(object.NPtos);
     for (std::int32_t j = 0; j <= object.NPtos; ++j)
         Forma.Pto[j] = {.X = object.Ptos[j].X, .Y = object.Ptos[j].Y};
-    session.UltimoPto = object.NPtos + 1;
+    state::document.UltimoPto = object.NPtos + 1;
 }
 
 /// An entity's first point is the last one of the entity before it.
@@ -102,7 +108,7 @@ void copy_entity(const ObjCad& object, bool with_first_point, std::int32_t& writ
 
 std::size_t points_of_all() {
     std::size_t points = 0;
-    for (const ObjCad& object : session.ObjsCad.all())
+    for (const ObjCad& object : state::cad.ObjsCad.all())
         points += object.Ptos.size();
     return points;
 }
@@ -111,36 +117,36 @@ void copy_chain(std::int32_t& write_index) {
     IniciaUsados();
     Forma.Pto.reserve(points_of_all());
     std::int32_t waiting = ContarNoUsados();
-    const ByPosition entities(session.ObjsCad);
+    const ByPosition entities(state::cad.ObjsCad);
     std::int32_t at = nothing;
     for (std::int32_t position = 0; waiting > 0; ++position) {
         at = entities.find(position, at);
         // A scan that places nothing would go on for ever.
         if (at == nothing)
             raise(error::invalid_call);
-        entities.fetch_ahead(position, session.ObjsCad);
-        copy_entity(session.ObjsCad[at], position == 0, write_index);
-        session.ObjsCad[at].Usado = True;
+        entities.fetch_ahead(position, state::cad.ObjsCad);
+        copy_entity(state::cad.ObjsCad[at], position == 0, write_index);
+        state::cad.ObjsCad[at].Usado = True;
         --waiting;
-        session.Velmora.Pbar1.Value = position + 1.0;
+        state::Velmora.Pbar1.Value = position + 1.0;
         DoEvents();
     }
 }
 
 void finish_figures() {
-    session.TotalPtos = session.UltimoPto - 1;
-    session.wininfo.TxtTotalPtos = CStr(session.TotalPtos);
+    state::document.TotalPtos = state::document.UltimoPto - 1;
+    state::wininfo.TxtTotalPtos = CStr(state::document.TotalPtos);
     set_pointer(0);
-    session.TotalSinc = 0;
-    session.wininfo.TxtTotalCtrlPtos = CStr(session.TotalSinc);
-    session.ObjsCad.redim(0);
+    state::document.TotalSinc = 0;
+    state::wininfo.TxtTotalCtrlPtos = CStr(state::document.TotalSinc);
+    state::cad.ObjsCad.redim(0);
     DoEvents();
 }
 
 void assemble(std::int32_t& write_index) {
     start_figures();
-    if (session.ObjsCad.upper() == 0)
-        copy_only_entity(session.ObjsCad[0]);
+    if (state::cad.ObjsCad.upper() == 0)
+        copy_only_entity(state::cad.ObjsCad[0]);
     else
         copy_chain(write_index);
     Forma.Pto.redim_keep(Forma.Pto.upper() - 1);
@@ -153,7 +159,7 @@ void OBJS2PTS() {
     std::int32_t write_index = 0;
     trap([&] { assemble(write_index); },
          [&](const RuntimeError& failure) {
-             session.files.abandon(1);
+             state::loading.files.abandon(1);
              show_trap("Error OBJS2PTS nº: ", failure, "  -  En punto: " + CStr(write_index));
          });
 }

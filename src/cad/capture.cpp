@@ -8,7 +8,14 @@
 #include "cad/entity_counters.h"
 #include "cad/points_to_lines.h"
 #include "document/feedback.h"
+#include "document/flag.h"
 #include "document/number_text.h"
+#include "document/state/cad.h"
+#include "document/state/document.h"
+#include "document/state/options.h"
+#include "document/state/program.h"
+#include "document/windows/velmora.h"
+#include "document/windows/winoptions.h"
 #include "platform/dialogs.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -22,14 +29,14 @@ namespace velmora {
 namespace {
 
 void take_point_counts() {
-    session.PutArc = runtime::to_int32(runtime::Val(session.winoptions.TxtPutArc));
-    session.PutCircle = runtime::to_int32(runtime::Val(session.winoptions.TxtPutCircle));
+    state::options.PutArc = runtime::to_int32(runtime::Val(state::winoptions.TxtPutArc));
+    state::options.PutCircle = runtime::to_int32(runtime::Val(state::winoptions.TxtPutCircle));
 }
 
 void start_figures(AcadDocument& drawing, std::int32_t entities) {
     set_status(GetMensaje(mensaje::capturing_from) + " " + runtime::UCase(drawing.Name()) + " !");
-    session.Velmora.Pbar1 = {.Min = 0, .Max = static_cast<double>(entities), .Value = 0};
-    session.Velmora.pbar2.Value = 0;
+    state::Velmora.Pbar1 = {.Min = 0, .Max = static_cast<double>(entities), .Value = 0};
+    state::Velmora.pbar2.Value = 0;
     reset_entity_counters();
     clear_entity_boxes();
     DoEvents();
@@ -39,20 +46,20 @@ void start_figures(AcadDocument& drawing, std::int32_t entities) {
 void take_origin(const ObjCad& object, Flag& origenDelDibujo) {
     if (origenDelDibujo == False || object.Tipo == TipoCad::AcDbSpline)
         return;
-    session.CadOrigX = object.Ptos[0].X;
-    session.CadOrigY = object.Ptos[0].Y;
+    state::cad.CadOrigX = object.Ptos[0].X;
+    state::cad.CadOrigY = object.Ptos[0].Y;
     origenDelDibujo = False;
 }
 
 void put_entity(std::int32_t position, ObjCad object) {
-    session.ObjsCad.redim_keep(position);
-    session.ObjsCad[position] = std::move(object);
+    state::cad.ObjsCad.redim_keep(position);
+    state::cad.ObjsCad[position] = std::move(object);
 }
 
 void read_entities(AcadDocument& drawing, std::int32_t entities, Flag& origenDelDibujo) {
     std::int32_t taken = 0;
     for (std::int32_t i = 0; i < entities; ++i) {
-        session.Velmora.Pbar1.Value = i;
+        state::Velmora.Pbar1.Value = i;
         const std::unique_ptr<AcadEntity> entity = drawing.Item(i);
         const TipoCad tipo = tipo_of(entity->ObjectName());
         if (tipo != TipoCad::none) {
@@ -81,7 +88,7 @@ void report(std::int32_t incoherent) {
 } // namespace
 
 void CapturaAcad(Flag& origenDelDibujo) {
-    session.ObjsCad.redim(0);
+    state::cad.ObjsCad.redim(0);
     take_point_counts();
     const std::shared_ptr<AcadDocument> drawing = connected_document();
     const std::int32_t entities = drawing->Count();
@@ -98,7 +105,7 @@ void CapturaAcad(Flag& origenDelDibujo) {
     if (!incoherent)
         return;
     OBJS2PTS();
-    session.LoadOk = 0;
+    state::document.LoadOk = 0;
     report(*incoherent);
 }
 

@@ -1,7 +1,7 @@
 // The outline out of the open drawing of a running CAD.
 #pragma once
 
-#include "document/session.h"
+#include "document/flag.h"
 
 namespace velmora {
 

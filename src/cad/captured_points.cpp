@@ -4,8 +4,11 @@
 #include "cad/flatten.h"
 #include "cad/spline.h"
 #include "document/feedback.h"
+#include "document/forma.h"
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/options.h"
+#include "document/state/program.h"
+#include "document/windows/winoptions.h"
 #include "runtime/numbers.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
@@ -96,7 +99,8 @@ void ask_while_below(std::int32_t fewest, int prompt, std::int32_t& points, std:
 }
 
 Array<Pto> arc_points(AcadEntity& arc) {
-    ask_while_below(3, mensaje::arc_points_too_few, session.PutArc, session.winoptions.TxtPutArc);
+    ask_while_below(3, mensaje::arc_points_too_few, state::options.PutArc,
+                    state::winoptions.TxtPutArc);
     const Pto centre = raw_point(arc.Center());
     const double radius = arc.Radius();
     const double start = arc.StartAngle();
@@ -104,8 +108,8 @@ Array<Pto> arc_points(AcadEntity& arc) {
 }
 
 Array<Pto> circle_points(AcadEntity& circle) {
-    ask_while_below(4, mensaje::circle_points_too_few, session.PutCircle,
-                    session.winoptions.TxtPutCircle);
+    ask_while_below(4, mensaje::circle_points_too_few, state::options.PutCircle,
+                    state::winoptions.TxtPutCircle);
     const Pto centre = raw_point(circle.Center());
     return capture_circle(centre.X, centre.Y, circle.Radius());
 }

@@ -2,7 +2,8 @@
 
 #include "cad/entities.h"
 #include "document/feedback.h"
-#include "document/session.h"
+#include "document/flag.h"
+#include "document/forma.h"
 
 #include <utility>
 

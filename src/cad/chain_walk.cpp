@@ -2,7 +2,8 @@
 
 #include "cad/chain_finder.h"
 #include "document/feedback.h"
-#include "document/session.h"
+#include "document/state/cad.h"
+#include "document/windows/velmora.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 
@@ -18,7 +19,7 @@ namespace {
 /// a continuation of the chain, which need not be itself and goes to `place`, or is given up.
 template <class Place, class GiveUp>
 void walk(ChainFinder& finder, std::int32_t current, const Place& place, const GiveUp& give_up) {
-    std::vector<std::int32_t> round(session.ObjsCad.size());
+    std::vector<std::int32_t> round(state::cad.ObjsCad.size());
     std::iota(round.begin(), round.end(), 0);
     while (finder.unused() > 0) {
         std::vector<std::int32_t> left;
@@ -51,17 +52,17 @@ std::optional<std::int32_t> origin_not_on_shape() {
 }
 
 void show_progress(double placed) {
-    session.Velmora.Pbar1.Value = placed;
+    state::Velmora.Pbar1.Value = placed;
     DoEvents();
 }
 
 } // namespace
 
 void walk_dxf() {
-    Array<ObjCad>& objects = session.ObjsCad;
+    Array<ObjCad>& objects = state::cad.ObjsCad;
     if (objects.upper() == 0)
         return;
-    session.Velmora.Pbar1 = {.Min = 0, .Max = static_cast<double>(objects.upper()), .Value = 0};
+    state::Velmora.Pbar1 = {.Min = 0, .Max = static_cast<double>(objects.upper()), .Value = 0};
     ChainFinder finder(objects);
     finder.take(0);
     objects[0].Orden = 0;
@@ -77,11 +78,12 @@ std::optional<std::int32_t>
 walk_capture(std::int32_t model_space_count,
              const std::function<void(std::int32_t)>& colour_incoherent) {
     set_status(GetMensaje(mensaje::reorganising_1));
-    Array<ObjCad>& objects = session.ObjsCad;
+    Array<ObjCad>& objects = state::cad.ObjsCad;
     if (holds_no_entity(objects))
         return origin_not_on_shape();
     ChainFinder finder(objects);
-    const std::int32_t start = finder.BuscaSiguiente(session.CadOrigX, session.CadOrigY, true);
+    const std::int32_t start =
+        finder.BuscaSiguiente(state::cad.CadOrigX, state::cad.CadOrigY, true);
     if (start == -1)
         return origin_not_on_shape();
     // The only entity of a drawing is left to the walk, which places it at 0.

@@ -1,6 +1,8 @@
-// The walks that put the entities of session.ObjsCad in the order of the cut, each source its own.
-// Both set Usado and Orden and turn entities round; OBJS2PTS follows.
+// The walks that put the entities of state::cad.ObjsCad in the order of the cut, each source its
+// own. Both set Usado and Orden and turn entities round; OBJS2PTS follows.
 #pragma once
+
+#include "document/state/cad.h"
 
 #include <cstdint>
 #include <functional>

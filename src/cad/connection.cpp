@@ -1,6 +1,9 @@
 #include "cad/connection.h"
 
-#include "document/session.h"
+#include "document/flag.h"
+#include "document/state/cad.h"
+#include "document/windows/velmora.h"
+#include "document/windows/wininfo.h"
 #include "platform/platform.h"
 #include "runtime/error.h"
 #include "runtime/text.h"
@@ -15,7 +18,7 @@ constexpr std::uint32_t kConnected = 65280;
 constexpr std::uint32_t kNotConnected = 255;
 
 void enable(std::string_view entry, bool enabled) {
-    session.Velmora.menus[std::string(entry)].enabled = enabled;
+    state::Velmora.menus[std::string(entry)].enabled = enabled;
 }
 
 void enable_document_commands(bool enabled) {
@@ -24,7 +27,7 @@ void enable_document_commands(bool enabled) {
 }
 
 void forget_document() {
-    session.AcadDocLoaded = False;
+    state::cad.AcadDocLoaded = False;
     acad().AcadDoc.reset();
 }
 
@@ -38,34 +41,34 @@ void look_for_application() {
 }
 
 void clear_names() {
-    session.wininfo.TxtOpensw.clear();
-    session.wininfo.txtAcadVer.clear();
+    state::wininfo.TxtOpensw.clear();
+    state::wininfo.txtAcadVer.clear();
 }
 
 // What was shown of a document stays, on purpose: only the application's state changes.
 void show_not_connected() {
-    session.AcadOpen = False;
-    session.wininfo.ShpAcadOpen = kNotConnected;
+    state::cad.AcadOpen = False;
+    state::wininfo.ShpAcadOpen = kNotConnected;
     clear_names();
     enable_document_commands(false);
     enable("mnu_SendToCad", false);
 }
 
 void show_names() {
-    session.wininfo.TxtOpensw = acad().AcadApp->Name();
-    session.wininfo.txtAcadVer = acad().AcadApp->Version();
+    state::wininfo.TxtOpensw = acad().AcadApp->Name();
+    state::wininfo.txtAcadVer = acad().AcadApp->Version();
 }
 
 void show_connected() {
-    session.wininfo.ShpAcadOpen = kConnected;
-    session.AcadOpen = True;
+    state::wininfo.ShpAcadOpen = kConnected;
+    state::cad.AcadOpen = True;
     enable("mnu_SendToCad", true);
 }
 
 void show_no_document() {
     enable_document_commands(false);
-    session.wininfo.ShpAcadDocLoaded = kNotConnected;
-    session.wininfo.TxtAcadFile.clear();
+    state::wininfo.ShpAcadDocLoaded = kNotConnected;
+    state::wininfo.TxtAcadFile.clear();
 }
 
 void look_for_document() {
@@ -100,10 +103,10 @@ std::shared_ptr<AcadDocument> connected_document() {
 
 void take_active_document() {
     acad().AcadDoc = acad().AcadApp->ActiveDocument();
-    session.AcadDocLoaded = True;
-    session.wininfo.ShpAcadDocLoaded = kConnected;
+    state::cad.AcadDocLoaded = True;
+    state::wininfo.ShpAcadDocLoaded = kConnected;
     enable_document_commands(true);
-    session.wininfo.TxtAcadFile = runtime::UCase(runtime::Trim(acad().AcadDoc->Name()));
+    state::wininfo.TxtAcadFile = runtime::UCase(runtime::Trim(acad().AcadDoc->Name()));
 }
 
 void ReconectaAcad() {

@@ -6,8 +6,13 @@
 #include "cad/dxf_text.h"
 #include "cad/entity_counters.h"
 #include "document/feedback.h"
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/document.h"
+#include "document/state/loading.h"
+#include "document/state/program.h"
+#include "document/windows/velmora.h"
 #include "platform/dialogs.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
@@ -36,7 +41,8 @@ void report_version(std::string_view fichero) {
     std::string box = GetMensaje(mensaje::file_version);
     box.append(" ").append(fichero).append(" ");
     box += GetMensaje(mensaje::version_not_supported);
-    session.Respuesta = static_cast<std::int16_t>(MsgBox(box, buttons::critical, box_title()));
+    state::program.Respuesta =
+        static_cast<std::int16_t>(MsgBox(box, buttons::critical, box_title()));
 }
 
 void read_section(DxfText& text) {
@@ -54,30 +60,30 @@ void read_section(DxfText& text) {
 /// A refused version takes the same way out as a good file, on purpose: OBJS2PTS then reports its
 /// error on the empty list.
 void load(std::string_view fichero, DxfText& text) {
-    session.EscalaCarga = 1;
+    state::loading.EscalaCarga = 1;
     reset_entity_counters();
-    session.files.open_input(1, fichero);
+    state::loading.files.open_input(1, fichero);
     Forma.Pto.redim(0);
     if (has_known_version(text))
         read_section(text);
     else
         report_version(fichero);
-    session.files.close(1);
+    state::loading.files.close(1);
     set_status(GetMensaje(mensaje::reorganising_1));
     set_pointer(11);
-    session.Velmora.pbar2.Value = session.Velmora.pbar2.Max;
+    state::Velmora.pbar2.Value = state::Velmora.pbar2.Max;
     walk_dxf();
     set_pointer(0);
     OBJS2PTS();
 }
 
 Flag ask_cancel(const RuntimeError& failure, std::int32_t lines) {
-    session.files.abandon(1);
+    state::loading.files.abandon(1);
     show_trap("Error CargaDXF  nº: ", failure, "  -  En Linea: " + CStr(lines));
     if (MsgBox("Cancel Load?", buttons::yes_no + buttons::critical) != answer::yes)
         return True;
     Forma.Pto.redim(0);
-    session.UltimoPto = 0;
+    state::document.UltimoPto = 0;
     return False;
 }
 

@@ -4,7 +4,8 @@
 #include "cad/entity_counters.h"
 #include "cad/flatten.h"
 #include "document/feedback.h"
-#include "document/session.h"
+#include "document/forma.h"
+#include "document/state/cad.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 
@@ -31,7 +32,7 @@ DxfEntities::Reader DxfEntities::reader_of(std::string_view line) {
 
 bool DxfEntities::read(Reader entity) {
     if (taken_ == 0)
-        session.ObjsCad.redim(0);
+        state::cad.ObjsCad.redim(0);
     return (this->*entity)();
 }
 
@@ -55,7 +56,7 @@ bool DxfEntities::read_point() {
     point.Y = text_.coordinate();
     const bool ended = text_.at_section_end();
     Array<Pto> points;
-    points.append(taken_ == 0 ? point : last_point(session.ObjsCad[taken_ - 1]));
+    points.append(taken_ == 0 ? point : last_point(state::cad.ObjsCad[taken_ - 1]));
     points.append(point);
     take(TipoCad::AcDbPoint, std::move(points));
     return ended;
@@ -101,7 +102,7 @@ bool DxfEntities::read_polyline() {
 }
 
 void DxfEntities::take(TipoCad tipo, Array<Pto> points) {
-    Array<ObjCad>& objects = session.ObjsCad;
+    Array<ObjCad>& objects = state::cad.ObjsCad;
     objects.redim_keep(taken_);
     ObjCad& object = objects[taken_];
     object.NPtos = points.upper();

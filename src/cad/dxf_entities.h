@@ -1,9 +1,11 @@
-// The entities of a DXF file by their fixed line patterns, into session.ObjsCad. Group codes are
+// The entities of a DXF file by their fixed line patterns, into state::cad.ObjsCad. Group codes are
 // never looked at.
 #pragma once
 
 #include "cad/dxf_text.h"
+#include "document/forma.h"
 #include "document/obj_cad.h"
+#include "document/state/cad.h"
 
 #include <cstdint>
 #include <string_view>

@@ -2,7 +2,7 @@
 
 #include "document/number_text.h"
 #include "document/separator.h"
-#include "document/session.h"
+#include "document/state/loading.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 
@@ -27,7 +27,7 @@ std::string_view DxfText::counted_line() {
 }
 
 std::string_view DxfText::line() {
-    last_ = session.files.line_input(1);
+    last_ = state::loading.files.line_input(1);
     return last_;
 }
 

@@ -1,5 +1,8 @@
 #include "cad/entities.h"
 
+#include "document/flag.h"
+#include "document/forma.h"
+#include "document/state/cad.h"
 #include "runtime/numbers.h"
 
 #include <algorithm>
@@ -15,7 +18,7 @@ bool is_unused(const ObjCad& object) {
 }
 
 std::span<const ObjCad> all_objects() {
-    return std::as_const(session.ObjsCad).all();
+    return std::as_const(state::cad.ObjsCad).all();
 }
 
 } // namespace
@@ -57,7 +60,7 @@ Flag HayPuntos() {
 }
 
 void IniciaUsados() {
-    for (ObjCad& object : session.ObjsCad.all())
+    for (ObjCad& object : state::cad.ObjsCad.all())
         object.Usado = flag(object.Orden == -1);
 }
 

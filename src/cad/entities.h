@@ -1,9 +1,11 @@
 // The entity list as a whole: what is used, what is left, and how one entity is turned round. All
-// work on session.ObjsCad.
+// work on state::cad.ObjsCad.
 #pragma once
 
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/obj_cad.h"
-#include "document/session.h"
+#include "document/state/cad.h"
 
 #include <cstdint>
 #include <string_view>

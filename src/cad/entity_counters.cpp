@@ -1,7 +1,8 @@
 #include "cad/entity_counters.h"
 
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/cad.h"
+#include "document/windows/wininfo.h"
 
 #include <string>
 
@@ -17,36 +18,36 @@ struct Counter {
 Counter counter_of(TipoCad tipo) {
     switch (tipo) {
     case TipoCad::AcDbSpline:
-        return {session.NSplines, session.wininfo.TxtNSplines};
+        return {state::cad.NSplines, state::wininfo.TxtNSplines};
     case TipoCad::AcDbPolyline:
-        return {session.NLWPolylines, session.wininfo.TxtNLWPolylines};
+        return {state::cad.NLWPolylines, state::wininfo.TxtNLWPolylines};
     case TipoCad::AcDbArc:
-        return {session.NArcs, session.wininfo.TxtNArcs};
+        return {state::cad.NArcs, state::wininfo.TxtNArcs};
     case TipoCad::AcDbCircle:
-        return {session.NCircles, session.wininfo.TxtNCircles};
+        return {state::cad.NCircles, state::wininfo.TxtNCircles};
     default:
-        return {session.NLines, session.wininfo.TxtNlines};
+        return {state::cad.NLines, state::wininfo.TxtNlines};
     }
 }
 
 } // namespace
 
 void reset_entity_counters() {
-    session.TotalObjs = 0;
-    session.NLines = session.NSplines = session.NLWPolylines = 0;
-    session.NArcs = session.NCircles = 0;
+    state::cad.TotalObjs = 0;
+    state::cad.NLines = state::cad.NSplines = state::cad.NLWPolylines = 0;
+    state::cad.NArcs = state::cad.NCircles = 0;
 }
 
 void clear_entity_boxes() {
-    WinInfo& info = session.wininfo;
+    WinInfo& info = state::wininfo;
     for (std::string* box : {&info.TxtProcesed, &info.TxtNlines, &info.TxtNSplines,
                              &info.TxtNLWPolylines, &info.TxtNArcs, &info.TxtNCircles})
         *box = CStr(std::int32_t{0});
 }
 
 void count_entity(TipoCad tipo, std::int32_t taken) {
-    session.TotalObjs = taken;
-    session.wininfo.TxtProcesed = CStr(taken);
+    state::cad.TotalObjs = taken;
+    state::wininfo.TxtProcesed = CStr(taken);
     const Counter counter = counter_of(tipo);
     counter.box = CStr(++counter.total);
 }

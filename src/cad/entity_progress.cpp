@@ -1,16 +1,16 @@
 #include "cad/entity_progress.h"
 
 #include "document/feedback.h"
-#include "document/session.h"
+#include "document/windows/velmora.h"
 
 namespace velmora {
 
 void start_entity_progress(double points) {
-    session.Velmora.pbar2 = {.Min = 0, .Max = points, .Value = 0};
+    state::Velmora.pbar2 = {.Min = 0, .Max = points, .Value = 0};
 }
 
 void step_entity_progress() {
-    session.Velmora.pbar2.Value += 1;
+    state::Velmora.pbar2.Value += 1;
     DoEvents();
 }
 

@@ -1,8 +1,10 @@
 #include "cad/flatten.h"
 
 #include "cad/entity_progress.h"
+#include "document/forma.h"
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/options.h"
+#include "document/state/program.h"
 #include "runtime/numbers.h"
 
 #include <cmath>
@@ -12,11 +14,11 @@ namespace velmora {
 namespace {
 
 double degrees(double radians) {
-    return 180 / session.PI * radians;
+    return 180 / state::program.PI * radians;
 }
 
 double radians(double degrees_of_angle) {
-    return session.PI / 180 * degrees_of_angle;
+    return state::program.PI / 180 * degrees_of_angle;
 }
 
 /// The sweep from start to end, both in degrees; it never runs clockwise.
@@ -46,7 +48,7 @@ Array<Pto> capture(const ArcRun& arc) {
 }
 
 double full_circle() {
-    return degrees(2 * session.PI);
+    return degrees(2 * state::program.PI);
 }
 
 } // namespace
@@ -66,22 +68,24 @@ Array<Pto> flatten(const ArcRun& arc, double (*store)(double), void (*step)()) {
 
 Array<Pto> capture_arc(double centre_x, double centre_y, double radius, double start, double end) {
     const double sweep = sweep_between(whole_degrees(start), whole_degrees(end));
-    return capture({centre_x, centre_y, captured_radius(radius), start, sweep, session.PutArc});
+    return capture(
+        {centre_x, centre_y, captured_radius(radius), start, sweep, state::options.PutArc});
 }
 
 Array<Pto> capture_circle(double centre_x, double centre_y, double radius) {
     return capture(
-        {centre_x, centre_y, captured_radius(radius), 0, full_circle(), session.PutCircle});
+        {centre_x, centre_y, captured_radius(radius), 0, full_circle(), state::options.PutCircle});
 }
 
 Array<Pto> dxf_arc(double centre_x, double centre_y, double radius, double start, double end) {
-    return flatten(
-        {centre_x, centre_y, radius, radians(start), sweep_between(start, end), session.PutArc},
-        store_of_dxf);
+    return flatten({centre_x, centre_y, radius, radians(start), sweep_between(start, end),
+                    state::options.PutArc},
+                   store_of_dxf);
 }
 
 Array<Pto> dxf_circle(double centre_x, double centre_y, double radius) {
-    return flatten({centre_x, centre_y, radius, 0, full_circle(), session.PutCircle}, store_of_dxf);
+    return flatten({centre_x, centre_y, radius, 0, full_circle(), state::options.PutCircle},
+                   store_of_dxf);
 }
 
 void close_run(Array<Pto>& points) {

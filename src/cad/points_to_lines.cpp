@@ -2,7 +2,9 @@
 
 #include "cad/entities.h"
 #include "document/feedback.h"
-#include "document/session.h"
+#include "document/flag.h"
+#include "document/forma.h"
+#include "document/state/cad.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 
@@ -148,10 +150,10 @@ void PuntosALineas() {
     set_status(GetMensaje(mensaje::points_to_lines));
     if (HayPuntos() == True)
         return;
-    Conversion conversion(session.ObjsCad);
+    Conversion conversion(state::cad.ObjsCad);
     LoopWatch watch;
     while (HayPuntos() == False) {
-        watch.look_at(session.ObjsCad);
+        watch.look_at(state::cad.ObjsCad);
         conversion.run_round();
     }
 }

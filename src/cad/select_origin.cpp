@@ -2,7 +2,11 @@
 #include "cad/capture.h"
 #include "cad/connection.h"
 #include "document/feedback.h"
+#include "document/flag.h"
 #include "document/number_text.h"
+#include "document/state/cad.h"
+#include "document/state/document.h"
+#include "document/windows/wininfo.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "services/message_codes.h"
@@ -17,11 +21,11 @@ constexpr auto kCallRejected = static_cast<std::int32_t>(0x8021001CU);
 constexpr auto kExceptionInCad = static_cast<std::int32_t>(0x80020009U);
 
 bool connected_with_document() {
-    if (session.AcadOpen == False) {
+    if (state::cad.AcadOpen == False) {
         MuestraMensaje(mensaje::cad_not_open);
         return false;
     }
-    if (session.AcadDocLoaded == False) {
+    if (state::cad.AcadDocLoaded == False) {
         MuestraMensaje(mensaje::no_document);
         return false;
     }
@@ -38,7 +42,9 @@ int ask_point() {
     trap([] { platform().cad.AppActivate(); }, keep_number);
     DoEvents();
     trap(
-        [] { session.AcadPunto = connected_document()->GetPoint(GetMensaje(mensaje::pick_start)); },
+        [] {
+            state::cad.AcadPunto = connected_document()->GetPoint(GetMensaje(mensaje::pick_start));
+        },
         keep_number);
     return error;
 }
@@ -52,16 +58,16 @@ int ask_until_answered() {
 }
 
 void take_origin() {
-    const std::vector<double>& point = session.AcadPunto;
+    const std::vector<double>& point = state::cad.AcadPunto;
     if (point.size() < 2)
         raise(error::subscript);
-    session.CadOrigX = Normaliza15(point[0]);
-    session.CadOrigY = Normaliza15(point[1]);
+    state::cad.CadOrigX = Normaliza15(point[0]);
+    state::cad.CadOrigY = Normaliza15(point[1]);
     platform().windows.show("wininfo");
-    session.wininfo.TxtOrigX = CStr(session.CadOrigX);
-    session.wininfo.TxtOrigY = CStr(session.CadOrigY);
-    session.OrigX = session.CadOrigX;
-    session.OrigY = session.CadOrigY;
+    state::wininfo.TxtOrigX = CStr(state::cad.CadOrigX);
+    state::wininfo.TxtOrigY = CStr(state::cad.CadOrigY);
+    state::document.OrigX = state::cad.CadOrigX;
+    state::document.OrigY = state::cad.CadOrigY;
 }
 
 } // namespace
@@ -69,16 +75,16 @@ void take_origin() {
 Flag SelOrigen() {
     if (!connected_with_document())
         return False;
-    session.SelOrigenActivo = True;
+    state::cad.SelOrigenActivo = True;
     set_status(GetMensaje(mensaje::use_alt_tab));
     if (ask_until_answered() != 0) {
         MuestraMensaje(mensaje::wrong_point);
         return False;
     }
     take_origin();
-    session.LoadOk = 0;
+    state::document.LoadOk = 0;
     set_status(GetMensaje(mensaje::capturing));
-    session.SelOrigenActivo = False;
+    state::cad.SelOrigenActivo = False;
     return True;
 }
 

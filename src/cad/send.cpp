@@ -2,7 +2,11 @@
 
 #include "cad/connection.h"
 #include "document/feedback.h"
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/number_text.h"
+#include "document/state/cad.h"
+#include "document/state/program.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
@@ -42,9 +46,9 @@ void bring_to_front(AcadApplication& application) {
 }
 
 void send() {
-    session.AcadDocLoaded = False;
+    state::cad.AcadDocLoaded = False;
     ReconectaAcad();
-    if (session.AcadOpen == False)
+    if (state::cad.AcadOpen == False)
         return;
     const std::shared_ptr<AcadApplication> application = acad().AcadApp;
     application->Documents_Add(program_file("\\acad.dwt"));

@@ -1,7 +1,10 @@
 #include "formats/coordinate_limit.h"
 
 #include "document/feedback.h"
+#include "document/forma.h"
 #include "document/number_text.h"
+#include "document/state/loading.h"
+#include "document/state/program.h"
 #include "formats/box_text.h"
 #include "platform/dialogs.h"
 #include "services/message_codes.h"
@@ -10,22 +13,22 @@
 namespace velmora {
 
 bool CoordinateLimit::admits(const Pto& stored) {
-    over_ = stored.X > session.LimiteCoord ? stored.X : stored.Y;
-    return !(over_ > session.LimiteCoord);
+    over_ = stored.X > state::loading.LimiteCoord ? stored.X : stored.Y;
+    return !(over_ > state::loading.LimiteCoord);
 }
 
 bool CoordinateLimit::offer_scaling() const {
     const std::string text = joined_by_blanks(
         {GetMensaje(mensaje::the_file), path_, GetMensaje(mensaje::coordinates_over),
-         CStr(session.LimiteCoord) + "!", GetMensaje(mensaje::offer_scaling)});
-    session.Respuesta =
+         CStr(state::loading.LimiteCoord) + "!", GetMensaje(mensaje::offer_scaling)});
+    state::program.Respuesta =
         static_cast<std::int16_t>(MsgBox(text, buttons::yes_no + buttons::critical, box_title()));
-    if (session.Respuesta != answer::ok)
+    if (state::program.Respuesta != answer::ok)
         return false;
-    session.MaxCoordCarga = over_;
-    while (session.MaxCoordCarga > session.LimiteCoord) {
-        session.EscalaCarga *= 10;
-        session.MaxCoordCarga = over_ / session.EscalaCarga;
+    state::loading.MaxCoordCarga = over_;
+    while (state::loading.MaxCoordCarga > state::loading.LimiteCoord) {
+        state::loading.EscalaCarga *= 10;
+        state::loading.MaxCoordCarga = over_ / state::loading.EscalaCarga;
     }
     return true;
 }

@@ -2,7 +2,9 @@
 // the read that starts over with another scale.
 #pragma once
 
-#include "document/session.h"
+#include "document/flag.h"
+#include "document/forma.h"
+#include "document/state/loading.h"
 #include "formats/reader_support.h"
 
 #include <cstdint>
@@ -38,7 +40,7 @@ enum class Pass { complete, refused, over_limit };
 template <class ReadPass>
 [[nodiscard]] std::int16_t read_within_limit(std::string_view path, Array<Pto>& points,
                                              ReadCounts& counts, ReadPass&& pass) {
-    session.EscalaCarga = 1;
+    state::loading.EscalaCarga = 1;
     for (;;) {
         counts = {};
         CoordinateLimit limit(path);
@@ -46,7 +48,7 @@ template <class ReadPass>
         if (end != Pass::over_limit)
             return flag(end == Pass::complete);
         const bool again = limit.offer_scaling();
-        session.files.close(1);
+        state::loading.files.close(1);
         if (again)
             continue;
         points.redim(0);

@@ -1,7 +1,7 @@
+#include "document/state/loading.h"
 #include "formats/load.h"
 
 #include "document/feedback.h"
-#include "document/session.h"
 #include "formats/box_text.h"
 #include "runtime/error.h"
 #include "services/message_codes.h"
@@ -16,7 +16,7 @@ bool holds(std::string_view text, std::string_view wanted) {
 }
 
 std::string next_line() {
-    return std::string(session.files.line_input(1));
+    return std::string(state::loading.files.line_input(1));
 }
 
 FileFormat dialect_of(const std::string& line1, const std::string& line2,
@@ -36,16 +36,16 @@ FileFormat dialect_of(const std::string& line1, const std::string& line2,
 }
 
 FileFormat read_dialect(std::string_view path) {
-    session.files.open_input(1, path);
+    state::loading.files.open_input(1, path);
     const std::string line1 = next_line();
     const std::string line2 = next_line();
     const std::string line3 = next_line();
-    session.files.close(1);
+    state::loading.files.close(1);
     return dialect_of(line1, line2, line3);
 }
 
 void report_undecided(std::string_view shown_path, const RuntimeError& failure) {
-    session.files.abandon(1);
+    state::loading.files.abandon(1);
     MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), shown_path,
                              GetMensaje(mensaje::too_few_lines),
                              "Error GetFileFormat  nº:" + std::to_string(failure.number),

@@ -1,6 +1,7 @@
 #include "formats/files.h"
 
-#include "document/session.h"
+#include "document/state/loading.h"
+#include "document/state/program.h"
 #include "platform/platform.h"
 #include "platform/shell.h"
 #include "runtime/error.h"
@@ -25,7 +26,7 @@ constexpr int kProbedLines = 10;
 class OpenNumber {
   public:
     explicit OpenNumber(int number) : number_(number) {}
-    ~OpenNumber() { session.files.abandon(number_); }
+    ~OpenNumber() { state::loading.files.abandon(number_); }
     OpenNumber(const OpenNumber&) = delete;
     OpenNumber& operator=(const OpenNumber&) = delete;
 
@@ -40,16 +41,16 @@ struct Probe {
 };
 
 Probe probe(std::string_view path, char wanted) {
-    session.files.open_input(kSource, path);
+    state::loading.files.open_input(kSource, path);
     const OpenNumber source(kSource);
     for (int i = 0; i < kHeaderLines; ++i)
-        (void)session.files.line_input(kSource);
+        (void)state::loading.files.line_input(kSource);
     Probe result;
-    result.ended = session.files.eof(kSource);
+    result.ended = state::loading.files.eof(kSource);
     for (int i = 0; i < kProbedLines && !result.ended; ++i) {
-        const std::string_view line = session.files.line_input(kSource);
+        const std::string_view line = state::loading.files.line_input(kSource);
         result.found = result.found || line.find(wanted) != std::string_view::npos;
-        result.ended = session.files.eof(kSource);
+        result.ended = state::loading.files.eof(kSource);
     }
     return result;
 }
@@ -73,25 +74,25 @@ void write_whole(std::string_view path, Write&& write) {
 /// All of file 1 from where it stands but for its last `left_out` bytes, with `to` for `from`, to a
 /// file of its own.
 void write_replaced(const std::string& temp, char from, char to, std::uint64_t left_out) {
-    session.files.open_output(kTemp, temp);
+    state::loading.files.open_output(kTemp, temp);
     const OpenNumber copy(kTemp);
-    const std::uint64_t length = session.files.length(kSource);
+    const std::uint64_t length = state::loading.files.length(kSource);
     std::uint64_t rest = length - std::min(left_out, length);
     while (rest > 0) {
-        const std::string_view chunk = session.files.read_bytes(kSource).substr(0, rest);
+        const std::string_view chunk = state::loading.files.read_bytes(kSource).substr(0, rest);
         if (chunk.empty())
             raise(error::device_io);
-        session.files.write(kTemp, runtime::replaced(chunk, from, to));
+        state::loading.files.write(kTemp, runtime::replaced(chunk, from, to));
         rest -= chunk.size();
     }
-    session.files.close(kTemp);
+    state::loading.files.close(kTemp);
 }
 
 /// The source's bytes as write_replaced gives them. The copy is whole and written out when this
 /// returns: the source may go only then.
 void copy_replaced(std::string_view path, const std::string& temp, char from, char to,
                    std::uint64_t left_out) {
-    session.files.open_bytes(kSource, path);
+    state::loading.files.open_bytes(kSource, path);
     const OpenNumber source(kSource);
     // The copy would be made of itself.
     if (same_file(path, temp))
@@ -173,10 +174,10 @@ std::string after_last_backslash(std::string_view text) {
 }
 
 std::string SetDecimalSep(std::string_view path) {
-    const Probe lines = probe(path, session.SepDecimal);
+    const Probe lines = probe(path, state::program.SepDecimal);
     if (lines.found || lines.ended)
         return std::string(path);
-    return session.SepDecimal == ',' ? rewrite(path, '.', ',') : rewrite(path, ',', '.');
+    return state::program.SepDecimal == ',' ? rewrite(path, '.', ',') : rewrite(path, ',', '.');
 }
 
 std::string TabToSpace(std::string_view path) {
@@ -199,7 +200,7 @@ void SetDotDecimals(std::string_view path) {
 void write_or_make_room(std::string_view path, const std::function<void()>& write) {
     trap(write, [&](const RuntimeError& failure) {
         if (failure.number == error::disk_full) {
-            session.files.abandon(kSource);
+            state::loading.files.abandon(kSource);
             runtime::remove_broken_off(path);
         }
         throw;

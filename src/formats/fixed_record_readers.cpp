@@ -1,7 +1,12 @@
+#include "document/flag.h"
+#include "document/forma.h"
+#include "document/state/document.h"
+#include "document/state/loading.h"
+#include "document/windows/velmora.h"
+#include "document/windows/wininfo.h"
 #include "formats/readers.h"
 
 #include "document/feedback.h"
-#include "document/session.h"
 #include "formats/reader_support.h"
 #include "formats/record_file.h"
 #include "formats/slwsinc.h"
@@ -13,8 +18,8 @@ namespace velmora {
 namespace {
 
 std::int16_t read_slws(std::string_view path, ReadCounts& counts) {
-    session.files.open_random(1, path, FixedRecord::length);
-    session.Velmora.TxtDescDat = runtime::from_1252(next_record(counts).field1());
+    state::loading.files.open_random(1, path, FixedRecord::length);
+    state::Velmora.TxtDescDat = runtime::from_1252(next_record(counts).field1());
     (void)next_record(counts);
     FixedRecord record = next_record(counts);
     Forma.Pto.redim(0);
@@ -23,28 +28,28 @@ std::int16_t read_slws(std::string_view path, ReadCounts& counts) {
             take_point(record, Forma.Pto, counts.points);
         record = next_record(counts);
         DoEvents();
-    } while (!session.files.eof(1));
-    session.files.close(1);
+    } while (!state::loading.files.eof(1));
+    state::loading.files.close(1);
     drop_closing_point(Forma.Pto, counts.points);
-    session.UltimoPto = session.TotalPtos = counts.points + 1;
-    show_count(session.wininfo.TxtTotalPtos, session.TotalPtos);
-    session.TotalSinc = 0;
-    show_count(session.wininfo.TxtTotalCtrlPtos, 0);
+    state::document.UltimoPto = state::document.TotalPtos = counts.points + 1;
+    show_count(state::wininfo.TxtTotalPtos, state::document.TotalPtos);
+    state::document.TotalSinc = 0;
+    show_count(state::wininfo.TxtTotalCtrlPtos, 0);
     DoEvents();
     return True;
 }
 
 std::int16_t read_slwsinc(std::string_view path, ReadCounts& counts) {
-    session.files.open_random(1, path, FixedRecord::length);
-    session.Velmora.TxtDescDat = runtime::from_1252(next_record(counts).field2());
+    state::loading.files.open_random(1, path, FixedRecord::length);
+    state::Velmora.TxtDescDat = runtime::from_1252(next_record(counts).field2());
     (void)next_record(counts);
-    read_slwsinc_outline(Forma.Pto, session.wininfo.TxtTotalPtos, counts);
+    read_slwsinc_outline(Forma.Pto, state::wininfo.TxtTotalPtos, counts);
     drop_closing_point(Forma.Pto, counts.points);
-    session.UltimoPto = session.TotalPtos = counts.points;
-    show_count(session.wininfo.TxtTotalPtos, counts.points);
-    match_slwsinc_sync_points(Forma.Pto, session.wininfo.TxtTotalCtrlPtos, counts);
-    session.TotalSinc = runtime::to_int32(runtime::Val(session.wininfo.TxtTotalCtrlPtos));
-    session.files.close(1);
+    state::document.UltimoPto = state::document.TotalPtos = counts.points;
+    show_count(state::wininfo.TxtTotalPtos, counts.points);
+    match_slwsinc_sync_points(Forma.Pto, state::wininfo.TxtTotalCtrlPtos, counts);
+    state::document.TotalSinc = runtime::to_int32(runtime::Val(state::wininfo.TxtTotalCtrlPtos));
+    state::loading.files.close(1);
     return True;
 }
 

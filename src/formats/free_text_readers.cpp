@@ -1,7 +1,10 @@
+#include "document/forma.h"
+#include "document/state/document.h"
+#include "document/state/loading.h"
+#include "document/windows/velmora.h"
 #include "formats/readers.h"
 
 #include "document/feedback.h"
-#include "document/session.h"
 #include "formats/coordinate_limit.h"
 #include "formats/point_lines.h"
 #include "formats/reader_support.h"
@@ -35,23 +38,23 @@ void mark_slwmd_sync_points(ReadCounts& counts) {
 /// TotalPtos, TotalSinc and their boxes keep what they were; the closing point goes, but stays in
 /// the count.
 Pass read_slwmd(std::string_view path, ReadCounts& counts, CoordinateLimit& limit) {
-    session.files.open_input(1, path);
-    session.Velmora.TxtDescDat = runtime::from_1252(read_line(counts));
+    state::loading.files.open_input(1, path);
+    state::Velmora.TxtDescDat = runtime::from_1252(read_line(counts));
     read_line(counts);
     if (!read_slwmd_outline(Forma.Pto, counts, limit))
         return Pass::over_limit;
-    session.UltimoPto = counts.points - 1;
+    state::document.UltimoPto = counts.points - 1;
     drop_closing_point(Forma.Pto, counts.points);
     mark_slwmd_sync_points(counts);
-    session.files.close(1);
+    state::loading.files.close(1);
     return Pass::complete;
 }
 
 Pass read_noslw(std::string_view path, ReadCounts& counts, CoordinateLimit& limit) {
     std::string room;
-    session.files.open_input(1, path);
+    state::loading.files.open_input(1, path);
     Forma.Pto.redim(0);
-    while (!session.files.eof(1)) {
+    while (!state::loading.files.eof(1)) {
         const auto text = point_of_line(read_line(counts), room);
         if (text && !take_point(*text, Forma.Pto, counts.points, limit))
             return Pass::over_limit;
@@ -59,7 +62,7 @@ Pass read_noslw(std::string_view path, ReadCounts& counts, CoordinateLimit& limi
     }
     drop_closing_point_if_any(counts);
     leave_totals(counts.points);
-    session.files.close(1);
+    state::loading.files.close(1);
     return Pass::complete;
 }
 
@@ -103,17 +106,17 @@ class ProfiliSurfaces {
 
 Pass read_profili(std::string_view path, ReadCounts& counts, CoordinateLimit& limit) {
     constexpr int header_lines = 3;
-    session.files.open_input(1, path);
+    state::loading.files.open_input(1, path);
     for (int line = 0; line < header_lines; ++line)
         read_line(counts);
     ProfiliSurfaces surfaces(counts, limit);
-    while (!session.files.eof(1)) {
+    while (!state::loading.files.eof(1)) {
         if (!surfaces.take_line(read_line(counts)))
             return Pass::over_limit;
         DoEvents();
     }
     surfaces.append_lower();
-    session.files.close(1);
+    state::loading.files.close(1);
     drop_closing_point_if_any(counts);
     leave_totals(counts.points);
     return Pass::complete;

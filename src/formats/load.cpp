@@ -2,9 +2,15 @@
 
 #include "cad/dxf.h"
 #include "document/feedback.h"
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/state/cad.h"
+#include "document/state/document.h"
+#include "document/state/program.h"
+#include "document/windows/velmora.h"
+#include "document/windows/wininfo.h"
 #include "formats/box_text.h"
 #include "formats/files.h"
 #include "formats/readers.h"
@@ -47,11 +53,11 @@ constexpr std::array<int, 6> kDialectTexts = {0,
                                               mensaje::format_profili};
 
 std::string ask_for_path() {
-    if (session.LastDir.empty())
-        session.LastDir = session.program_folder;
+    if (state::document.LastDir.empty())
+        state::document.LastDir = state::program.program_folder;
     return platform().dialogs.open_file({.title = GetMensaje(mensaje::open_title),
                                          .filter = GetMensaje(mensaje::open_filter),
-                                         .folder = session.LastDir,
+                                         .folder = state::document.LastDir,
                                          .name = {}});
 }
 
@@ -67,44 +73,44 @@ std::string read_by_kind(const std::string& path) {
         const FileFormat format = GetFileFormat(path);
         if (format == FileFormat::undecided)
             return {};
-        session.LoadOk = CargaDAT(path, format);
+        state::document.LoadOk = CargaDAT(path, format);
         return GetMensaje(kDialectTexts[static_cast<std::size_t>(format)]);
     }
     for (const PlainFormat& format : kPlainFormats) {
         if (format.extension != extension)
             continue;
-        session.LoadOk = format.reader(path);
+        state::document.LoadOk = format.reader(path);
         return GetMensaje(format.text);
     }
     return {};
 }
 
 void clear_object_counts() {
-    WinInfo& box = session.wininfo;
-    session.PtosSuprimidos = session.NLines = session.NSplines = 0;
-    session.NCircles = session.NArcs = session.NLWPolylines = 0;
+    WinInfo& box = state::wininfo;
+    state::document.PtosSuprimidos = state::cad.NLines = state::cad.NSplines = 0;
+    state::cad.NCircles = state::cad.NArcs = state::cad.NLWPolylines = 0;
     for (std::string* text : {&box.TxtPtosSupr, &box.TxtNlines, &box.TxtNSplines, &box.TxtNCircles,
                               &box.TxtNArcs, &box.TxtNLWPolylines})
         show_count(*text, 0);
 }
 
 void show_figures() {
-    session.OrigX = Forma.Pto[0].X;
-    session.OrigY = Forma.Pto[0].Y;
-    session.wininfo.TxtOrigX = CStr(session.OrigX);
-    session.wininfo.TxtOrigY = CStr(session.OrigY);
+    state::document.OrigX = Forma.Pto[0].X;
+    state::document.OrigY = Forma.Pto[0].Y;
+    state::wininfo.TxtOrigX = CStr(state::document.OrigX);
+    state::wininfo.TxtOrigY = CStr(state::document.OrigY);
     // Not the count, on purpose: Define_Layout puts that there right after.
-    session.TotalPtos = Forma.Pto.upper() - 1;
-    show_count(session.wininfo.TxtTotalPtos, session.TotalPtos);
+    state::document.TotalPtos = Forma.Pto.upper() - 1;
+    show_count(state::wininfo.TxtTotalPtos, state::document.TotalPtos);
     clear_object_counts();
 }
 
 void take_in(const std::string& path, const std::string& format_text) {
     set_status(GetMensaje(mensaje::loaded) + " " + runtime::UCase(SoloNombre(path)) +
                GetMensaje(mensaje::type) + " " + format_text);
-    session.FileName = path;
+    state::document.FileName = path;
     show_figures();
-    session.Velmora.TxtDat_File = session.FileName;
+    state::Velmora.TxtDat_File = state::document.FileName;
     Check00();
 }
 
@@ -190,16 +196,16 @@ std::int32_t leftmost() {
 void CargaFichero(std::int16_t mode, std::int16_t& result) {
     result = False;
     clear_canvas();
-    const std::string path = mode == 1 ? ask_for_path() : session.Velmora.TxtDat_File;
+    const std::string path = mode == 1 ? ask_for_path() : state::Velmora.TxtDat_File;
     if (path.empty())
         return;
     platform().windows.show("wininfo");
-    session.wininfo.chk_wininfo = true;
+    state::wininfo.chk_wininfo = true;
     DoEvents();
-    session.LastDir = QuitaNombre(path);
+    state::document.LastDir = QuitaNombre(path);
     show_reading(path);
     const std::string format_text = read_by_kind(path);
-    if (session.LoadOk == False) {
+    if (state::document.LoadOk == False) {
         refuse(path, format_text);
         return;
     }
@@ -220,9 +226,10 @@ std::int16_t CargaDAT(std::string_view path, FileFormat format) {
 void Check00() {
     if (has_origin())
         return;
-    const int reply = MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), session.FileName,
-                                               GetMensaje(mensaje::no_origin)}),
-                             buttons::yes_no + buttons::question, box_title());
+    const int reply =
+        MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), state::document.FileName,
+                                 GetMensaje(mensaje::no_origin)}),
+               buttons::yes_no + buttons::question, box_title());
     if (reply == answer::yes)
         move_to_origin(GetMinXPos());
 }

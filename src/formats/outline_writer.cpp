@@ -1,9 +1,15 @@
+#include "document/flag.h"
+#include "document/forma.h"
+#include "document/state/document.h"
+#include "document/state/loading.h"
+#include "document/state/options.h"
+#include "document/state/program.h"
+#include "document/windows/velmora.h"
 #include "formats/save.h"
 
 #include "document/feedback.h"
 #include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/session.h"
 #include "formats/files.h"
 #include "formats/record_file.h"
 #include "formats/sync_dat.h"
@@ -23,7 +29,7 @@ constexpr std::string_view kLineEnd = "\r\n";
 
 /// The bar of the main window, one step a point; what is written past the points leaves it full.
 void step_progress() {
-    ProgressBar& bar = session.Velmora.Pbar1;
+    ProgressBar& bar = state::Velmora.Pbar1;
     bar.Value = std::min(bar.Value + 1, bar.Max);
     DoEvents();
 }
@@ -49,33 +55,33 @@ bool ensure_sync_point() {
 
 /// Refused, the file stays as far as it was written, on purpose.
 std::int16_t write_sync_records() {
-    open_records_anew(session.FileName);
-    sync_dat_outline(session.Velmora.TxtDescDat, write_record, step_progress);
+    open_records_anew(state::document.FileName);
+    sync_dat_outline(state::Velmora.TxtDescDat, write_record, step_progress);
     if (!ensure_sync_point()) {
-        session.files.close(1);
+        state::loading.files.close(1);
         return False;
     }
     sync_dat_sync_points(write_record, step_progress);
-    session.files.close(1);
+    state::loading.files.close(1);
     return True;
 }
 
 std::int16_t write_sync_dat() {
     std::int16_t written = False;
-    write_or_make_room(session.FileName, [&] { written = write_sync_records(); });
+    write_or_make_room(state::document.FileName, [&] { written = write_sync_records(); });
     if (written == True)
-        SetDotDecimals(session.FileName);
+        SetDotDecimals(state::document.FileName);
     return written;
 }
 
 /// "0.00000" with a point on every machine.
 std::string fixed_text(double value) {
     const std::string text = Format5(value);
-    return session.SepDecimal == '.' ? text : runtime::replaced(text, ',', '.');
+    return state::program.SepDecimal == '.' ? text : runtime::replaced(text, ',', '.');
 }
 
 void write_line(std::string line) {
-    session.files.write(1, line.append(kLineEnd));
+    state::loading.files.write(1, line.append(kLineEnd));
 }
 
 void write_point_lines(char between) {
@@ -93,12 +99,12 @@ bool may_lose_sync_points() {
 std::int16_t write_script() {
     if (!may_lose_sync_points())
         return False;
-    write_or_make_room(session.FileName, [] {
-        session.files.open_output(1, session.FileName);
+    write_or_make_room(state::document.FileName, [] {
+        state::loading.files.open_output(1, state::document.FileName);
         write_line("pline");
         write_point_lines(',');
         write_line("");
-        session.files.close(1);
+        state::loading.files.close(1);
     });
     return True;
 }
@@ -106,11 +112,11 @@ std::int16_t write_script() {
 std::int16_t write_profile_dat() {
     if (!may_lose_sync_points())
         return False;
-    write_or_make_room(session.FileName, [] {
-        session.files.open_output(1, session.FileName);
-        write_line(runtime::to_1252(runtime::UCase(SoloNombre(session.FileName))));
+    write_or_make_room(state::document.FileName, [] {
+        state::loading.files.open_output(1, state::document.FileName);
+        write_line(runtime::to_1252(runtime::UCase(SoloNombre(state::document.FileName))));
         write_point_lines(' ');
-        session.files.close(1);
+        state::loading.files.close(1);
     });
     return True;
 }
@@ -123,19 +129,19 @@ bool HayPuntosSinc() {
 }
 
 std::int16_t EscribeFichero() {
-    session.FileName = session.Velmora.TxtDat_File;
-    if (runtime::file_exists(session.FileName))
-        BorraFichero(session.FileName);
-    session.Velmora.Pbar1.Max = Forma.Pto.upper() + 1;
-    session.Velmora.Pbar1.Value = 0;
-    if (session.GenDATSinc && write_sync_dat() == False)
+    state::document.FileName = state::Velmora.TxtDat_File;
+    if (runtime::file_exists(state::document.FileName))
+        BorraFichero(state::document.FileName);
+    state::Velmora.Pbar1.Max = Forma.Pto.upper() + 1;
+    state::Velmora.Pbar1.Value = 0;
+    if (state::options.GenDATSinc && write_sync_dat() == False)
         return False;
-    if (session.GenSCR && write_script() == False)
+    if (state::options.GenSCR && write_script() == False)
         return False;
-    if (session.GenDATPerfil && write_profile_dat() == False)
+    if (state::options.GenDATPerfil && write_profile_dat() == False)
         return False;
     Dibuja();
-    session.Velmora.Pbar1.Value = 0;
+    state::Velmora.Pbar1.Value = 0;
     return True;
 }
 

@@ -1,8 +1,11 @@
 #include "formats/point_lines.h"
 
+#include "document/forma.h"
 #include "document/number_text.h"
 #include "document/separator.h"
-#include "document/session.h"
+#include "document/state/document.h"
+#include "document/state/loading.h"
+#include "document/windows/wininfo.h"
 #include "runtime/text.h"
 
 namespace velmora {
@@ -24,8 +27,8 @@ bool take_point(const PointText& text, Array<Pto>& points, std::int32_t& count,
                 CoordinateLimit& limit) {
     points.redim_keep(count);
     Pto& point = points[count];
-    point.X = CDbl(text.X) / session.EscalaCarga;
-    point.Y = CDbl(text.Y) / session.EscalaCarga;
+    point.X = CDbl(text.X) / state::loading.EscalaCarga;
+    point.Y = CDbl(text.Y) / state::loading.EscalaCarga;
     if (!limit.admits(point))
         return false;
     ++count;
@@ -33,9 +36,9 @@ bool take_point(const PointText& text, Array<Pto>& points, std::int32_t& count,
 }
 
 void leave_totals(std::int32_t count) {
-    session.UltimoPto = session.TotalPtos = count - 1;
-    show_count(session.wininfo.TxtTotalPtos, session.TotalPtos);
-    show_count(session.wininfo.TxtTotalCtrlPtos, 0);
+    state::document.UltimoPto = state::document.TotalPtos = count - 1;
+    show_count(state::wininfo.TxtTotalPtos, state::document.TotalPtos);
+    show_count(state::wininfo.TxtTotalCtrlPtos, 0);
 }
 
 } // namespace velmora

@@ -1,7 +1,11 @@
 #include "formats/reader_support.h"
 
 #include "document/feedback.h"
-#include "document/session.h"
+#include "document/flag.h"
+#include "document/forma.h"
+#include "document/state/document.h"
+#include "document/state/loading.h"
+#include "document/windows/wininfo.h"
 #include "platform/dialogs.h"
 
 #include <string>
@@ -12,7 +16,7 @@ namespace {
 
 std::int16_t empty_document() {
     Forma.Pto.redim(0);
-    session.UltimoPto = 0;
+    state::document.UltimoPto = 0;
     return False;
 }
 
@@ -26,24 +30,24 @@ void cut_to_whole_points(std::int32_t points) {
 
 std::int16_t keep_points_so_far(std::int32_t points) {
     cut_to_whole_points(points);
-    session.TotalPtos = points;
-    show_count(session.wininfo.TxtTotalPtos, points);
-    session.TotalSinc = 0;
-    show_count(session.wininfo.TxtTotalCtrlPtos, 0);
-    session.UltimoPto = points;
+    state::document.TotalPtos = points;
+    show_count(state::wininfo.TxtTotalPtos, points);
+    state::document.TotalSinc = 0;
+    show_count(state::wininfo.TxtTotalCtrlPtos, 0);
+    state::document.UltimoPto = points;
     return True;
 }
 
 } // namespace
 
 std::string_view read_line(ReadCounts& counts) {
-    const std::string_view line = session.files.line_input(1);
+    const std::string_view line = state::loading.files.line_input(1);
     ++counts.lines;
     return line;
 }
 
 std::string_view read_record(ReadCounts& counts) {
-    const std::string_view record = session.files.read_record(1);
+    const std::string_view record = state::loading.files.read_record(1);
     ++counts.lines;
     return record;
 }
@@ -62,7 +66,7 @@ void show_reader_error(const ReaderName& name, const RuntimeError& failure, std:
 
 std::int16_t ask_cancel_load(const ReaderName& name, const RuntimeError& failure,
                              const ReadCounts& counts) {
-    session.files.abandon(1);
+    state::loading.files.abandon(1);
     show_reader_error(name, failure, counts.lines);
     const int reply = MsgBox("Cancel Load?", buttons::yes_no + buttons::critical);
     return reply == answer::yes ? empty_document() : keep_points_so_far(counts.points);
@@ -70,7 +74,7 @@ std::int16_t ask_cancel_load(const ReaderName& name, const RuntimeError& failure
 
 std::int16_t refuse_load(const ReaderName& name, const RuntimeError& failure,
                          const ReadCounts& counts) {
-    session.files.abandon(1);
+    state::loading.files.abandon(1);
     show_reader_error(name, failure, counts.lines);
     return empty_document();
 }

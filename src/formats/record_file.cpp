@@ -1,7 +1,8 @@
 #include "formats/record_file.h"
 
+#include "document/forma.h"
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/loading.h"
 #include "runtime/paths.h"
 
 namespace velmora {
@@ -20,14 +21,14 @@ void take_point(const FixedRecord& record, Array<Pto>& points, std::int32_t& cou
 
 void open_records_anew(std::string_view path) {
     if (runtime::file_exists(path)) {
-        session.files.open_output(1, path);
-        session.files.close(1);
+        state::loading.files.open_output(1, path);
+        state::loading.files.close(1);
     }
-    session.files.open_random(1, path, FixedRecord::length);
+    state::loading.files.open_random(1, path, FixedRecord::length);
 }
 
 void write_record(const FixedRecord& record) {
-    session.files.write(1, record.bytes());
+    state::loading.files.write(1, record.bytes());
 }
 
 } // namespace velmora

@@ -1,6 +1,9 @@
 #include "formats/recovery.h"
 
-#include "document/session.h"
+#include "document/forma.h"
+#include "document/state/document.h"
+#include "document/state/program.h"
+#include "document/windows/velmora.h"
 #include "formats/files.h"
 #include "formats/sync_dat.h"
 #include "runtime/file_beside.h"
@@ -20,7 +23,8 @@ namespace {
 /// Where the shape may be kept, the best place first.
 std::vector<std::string> places() {
     std::error_code none;
-    return {session.program_folder, QuitaNombre(session.Velmora.TxtDat_File), session.LastDir,
+    return {state::program.program_folder, QuitaNombre(state::Velmora.TxtDat_File),
+            state::document.LastDir,
             runtime::path_text(std::filesystem::temp_directory_path(none))};
 }
 
@@ -53,7 +57,7 @@ void write_outline(const std::string& path) {
     };
     const auto nothing = [] {
     };
-    sync_dat_outline(session.Velmora.TxtDescDat, write, nothing);
+    sync_dat_outline(state::Velmora.TxtDescDat, write, nothing);
     sync_dat_sync_points(write, nothing);
     files.close(1);
 }
@@ -108,7 +112,7 @@ std::string save_recovery() noexcept {
 }
 
 std::string kept_shape_text(const std::string& path) {
-    const char language = session.Idioma.empty() ? 'E' : session.Idioma[0];
+    const char language = state::program.Idioma.empty() ? 'E' : state::program.Idioma[0];
     const auto* const found = std::ranges::find(kKeptTexts, language, &KeptText::language);
     const KeptText& kept = found == kKeptTexts.end() ? kKeptTexts.front() : *found;
     return std::string(kept.text) + "\n" + path;

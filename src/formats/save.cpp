@@ -1,10 +1,14 @@
 #include "formats/save.h"
 
 #include "document/feedback.h"
+#include "document/flag.h"
 #include "document/options.h"
 #include "document/recent_files.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/state/document.h"
+#include "document/state/options.h"
+#include "document/state/program.h"
+#include "document/windows/velmora.h"
 #include "formats/box_text.h"
 #include "formats/files.h"
 #include "platform/dialogs.h"
@@ -27,18 +31,19 @@ constexpr int kDefaultPointer = 0;
 /// The name that the dialog offers: the last one without its extension, whatever its last four
 /// characters are. Raises 5 for a shorter name.
 std::string offered_name() {
-    if (session.FileName.find('.') == std::string::npos)
+    if (state::document.FileName.find('.') == std::string::npos)
         return {};
-    const auto length = static_cast<int>(runtime::Len(session.FileName));
-    return runtime::Left(session.FileName, length - 4);
+    const auto length = static_cast<int>(runtime::Len(state::document.FileName));
+    return runtime::Left(state::document.FileName, length - 4);
 }
 
 std::string ask_for_path() {
-    return platform().dialogs.save_file({.title = GetMensaje(mensaje::save_title),
-                                         .filter = session.DefExt + " | *" + session.DefExt,
-                                         .folder = session.program_folder,
-                                         .name = offered_name(),
-                                         .extension = session.DefExt});
+    return platform().dialogs.save_file(
+        {.title = GetMensaje(mensaje::save_title),
+         .filter = state::document.DefExt + " | *" + state::document.DefExt,
+         .folder = state::program.program_folder,
+         .name = offered_name(),
+         .extension = state::document.DefExt});
 }
 
 /// A file without an extension would be written, and never be read again.
@@ -47,12 +52,12 @@ std::string with_extension(const std::string& path) {
     if (name.empty())
         return path;
     if (name.back() == '.')
-        return path.substr(0, path.size() - 1) + session.DefExt;
-    return name.find('.') == std::string::npos ? path + session.DefExt : path;
+        return path.substr(0, path.size() - 1) + state::document.DefExt;
+    return name.find('.') == std::string::npos ? path + state::document.DefExt : path;
 }
 
 int ask_to_overwrite() {
-    return MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), session.FileName,
+    return MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), state::document.FileName,
                                     GetMensaje(mensaje::overwrite)}),
                   buttons::yes_no_cancel + buttons::question, box_title());
 }
@@ -64,7 +69,7 @@ bool choose_path() {
         const std::string path = with_extension(ask_for_path());
         if (path.empty())
             return false;
-        session.FileName = path;
+        state::document.FileName = path;
         if (!runtime::file_exists(path))
             return true;
         const int reply = ask_to_overwrite();
@@ -76,11 +81,11 @@ bool choose_path() {
 }
 
 void ask_for_description() {
-    std::string& description = session.Velmora.TxtDescDat;
+    std::string& description = state::Velmora.TxtDescDat;
     description = without_control_characters(
         InputBox(GetMensaje(mensaje::ask_description), box_title(), description));
     if (description.empty())
-        description = SoloNombre(session.FileName);
+        description = SoloNombre(state::document.FileName);
 }
 
 void run_save_dialog() {
@@ -88,10 +93,10 @@ void run_save_dialog() {
         return;
     if (!choose_path())
         return;
-    session.Velmora.TxtDat_File = session.FileName;
-    if (session.DefExt != ".scr")
+    state::Velmora.TxtDat_File = state::document.FileName;
+    if (state::document.DefExt != ".scr")
         ask_for_description();
-    session.Velmora.TxtDescDat = after_last_backslash(session.Velmora.TxtDescDat);
+    state::Velmora.TxtDescDat = after_last_backslash(state::Velmora.TxtDescDat);
 }
 
 /// A precision below 1 is only put right by this press; nothing is written.
@@ -99,16 +104,17 @@ void reset_precision() {
     MuestraMensaje(mensaje::precision_too_low);
     platform().windows.set_focus("winoptions", "TxtPrecision");
     set_TxtPrecision("1");
-    session.Precision = 1;
+    state::options.Precision = 1;
 }
 
 void report_created() {
-    if (!runtime::file_exists(session.FileName))
+    if (!runtime::file_exists(state::document.FileName))
         return;
-    const bool script = runtime::UCase(session.FileName).find(".SCR") != std::string::npos;
+    const bool script = runtime::UCase(state::document.FileName).find(".SCR") != std::string::npos;
     const int praise = script ? mensaje::created_script : mensaje::created_dat;
-    MsgBox(joined_by_blanks({GetMensaje(mensaje::file), session.FileName, GetMensaje(praise)}),
-           buttons::information, box_title());
+    MsgBox(
+        joined_by_blanks({GetMensaje(mensaje::file), state::document.FileName, GetMensaje(praise)}),
+        buttons::information, box_title());
 }
 
 } // namespace
@@ -119,25 +125,25 @@ void DialogoGuardar() {
 }
 
 void GeneraFichero() {
-    if (runtime::Trim(session.Velmora.TxtDat_File).empty())
+    if (runtime::Trim(state::Velmora.TxtDat_File).empty())
         return;
-    if (session.Precision < 1) {
+    if (state::options.Precision < 1) {
         reset_precision();
         return;
     }
     Apply_Precision();
-    if (session.OptimizeOnGen)
+    if (state::options.OptimizeOnGen)
         OptimizaPtos();
     set_pointer(kHourglass);
     const std::int16_t written = EscribeFichero();
     set_pointer(kDefaultPointer);
     if (written == False)
         return;
-    set_status(GetMensaje(mensaje::file) + " " + runtime::UCase(session.FileName) + " " +
+    set_status(GetMensaje(mensaje::file) + " " + runtime::UCase(state::document.FileName) + " " +
                GetMensaje(mensaje::created));
-    if (session.Sound == 1)
+    if (state::program.Sound == 1)
         platform().shell.play(program_file("\\mdbwav1.wav"));
-    UpdateFileMenu(session.Velmora.TxtDat_File);
+    UpdateFileMenu(state::Velmora.TxtDat_File);
     report_created();
 }
 

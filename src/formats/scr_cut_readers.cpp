@@ -1,8 +1,10 @@
+#include "document/forma.h"
+#include "document/state/document.h"
+#include "document/state/loading.h"
 #include "formats/readers.h"
 
 #include "document/feedback.h"
 #include "document/separator.h"
-#include "document/session.h"
 #include "formats/coordinate_limit.h"
 #include "formats/point_lines.h"
 #include "formats/reader_support.h"
@@ -50,12 +52,12 @@ std::optional<PointText> point_of_script_line(std::string_view line) {
 
 /// A script that is refused leaves its file open, on purpose: the next use of file 1 meets that.
 Pass read_scr(std::string_view path, ReadCounts& counts, CoordinateLimit& limit) {
-    session.files.open_input(1, path);
+    state::loading.files.open_input(1, path);
     Forma.Pto.redim(0);
     if (runtime::Trim(read_line(counts)) != "pline")
         return Pass::refused;
     DottedPoints points(counts, limit);
-    while (!session.files.eof(1)) {
+    while (!state::loading.files.eof(1)) {
         const auto text = point_of_script_line(read_line(counts));
         if (text && !points.take(*text))
             return Pass::over_limit;
@@ -63,7 +65,7 @@ Pass read_scr(std::string_view path, ReadCounts& counts, CoordinateLimit& limit)
     }
     drop_closing_point(Forma.Pto, counts.points);
     leave_totals(counts.points);
-    session.files.close(1);
+    state::loading.files.close(1);
     return Pass::complete;
 }
 
@@ -83,18 +85,18 @@ std::string_view labelled(std::string_view line, std::string_view label,
 /// The left side of the machine; the values of the right side are ignored. The totals and their
 /// boxes keep what they were.
 Pass read_cut(std::string_view path, ReadCounts& counts, CoordinateLimit& limit) {
-    session.files.open_input(1, path);
+    state::loading.files.open_input(1, path);
     Forma.Pto.redim(0);
     DottedPoints points(counts, limit);
-    while (!session.files.eof(1)) {
+    while (!state::loading.files.eof(1)) {
         const std::string_view line = read_line(counts);
         if (!points.take({labelled(line, "XG:", "YG:"), labelled(line, "YG:", "XD:")}))
             return Pass::over_limit;
         DoEvents();
     }
     drop_closing_point(Forma.Pto, counts.points);
-    session.UltimoPto = counts.points - 1;
-    session.files.close(1);
+    state::document.UltimoPto = counts.points - 1;
+    state::loading.files.close(1);
     return Pass::complete;
 }
 

@@ -1,8 +1,9 @@
 #include "formats/slwmd.h"
 
 #include "document/feedback.h"
+#include "document/forma.h"
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/loading.h"
 #include "formats/fixed_record.h"
 #include "formats/point_lines.h"
 
@@ -25,7 +26,7 @@ bool read_slwmd_outline(Array<Pto>& points, ReadCounts& counts, CoordinateLimit&
 void read_slwmd_sync_points(ReadCounts& counts, const std::function<void(double, double)>& place) {
     std::string room;
     read_line(counts);
-    while (!session.files.eof(1)) {
+    while (!state::loading.files.eof(1)) {
         if (const auto text = point_of_line(read_line(counts), room)) {
             const double X = CDbl(text->X);
             place(X, CDbl(text->Y));

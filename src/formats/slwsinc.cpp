@@ -1,8 +1,9 @@
 #include "formats/slwsinc.h"
 
 #include "document/feedback.h"
+#include "document/forma.h"
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/loading.h"
 #include "formats/record_file.h"
 #include "formats/sync_matcher.h"
 
@@ -38,7 +39,7 @@ void match_slwsinc_sync_points(Array<Pto>& points, std::string& total_box, ReadC
         if (marked > 0)
             show_count(total_box, total);
         DoEvents();
-    } while (!session.files.eof(1));
+    } while (!state::loading.files.eof(1));
 }
 
 } // namespace velmora

@@ -1,7 +1,9 @@
+#include "document/forma.h"
+#include "document/state/document.h"
+#include "document/windows/wininfo.h"
 #include "formats/save.h"
 
 #include "document/feedback.h"
-#include "document/session.h"
 #include "formats/box_text.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
@@ -11,8 +13,8 @@ namespace velmora {
 namespace {
 
 void count_removed(std::int32_t& removed) {
-    session.PtosSuprimidos = ++removed;
-    show_count(session.wininfo.TxtPtosSupr, removed);
+    state::document.PtosSuprimidos = ++removed;
+    show_count(state::wininfo.TxtPtosSupr, removed);
     DoEvents();
 }
 
@@ -54,8 +56,8 @@ void OptimizaPtos() {
     scratch = without_runs(scratch, &Pto::Y, removed);
     Forma.Pto.swap(scratch);
     count_repeats(Forma.Pto, removed);
-    session.PtosSuprimidos = removed;
-    show_count(session.wininfo.TxtPtosSupr, removed);
+    state::document.PtosSuprimidos = removed;
+    show_count(state::wininfo.TxtPtosSupr, removed);
     operation.finish(GetMensaje(mensaje::optimised));
 }
 
