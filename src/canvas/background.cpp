@@ -2,7 +2,8 @@
 
 #include "canvas/surface.h"
 #include "document/feedback.h"
-#include "document/session.h"
+#include "document/state/document.h"
+#include "document/state/program.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "runtime/error.h"
@@ -15,7 +16,8 @@ void CargaImagen() {
     FileRequest request;
     request.title = GetMensaje(mensaje::open_title);
     request.filter = GetMensaje(mensaje::picture_filter);
-    request.folder = session.LastDir.empty() ? session.program_folder : session.LastDir;
+    request.folder =
+        state::document.LastDir.empty() ? state::program.program_folder : state::document.LastDir;
     const std::string file = platform().dialogs.open_file(request);
     if (file.empty())
         return;

@@ -2,8 +2,14 @@
 #include "canvas/paralela.h"
 #include "canvas/view.h"
 #include "document/feedback.h"
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/selection.h"
+#include "document/state/document.h"
+#include "document/state/settings.h"
+#include "document/state/view.h"
+#include "document/windows/velmora.h"
 #include "platform/platform.h"
 #include "runtime/numbers.h"
 #include "services/message_codes.h"
@@ -37,12 +43,12 @@ void draw_axes(Surface& pic) {
     const double height = pic.Height();
     const double right = width / kTwipsPerPixel;
     const double bottom = height / kTwipsPerPixel;
-    const double x = session.MinXForma >= 0 ? kMargin : middle_of(width);
+    const double x = state::view.MinXForma >= 0 ? kMargin : middle_of(width);
     pic.Line(to_single(x), 0, to_single(x), to_single(bottom));
-    session.CanvasX0 = x;
-    const double y = session.MinYForma >= 0 ? bottom - kMargin : middle_of(height);
+    state::view.CanvasX0 = x;
+    const double y = state::view.MinYForma >= 0 ? bottom - kMargin : middle_of(height);
     pic.Line(0, to_single(y), to_single(right), to_single(y));
-    session.CanvasY0 = y;
+    state::view.CanvasY0 = y;
 }
 
 void move_to(Surface& pic, const Pto& point) {
@@ -56,12 +62,12 @@ void line_to(Surface& pic, const Pto& point) {
 }
 
 void draw_first_segments(Surface& pic) {
-    pic.set_pen(session.cl_linea1);
+    pic.set_pen(state::settings.cl_linea1);
     move_to(pic, Forma.Pto[0]);
     line_to(pic, Forma.Pto[1]);
-    pic.set_pen(session.cl_linea2);
+    pic.set_pen(state::settings.cl_linea2);
     line_to(pic, Forma.Pto[2]);
-    pic.set_pen(session.cl_lineas);
+    pic.set_pen(state::settings.cl_lineas);
 }
 
 /// The operation's count has 16 bits: more points are an overflow.
@@ -80,8 +86,8 @@ void draw_from_point_2(Surface& pic) {
 
 /// Closes the figure on the screen, whether or not the data is closed.
 void draw_closing_segment(Surface& pic) {
-    pic.set_pen(session.cl_lineas);
-    if (session.PtosToInsertMode)
+    pic.set_pen(state::settings.cl_lineas);
+    if (state::view.PtosToInsertMode)
         return;
     move_to(pic, Forma.Pto[Forma.Pto.upper()]);
     line_to(pic, Forma.Pto[0]);
@@ -96,38 +102,39 @@ void draw_circle(Surface& pic, PixelPoint centre, std::int32_t radius) {
 }
 
 void draw_sync_glyph(Surface& pic, PixelPoint centre) {
-    pic.set_pen(session.cl_puntosinc);
+    pic.set_pen(state::settings.cl_puntosinc);
     draw_circle(pic, centre, kSyncRadius);
-    pic.set_pen(session.cl_punto);
+    pic.set_pen(state::settings.cl_punto);
 }
 
 void draw_glyphs(Surface& pic) {
-    if (!session.ShowPtos && !session.ShowPtosCtrl)
+    if (!state::view.ShowPtos && !state::view.ShowPtosCtrl)
         return;
-    pic.set_pen(session.cl_punto);
+    pic.set_pen(state::settings.cl_punto);
     for (const Pto& point : Forma.Pto.all()) {
         const PixelPoint centre = pixel_of(point);
-        if (session.ShowPtos)
+        if (state::view.ShowPtos)
             draw_circle(pic, centre, kPointRadius);
-        if (session.ShowPtosCtrl && point.Sinc == 1)
+        if (state::view.ShowPtosCtrl && point.Sinc == 1)
             draw_sync_glyph(pic, centre);
     }
 }
 
 void draw_selection(Surface& pic) {
-    pic.set_pen(session.cl_lineas);
-    if (!hay_seleccion() || session.PtosToInsertMode)
+    pic.set_pen(state::settings.cl_lineas);
+    if (!hay_seleccion() || state::view.PtosToInsertMode)
         return;
-    const double x = canvas_x(Forma.Pto[session.PtoSel].X);
-    const double y = canvas_y(Forma.Pto[session.PtoSel].Y);
+    const double x = canvas_x(Forma.Pto[state::document.PtoSel].X);
+    const double y = canvas_y(Forma.Pto[state::document.PtoSel].Y);
     pic.FillBox(to_single(x - kSelectionHalf), to_single(y - kSelectionHalf),
-                to_single(x + kSelectionHalf), to_single(y + kSelectionHalf), session.cl_puntosel);
+                to_single(x + kSelectionHalf), to_single(y + kSelectionHalf),
+                state::settings.cl_puntosel);
 }
 
 /// Without a compensated outline the bound itself raises 9: the normal end of a repaint.
 void draw_paralela(Surface& pic) {
     PtoPoly.resize(static_cast<std::size_t>(Forma.Paralela.upper()) + 1);
-    pic.set_pen(session.cl_ejes);
+    pic.set_pen(state::settings.cl_ejes);
     const std::span<const Pto> points = Forma.Paralela.all();
     for (std::size_t i = 0; i < points.size(); ++i)
         PtoPoly[i] = paralela_pixel(points[i]);
@@ -138,7 +145,7 @@ void draw_shape(Surface& pic) {
     draw_first_segments(pic);
     draw_from_point_2(pic);
     draw_closing_segment(pic);
-    if (session.DragPto)
+    if (state::view.DragPto)
         return;
     draw_glyphs(pic);
     draw_selection(pic);
@@ -160,14 +167,14 @@ void report(const RuntimeError& failure) {
 } // namespace
 
 void Dibuja() {
-    if (!hay_forma() && !session.PtosToInsertMode) {
+    if (!hay_forma() && !state::view.PtosToInsertMode) {
         MuestraMensaje(mensaje::no_shape);
         return;
     }
     Surface& pic = platform().pic;
-    session.NoRedraw = False;
+    state::view.NoRedraw = False;
     pic.Cls();
-    pic.set_pen(session.cl_ejes);
+    pic.set_pen(state::settings.cl_ejes);
     draw_axes(pic);
     std::optional<RuntimeError> failure;
     trap([&] { draw_shape(pic); }, [&](const RuntimeError& raised) { failure = raised; });
@@ -178,12 +185,12 @@ void Dibuja() {
 }
 
 void Dibuja_unless_NoRedraw() {
-    if (!session.NoRedraw)
+    if (!state::view.NoRedraw)
         Dibuja();
 }
 
 void clear_canvas() {
-    session.Velmora.lbl_xyfloat_visible = false;
+    state::Velmora.lbl_xyfloat_visible = false;
     platform().pic.Cls();
     platform().pic.present();
 }

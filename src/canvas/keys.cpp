@@ -1,9 +1,14 @@
 #include "canvas/keys.h"
 
 #include "document/feedback.h"
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/selection.h"
 #include "document/shown_counts.h"
+#include "document/state/document.h"
+#include "document/state/view.h"
+#include "document/windows/velmora.h"
 #include "runtime/numbers.h"
 #include "shapeops/point_editing.h"
 
@@ -15,14 +20,14 @@ constexpr int kCtrl = 2;
 constexpr double kNudges = 100; ///< arrow presses that cross the shape
 
 void flip_sync() {
-    std::int16_t& sync = Forma.Pto[session.PtoSel].Sinc;
+    std::int16_t& sync = Forma.Pto[state::document.PtoSel].Sinc;
     const bool was_sync = sync != 0;
     sync = was_sync ? 0 : 1;
     step_TotalSinc(was_sync ? -1 : 1);
 }
 
 void nudge(double Pto::*axis, double extent) {
-    double& value = Forma.Pto[session.PtoSel].*axis;
+    double& value = Forma.Pto[state::document.PtoSel].*axis;
     value = runtime::checked(value + extent / kNudges);
 }
 
@@ -35,22 +40,23 @@ std::int32_t first_marked() {
 
 /// Turns the array back, so that the points put in stand before the one selected then.
 void end_insertion() {
-    session.PtosToInsertMode = False;
-    if (session.PtoSelAnt < 0) {
-        session.PtoSel = 0;
+    state::view.PtosToInsertMode = False;
+    if (state::document.PtoSelAnt < 0) {
+        state::document.PtoSel = 0;
         return;
     }
-    session.PtoSel = first_marked();
+    state::document.PtoSel = first_marked();
     Set_CutStart();
-    session.PtoSel = session.PtoSelAnt == 0 ? Forma.Pto.upper() : session.PtoSelAnt - 1;
-    session.PtoSelAnt = -1;
+    state::document.PtoSel =
+        state::document.PtoSelAnt == 0 ? Forma.Pto.upper() : state::document.PtoSelAnt - 1;
+    state::document.PtoSelAnt = -1;
 }
 
 void leave_modes() {
-    session.MoveShapeMode = False;
-    session.Velmora.pic_MousePointer = 0;
+    state::view.MoveShapeMode = False;
+    state::Velmora.pic_MousePointer = 0;
     set_status("");
-    if (session.PtosToInsertMode)
+    if (state::view.PtosToInsertMode)
         end_insertion();
 }
 
@@ -62,13 +68,13 @@ void change_selected(int KeyCode) {
     case key::S:
         return flip_sync();
     case key::Up:
-        return nudge(&Pto::Y, session.Altura);
+        return nudge(&Pto::Y, state::document.Altura);
     case key::Down:
-        return nudge(&Pto::Y, -session.Altura);
+        return nudge(&Pto::Y, -state::document.Altura);
     case key::Right:
-        return nudge(&Pto::X, session.Longitud);
+        return nudge(&Pto::X, state::document.Longitud);
     case key::Left:
-        return nudge(&Pto::X, -session.Longitud);
+        return nudge(&Pto::X, -state::document.Longitud);
     default:
         return;
     }
@@ -79,10 +85,12 @@ void carry_out(int KeyCode) {
     case key::Delete:
         return Delete_Pto();
     case key::M:
-        session.PtoSel = session.PtoSel < 1 ? Forma.Pto.upper() : session.PtoSel - 1;
+        state::document.PtoSel =
+            state::document.PtoSel < 1 ? Forma.Pto.upper() : state::document.PtoSel - 1;
         return;
     case key::N:
-        session.PtoSel = session.PtoSel >= Forma.Pto.upper() ? 0 : session.PtoSel + 1;
+        state::document.PtoSel =
+            state::document.PtoSel >= Forma.Pto.upper() ? 0 : state::document.PtoSel + 1;
         return;
     case key::Esc:
         return leave_modes();
@@ -97,13 +105,13 @@ bool is_modifier(int KeyCode) {
 }
 
 void note_ctrl(int Shift) {
-    session.CtrlDown = flag((Shift & kCtrl) != 0);
+    state::view.CtrlDown = flag((Shift & kCtrl) != 0);
 }
 
 } // namespace
 
 void pic_KeyDown(int KeyCode, int Shift) {
-    if (session.PtoSel > -1 && !is_modifier(KeyCode)) {
+    if (state::document.PtoSel > -1 && !is_modifier(KeyCode)) {
         carry_out(KeyCode);
         Dibuja_unless_NoRedraw();
     }
@@ -115,7 +123,7 @@ void pic_KeyUp(int, int Shift) {
 }
 
 void pic_LostFocus() {
-    session.CtrlDown = False;
+    state::view.CtrlDown = False;
 }
 
 } // namespace velmora

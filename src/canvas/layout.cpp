@@ -1,10 +1,14 @@
 // Define_Layout: view and figures of a shape.
 #include "document/extents.h"
 #include "document/feedback.h"
+#include "document/forma.h"
 #include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/session.h"
 #include "document/shown_counts.h"
+#include "document/state/document.h"
+#include "document/state/view.h"
+#include "document/windows/velmora.h"
+#include "document/windows/wininfo.h"
 #include "runtime/numbers.h"
 
 namespace velmora {
@@ -31,30 +35,30 @@ void show(double value, double& figure, std::string& box) {
 }
 
 void show_figures(const Extents& extents) {
-    WinInfo& info = session.wininfo;
-    show(extents.max_x - extents.min_x, session.Longitud, info.Txt_longitud);
-    show(extents.max_y - extents.min_y, session.Altura, info.Txt_Altura);
-    show(Forma.Pto[0].X, session.OrigX, info.TxtOrigX);
-    show(Forma.Pto[0].Y, session.OrigY, info.TxtOrigY);
+    WinInfo& info = state::wininfo;
+    show(extents.max_x - extents.min_x, state::document.Longitud, info.Txt_longitud);
+    show(extents.max_y - extents.min_y, state::document.Altura, info.Txt_Altura);
+    show(Forma.Pto[0].X, state::document.OrigX, info.TxtOrigX);
+    show(Forma.Pto[0].Y, state::document.OrigY, info.TxtOrigY);
     show_TotalPtos(Forma.Pto.upper() + 1);
 }
 
 /// The lower left corner for a shape without negatives, near the middle for another.
 void place_scroll_bars(const Extents& extents) {
-    session.Velmora.SSScroll_x = extents.min_x < 0 ? 1.0 / 5 : 0;
-    session.Velmora.SSScroll_y = extents.min_y < 0 ? 1.0 / 3 : 1;
-    ++session.Velmora.SSScroll_moves;
+    state::Velmora.SSScroll_x = extents.min_x < 0 ? 1.0 / 5 : 0;
+    state::Velmora.SSScroll_y = extents.min_y < 0 ? 1.0 / 3 : 1;
+    ++state::Velmora.SSScroll_moves;
 }
 
 } // namespace
 
 void Define_Layout() {
     const Extents extents = extents_of_shape();
-    session.MinXForma = extents.min_x;
-    session.MinYForma = extents.min_y;
+    state::view.MinXForma = extents.min_x;
+    state::view.MinYForma = extents.min_y;
     show_figures(extents);
-    if (session.ZoomFactor <= 0)
-        session.ZoomFactor = 1;
+    if (state::view.ZoomFactor <= 0)
+        state::view.ZoomFactor = 1;
     DoEvents();
     place_scroll_bars(extents);
 }

@@ -1,7 +1,8 @@
 #include "canvas/paralela.h"
 
 #include "canvas/view.h"
-#include "document/session.h"
+#include "document/forma.h"
+#include "document/state/view.h"
 #include "runtime/numbers.h"
 
 #include <cmath>
@@ -41,8 +42,8 @@ std::int32_t pixel_of_decimals(double product, double origin) {
 } // namespace
 
 PixelPoint paralela_pixel(const Pto& point) {
-    return {pixel_of_decimals(session.ZoomFactor * point.X, session.CanvasX0),
-            pixel_of_decimals(-(session.ZoomFactor * point.Y), session.CanvasY0)};
+    return {pixel_of_decimals(state::view.ZoomFactor * point.X, state::view.CanvasX0),
+            pixel_of_decimals(-(state::view.ZoomFactor * point.Y), state::view.CanvasY0)};
 }
 
 } // namespace velmora

@@ -2,10 +2,15 @@
 
 #include "canvas/view.h"
 #include "document/feedback.h"
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/selection.h"
 #include "document/shown_counts.h"
+#include "document/state/document.h"
+#include "document/state/view.h"
+#include "document/windows/velmora.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
@@ -31,7 +36,7 @@ std::string label_of(std::int32_t index) {
 }
 
 void show_label(std::int32_t index, float X, float Y) {
-    VelmoraWindow& window = session.Velmora;
+    VelmoraWindow& window = state::Velmora;
     window.lbl_xyfloat = label_of(index);
     window.lbl_xyfloat_Top = Y + kLabelDistance;
     window.lbl_xyfloat_Left = X + kLabelDistance;
@@ -39,15 +44,15 @@ void show_label(std::int32_t index, float X, float Y) {
 }
 
 void hover(float X, float Y) {
-    session.HoverPto = HitPto(X, Y);
-    if (session.HoverPto < 0) {
+    state::view.HoverPto = HitPto(X, Y);
+    if (state::view.HoverPto < 0) {
         set_pointer(0);
-        session.Velmora.lbl_xyfloat_visible = false;
+        state::Velmora.lbl_xyfloat_visible = false;
         return;
     }
     set_pointer(kCross);
-    if (session.ShowCoords)
-        show_label(session.HoverPto, X, Y);
+    if (state::view.ShowCoords)
+        show_label(state::view.HoverPto, X, Y);
 }
 
 void refresh_changed_shape() {
@@ -63,9 +68,9 @@ double distance(double target, double selected) {
 }
 
 void move_shape() {
-    const Pto selected = Forma.Pto[session.PtoSel];
-    const double dx = distance(session.DestX, selected.X);
-    const double dy = distance(session.DestY, selected.Y);
+    const Pto selected = Forma.Pto[state::document.PtoSel];
+    const double dx = distance(state::view.DestX, selected.X);
+    const double dy = distance(state::view.DestY, selected.Y);
     for (Pto& point : Forma.Pto.all()) {
         point.X = runtime::checked(point.X + dx);
         point.Y = runtime::checked(point.Y + dy);
@@ -73,25 +78,25 @@ void move_shape() {
 }
 
 void drop_shape(float X, float Y) {
-    session.DestX = world_x(X);
-    session.DestY = world_y(Y);
+    state::view.DestX = world_x(X);
+    state::view.DestY = world_y(Y);
     if (hay_seleccion())
         move_shape();
-    session.MoveShapeMode = False;
-    session.Velmora.pic_MousePointer = 0;
-    if (!session.NoRedraw)
+    state::view.MoveShapeMode = False;
+    state::Velmora.pic_MousePointer = 0;
+    if (!state::view.NoRedraw)
         refresh_changed_shape();
 }
 
 void select_last_point() {
-    session.PtoSel = Forma.Pto.upper();
+    state::document.PtoSel = Forma.Pto.upper();
     show_TotalPtos(Forma.Pto.upper() + 1);
 }
 
 void append_point(float X, float Y) {
     Forma.Pto.append({world_x(X), world_y(Y)});
     select_last_point();
-    if (!session.CtrlDown)
+    if (!state::view.CtrlDown)
         return;
     step_TotalSinc(1);
     Forma.Pto[Forma.Pto.upper()].Sinc = 1;
@@ -101,7 +106,7 @@ void append_point(float X, float Y) {
 void remove_last_point() {
     const std::int32_t U = Forma.Pto.upper();
     if (Forma.Pto[U].Sinc == 1)
-        --session.TotalSinc;
+        --state::document.TotalSinc;
     Forma.Pto.redim_keep(U - 1);
     select_last_point();
 }
@@ -119,37 +124,37 @@ void edit_by_hand(int Button, float X, float Y) {
 }
 
 void end_drag() {
-    if (!session.DragPto)
+    if (!state::view.DragPto)
         return;
-    session.DragPto = False;
+    state::view.DragPto = False;
     Dibuja();
 }
 
 void open_menu_of_selected() {
-    session.Velmora.menus["Pts_To_Next_Sinc"].enabled = Forma.Pto[session.PtoSel].Sinc == 1;
+    state::Velmora.menus["Pts_To_Next_Sinc"].enabled = Forma.Pto[state::document.PtoSel].Sinc == 1;
     platform().windows.popup_menu("OPT_PTO");
 }
 
 void open_point_menu(float X, float Y) {
-    session.HoverPto = HitPto(X, Y);
-    if (session.HoverPto < 0)
+    state::view.HoverPto = HitPto(X, Y);
+    if (state::view.HoverPto < 0)
         return;
-    session.PtoSel = session.HoverPto;
+    state::document.PtoSel = state::view.HoverPto;
     open_menu_of_selected();
 }
 
 /// The canvas waits for a place or a point, or shows no shape.
 bool no_point_can_be_picked() {
-    return session.MoveShapeMode || session.PtosToInsertMode || session.NoRedraw;
+    return state::view.MoveShapeMode || state::view.PtosToInsertMode || state::view.NoRedraw;
 }
 
 } // namespace
 
 std::int32_t HitPto(float X, float Y) {
     constexpr double most = std::numeric_limits<double>::max();
-    const double zoom = session.ZoomFactor;
-    const double x0 = session.CanvasX0;
-    const double y0 = session.CanvasY0;
+    const double zoom = state::view.ZoomFactor;
+    const double x0 = state::view.CanvasX0;
+    const double y0 = state::view.CanvasY0;
     std::int32_t index = 0;
     for (const Pto& point : Forma.Pto.all()) {
         const double dx = std::abs(X - (zoom * point.X + x0));
@@ -166,31 +171,31 @@ std::int32_t HitPto(float X, float Y) {
 void pic_MouseDown(int Button, int, float X, float Y) {
     if (no_point_can_be_picked())
         return;
-    session.HoverPto = HitPto(X, Y);
-    if (session.HoverPto < 0)
+    state::view.HoverPto = HitPto(X, Y);
+    if (state::view.HoverPto < 0)
         return;
-    session.PtoSel = session.HoverPto;
+    state::document.PtoSel = state::view.HoverPto;
     if (Button == kLeftButton)
-        session.DragPto = True;
+        state::view.DragPto = True;
 }
 
 void pic_MouseMove(int, int, float X, float Y) {
-    if (session.MoveShapeMode)
+    if (state::view.MoveShapeMode)
         return;
-    if (session.PtosToInsertMode)
+    if (state::view.PtosToInsertMode)
         DibujaCreate(world_x(X), world_y(Y));
-    else if (!session.NoRedraw)
+    else if (!state::view.NoRedraw)
         hover(X, Y);
-    if (session.DragPto)
+    if (state::view.DragPto)
         DibujaDrag(world_x(X), world_y(Y));
 }
 
 void pic_MouseUp(int Button, int, float X, float Y) {
-    if (session.MoveShapeMode)
+    if (state::view.MoveShapeMode)
         drop_shape(X, Y);
-    else if (session.PtosToInsertMode)
+    else if (state::view.PtosToInsertMode)
         edit_by_hand(Button, X, Y);
-    else if (session.NoRedraw)
+    else if (state::view.NoRedraw)
         return;
     else if (Button == kRightButton)
         open_point_menu(X, Y);

@@ -5,7 +5,9 @@
 #include "canvas/view.h"
 #include "document/extents.h"
 #include "document/feedback.h"
-#include "document/session.h"
+#include "document/flag.h"
+#include "document/forma.h"
+#include "document/state/view.h"
 #include "platform/platform.h"
 #include "runtime/error.h"
 #include "services/shape_at_hand.h"
@@ -47,7 +49,7 @@ void draw_vertical_axis(const Extents& extents) {
     const double x = extents.min_x < 0 ? printer().Width() / 2 : kMargin;
     printer().Line(to_single(x), 0, to_single(x), to_single(printer().Height()));
     printer().set_CurrentX(to_single(x));
-    session.CanvasX0 = printer().CurrentX();
+    state::view.CanvasX0 = printer().CurrentX();
 }
 
 void draw_horizontal_axis(const Extents& extents) {
@@ -55,7 +57,7 @@ void draw_horizontal_axis(const Extents& extents) {
     const double y = extents.min_y < 0 ? height / 2 : height - kMargin;
     printer().Line(0, to_single(y), to_single(printer().Width()), to_single(y));
     printer().set_CurrentY(to_single(y));
-    session.CanvasY0 = printer().CurrentY();
+    state::view.CanvasY0 = printer().CurrentY();
 }
 
 PaperPoint place_of(const Pto& point) {
@@ -87,7 +89,7 @@ void draw_points() {
 void print_shape() {
     draw_outline();
     DoEvents();
-    if (session.ShowPtosCtrl) {
+    if (state::view.ShowPtosCtrl) {
         draw_points();
         DoEvents();
     }
@@ -101,7 +103,7 @@ void PrintPic() {
     if (!shape_at_hand())
         return;
     const Extents extents = extents_of_shape();
-    session.NoRedraw = False;
+    state::view.NoRedraw = False;
     printer().set_Orientation(extents.max_x <= extents.max_y ? Orientation::portrait
                                                              : Orientation::landscape);
     draw_vertical_axis(extents);

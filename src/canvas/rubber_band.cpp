@@ -1,7 +1,11 @@
 // The painters that follow the pointer: they repaint what moves and nothing else.
 #include "canvas/view.h"
 #include "document/feedback.h"
-#include "document/session.h"
+#include "document/forma.h"
+#include "document/state/document.h"
+#include "document/state/options.h"
+#include "document/state/settings.h"
+#include "document/state/view.h"
 #include "platform/platform.h"
 #include "runtime/numbers.h"
 
@@ -10,7 +14,7 @@ namespace velmora {
 namespace {
 
 double rounded(double value) {
-    return runtime::Round(value, runtime::to_int16(session.Precision));
+    return runtime::Round(value, runtime::to_int16(state::options.Precision));
 }
 
 void line(Surface& pic, const Pto& from, const Pto& to) {
@@ -26,24 +30,24 @@ struct Pens {
 Pens pens_of(std::int32_t index) {
     switch (index) {
     case 0:
-        return {session.cl_lineas, session.cl_linea1};
+        return {state::settings.cl_lineas, state::settings.cl_linea1};
     case 1:
-        return {session.cl_linea1, session.cl_linea2};
+        return {state::settings.cl_linea1, state::settings.cl_linea2};
     case 2:
-        return {session.cl_linea2, session.cl_lineas};
+        return {state::settings.cl_linea2, state::settings.cl_lineas};
     default:
-        return {session.cl_lineas, session.cl_lineas};
+        return {state::settings.cl_lineas, state::settings.cl_lineas};
     }
 }
 
 /// The mode stays at 5 for the new segments too, on purpose.
 void drag(Surface& pic, double x, double y) {
-    const std::int32_t s = session.PtoSel;
+    const std::int32_t s = state::document.PtoSel;
     const std::int32_t U = Forma.Pto.upper();
     const std::int32_t previous = s == 0 ? U : s - 1;
     const std::int32_t next = s == U ? 0 : s + 1;
     pic.set_draw_mode(DrawMode::mask_pen_not);
-    pic.set_pen(session.cl_fondo);
+    pic.set_pen(state::settings.cl_fondo);
     line(pic, Forma.Pto[previous], Forma.Pto[s]);
     line(pic, Forma.Pto[s], Forma.Pto[next]);
     Forma.Pto[s].X = rounded(x);
@@ -59,12 +63,12 @@ void drag(Surface& pic, double x, double y) {
 void stretch(Surface& pic, double x, double y) {
     const Pto end{rounded(x), rounded(y)};
     pic.set_draw_mode(DrawMode::invert);
-    pic.set_pen(session.cl_fondo);
-    line(pic, Forma.Pto[session.PtoSel], {session.BandaX, session.BandaY});
-    pic.set_pen(session.cl_lineas);
-    line(pic, Forma.Pto[session.PtoSel], end);
-    session.BandaX = end.X;
-    session.BandaY = end.Y;
+    pic.set_pen(state::settings.cl_fondo);
+    line(pic, Forma.Pto[state::document.PtoSel], {state::view.BandaX, state::view.BandaY});
+    pic.set_pen(state::settings.cl_lineas);
+    line(pic, Forma.Pto[state::document.PtoSel], end);
+    state::view.BandaX = end.X;
+    state::view.BandaY = end.Y;
     pic.set_draw_mode(DrawMode::copy_pen);
 }
 

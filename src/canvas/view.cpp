@@ -1,6 +1,7 @@
 #include "canvas/view.h"
 
-#include "document/session.h"
+#include "document/forma.h"
+#include "document/state/view.h"
 #include "runtime/numbers.h"
 
 #include <cmath>
@@ -9,19 +10,19 @@
 namespace velmora {
 
 double canvas_x(double x) {
-    return runtime::checked(session.ZoomFactor * x + session.CanvasX0);
+    return runtime::checked(state::view.ZoomFactor * x + state::view.CanvasX0);
 }
 
 double canvas_y(double y) {
-    return runtime::checked(session.CanvasY0 - session.ZoomFactor * y);
+    return runtime::checked(state::view.CanvasY0 - state::view.ZoomFactor * y);
 }
 
 double world_x(double px) {
-    return runtime::divide(px - session.CanvasX0, session.ZoomFactor);
+    return runtime::divide(px - state::view.CanvasX0, state::view.ZoomFactor);
 }
 
 double world_y(double py) {
-    return -runtime::divide(py - session.CanvasY0, session.ZoomFactor);
+    return -runtime::divide(py - state::view.CanvasY0, state::view.ZoomFactor);
 }
 
 std::int32_t to_pixel(double position) {
@@ -36,8 +37,8 @@ std::int32_t to_pixel(double position) {
 }
 
 PixelPoint pixel_of(const Pto& point) {
-    return {to_pixel(session.ZoomFactor * point.X + session.CanvasX0),
-            to_pixel(session.CanvasY0 - session.ZoomFactor * point.Y)};
+    return {to_pixel(state::view.ZoomFactor * point.X + state::view.CanvasX0),
+            to_pixel(state::view.CanvasY0 - state::view.ZoomFactor * point.Y)};
 }
 
 float to_single(double position) {

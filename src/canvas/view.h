@@ -1,10 +1,11 @@
 // World and canvas: the mapping, and the painters that follow the pointer. Canvas positions are
-// pixels, y growing downward; session.CanvasX0 and CanvasY0 are the world's origin there,
-// session.ZoomFactor the pixels of one unit.
+// pixels, y growing downward; state::view.CanvasX0 and CanvasY0 are the world's origin there,
+// state::view.ZoomFactor the pixels of one unit.
 #pragma once
 
 #include "canvas/surface.h"
 #include "document/forma.h"
+#include "document/state/view.h"
 
 #include <cstdint>
 

@@ -1,11 +1,14 @@
 #include "shapeops/del_npto.h"
 
 #include "document/feedback.h"
+#include "document/forma.h"
 #include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/selection.h"
 #include "document/shown_counts.h"
+#include "document/state/document.h"
 #include "document/text_box.h"
+#include "document/windows/del_npto.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
@@ -27,26 +30,26 @@ constexpr std::int16_t kRemove = 0;
 NumericBox jump_box() {
     return {.window = kWindow,
             .control = "Txt_JumpPoints",
-            .text = session.del_Npto.Txt_JumpPoints,
+            .text = state::del_Npto.Txt_JumpPoints,
             .changed = Txt_JumpPoints_Change};
 }
 
 NumericBox count_box() {
     return {.window = kWindow,
             .control = "Txt_Numpoints2del",
-            .text = session.del_Npto.Txt_Numpoints2del};
+            .text = state::del_Npto.Txt_Numpoints2del};
 }
 
 double jump() {
-    return runtime::Val(session.del_Npto.Txt_JumpPoints);
+    return runtime::Val(state::del_Npto.Txt_JumpPoints);
 }
 
 double count() {
-    return runtime::Val(session.del_Npto.Txt_Numpoints2del);
+    return runtime::Val(state::del_Npto.Txt_Numpoints2del);
 }
 
 void show_maximum(double points) {
-    std::string& label = session.del_Npto.Lbl_Maxpoints;
+    std::string& label = state::del_Npto.Lbl_Maxpoints;
     label = '(';
     label += CStr(points);
     label += ')';
@@ -54,7 +57,7 @@ void show_maximum(double points) {
 
 /// Place of the k-th point to go, brought back by at most one turn.
 std::int32_t position(double step, std::int32_t k, std::int32_t upper) {
-    const std::int32_t place = runtime::to_int32(step * k + session.PtoSel);
+    const std::int32_t place = runtime::to_int32(step * k + state::document.PtoSel);
     return place > upper ? place - upper - 1 : place;
 }
 
@@ -62,8 +65,8 @@ std::int32_t position(double step, std::int32_t k, std::int32_t upper) {
 /// that: it was not looked at with this number.
 bool fits(double last) {
     const double most = 2.0 * static_cast<double>(Forma.Pto.size()) - 1;
-    const double ends[] = {static_cast<double>(session.PtoSel),
-                           (jump() + 1) * last + session.PtoSel};
+    const double ends[] = {static_cast<double>(state::document.PtoSel),
+                           (jump() + 1) * last + state::document.PtoSel};
     return std::ranges::all_of(ends, [most](double place) {
         const double whole = runtime::Round(place, 0);
         return whole >= 0 && whole <= most;
@@ -96,16 +99,16 @@ Array<Pto> kept_of(const Array<Pto>& marked) {
 } // namespace
 
 void del_Npto_Load() {
-    session.del_Npto = {};
+    state::del_Npto = {};
     set_pointer(0);
     load_literals(kWindow);
-    session.del_Npto.MaxDel = Forma.Pto.upper() - 2;
-    put_text(session.del_Npto.Txt_JumpPoints, CStr(0), Txt_JumpPoints_Change);
-    show_maximum(session.del_Npto.MaxDel);
+    state::del_Npto.MaxDel = Forma.Pto.upper() - 2;
+    put_text(state::del_Npto.Txt_JumpPoints, CStr(0), Txt_JumpPoints_Change);
+    show_maximum(state::del_Npto.MaxDel);
 }
 
 void Txt_JumpPoints_Change() {
-    DelNptoWindow& window = session.del_Npto;
+    DelNptoWindow& window = state::del_Npto;
     const double left_between = jump();
     if (left_between <= 0) {
         show_maximum(window.MaxDel);
@@ -130,7 +133,7 @@ int Txt_Numpoints2del_KeyPress(int key) {
 
 void Txt_Numpoints2del_LostFocus() {
     const double points = count();
-    if (points > session.del_Npto.MaxDel)
+    if (points > state::del_Npto.MaxDel)
         MuestraMensaje(mensaje::too_many_deletions);
     else if (points >= 0)
         return;
@@ -148,9 +151,9 @@ void del_Npto_cmd_ok_Click() {
         return void(MuestraMensaje(mensaje::too_many_deletions));
     Array<Pto> kept = kept_of(marked_outline(runtime::to_int32(last)));
     Forma.Pto.swap(kept);
-    --session.PtoSel;
+    --state::document.PtoSel;
     if (!hay_seleccion())
-        session.PtoSel = 0;
+        state::document.PtoSel = 0;
     Dibuja();
     show_TotalPtos(Forma.Pto.upper() - 1);
     platform().windows.unload(kWindow);

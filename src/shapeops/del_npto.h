@@ -1,10 +1,12 @@
 // The logic of the window del_Npto: takes points out of the shape at a regular interval.
 #pragma once
 
+#include "document/windows/del_npto.h"
+
 namespace velmora {
 
 void del_Npto_Load();
-/// The text of Txt_JumpPoints changed (it stands in session.del_Npto).
+/// The text of Txt_JumpPoints changed (it stands in state::del_Npto).
 void Txt_JumpPoints_Change();
 /// A key of a box: the key to take, 0 to swallow it.
 [[nodiscard]] int Txt_JumpPoints_KeyPress(int key);

@@ -1,10 +1,11 @@
 #include "shapeops/mult_ptos.h"
 
+#include "document/forma.h"
 #include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/session.h"
 #include "document/shown_counts.h"
 #include "document/text_box.h"
+#include "document/windows/mult_ptos.h"
 #include "platform/form.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
@@ -27,7 +28,7 @@ constexpr double kTooManyPoints = 32001;
 
 /// A factor with a fraction goes to the nearest whole one, as every number kept in an integer.
 std::int32_t factor() {
-    return runtime::to_int32(runtime::Val(session.Mult_Ptos.Combo1));
+    return runtime::to_int32(runtime::Val(state::Mult_Ptos.Combo1));
 }
 
 double between(double p, double q, double parts, double k) {
@@ -66,42 +67,41 @@ void multiply_points() {
 } // namespace
 
 void Mult_Ptos_Load() {
-    session.Mult_Ptos = {};
+    state::Mult_Ptos = {};
     if (Form* form = platform().windows.form(kWindow))
         CreaLiterales(*form);
     load_literals(kWindow);
-    session.Mult_Ptos.Lbl_NPoints =
+    state::Mult_Ptos.Lbl_NPoints =
         caption_of(kWindow, "Lbl_NPoints") + " " + CStr(Forma.Pto.upper() + 1);
-    put_text(session.Mult_Ptos.Combo1, "2", Combo1_Change);
+    put_text(state::Mult_Ptos.Combo1, "2", Combo1_Change);
 }
 
 void Combo1_Change() {
-    const double value = runtime::Val(session.Mult_Ptos.Combo1);
-    session.Mult_Ptos.cmd_ok_enabled = value > 0 && value < 1001;
-    if (!session.Mult_Ptos.cmd_ok_enabled)
-        put_text(session.Mult_Ptos.Combo1, " ", Combo1_Change);
+    const double value = runtime::Val(state::Mult_Ptos.Combo1);
+    state::Mult_Ptos.cmd_ok_enabled = value > 0 && value < 1001;
+    if (!state::Mult_Ptos.cmd_ok_enabled)
+        put_text(state::Mult_Ptos.Combo1, " ", Combo1_Change);
 }
 
 void Combo1_Click() {
-    session.Mult_Ptos.cmd_ok_enabled = true;
+    state::Mult_Ptos.cmd_ok_enabled = true;
 }
 
 void ActualizaNuevoN() {
     const double total = factor() * static_cast<double>(Forma.Pto.size());
     if (total < kTooManyPoints) {
-        session.Mult_Ptos.lbl_New_NPoints =
-            GetMensaje(mensaje::new_point_count) + " " + CStr(total);
-        session.Mult_Ptos.cmd_ok_enabled = true;
+        state::Mult_Ptos.lbl_New_NPoints = GetMensaje(mensaje::new_point_count) + " " + CStr(total);
+        state::Mult_Ptos.cmd_ok_enabled = true;
         return;
     }
     MuestraMensaje(mensaje::too_many_points);
-    put_text(session.Mult_Ptos.Combo1, "2", Combo1_Change);
-    session.Mult_Ptos.cmd_ok_enabled = false;
+    put_text(state::Mult_Ptos.Combo1, "2", Combo1_Change);
+    state::Mult_Ptos.cmd_ok_enabled = false;
 }
 
 // The shown count is the upper bound less one, on purpose; the next Define_Layout puts it right.
 void Mult_Ptos_cmd_ok_Click() {
-    if (runtime::Int(runtime::Val(session.Mult_Ptos.Combo1)) < 1)
+    if (runtime::Int(runtime::Val(state::Mult_Ptos.Combo1)) < 1)
         return;
     multiply_points();
     Dibuja();

@@ -1,6 +1,7 @@
 #include "shapeops/placing.h"
 
-#include "document/session.h"
+#include "document/forma.h"
+#include "document/state/program.h"
 #include "runtime/numbers.h"
 
 #include <cmath>
@@ -14,7 +15,7 @@ using runtime::divide;
 
 /// Angle of the chord from the pivot in degrees, `angle` added, at most once reduced by a turn.
 double turned(double dx, double dy, double angle) {
-    const double base = dx == 0 ? 0 : std::atan(divide(dy, dx)) * 180 / session.PI;
+    const double base = dx == 0 ? 0 : std::atan(divide(dy, dx)) * 180 / state::program.PI;
     double degrees = angle + base;
     if (dx < 0)
         degrees = base + 180 + angle;
@@ -32,7 +33,7 @@ void rotate_about(const Pto& pivot, double angle) {
         const double dx = checked(point.X - cx);
         const double dy = checked(point.Y - cy);
         const double radius = std::sqrt(checked(dx * dx + dy * dy));
-        const double radians = session.PI * turned(dx, dy, angle) / 180;
+        const double radians = state::program.PI * turned(dx, dy, angle) / 180;
         point.X = checked(std::cos(radians) * radius + cx);
         point.Y = checked(std::sin(radians) * radius + cy);
     }

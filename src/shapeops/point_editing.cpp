@@ -1,8 +1,12 @@
 #include "shapeops/point_editing.h"
 
+#include "document/flag.h"
+#include "document/forma.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/selection.h"
 #include "document/shown_counts.h"
+#include "document/state/document.h"
+#include "document/state/view.h"
 #include "runtime/error.h"
 #include "runtime/numbers.h"
 #include "services/message_codes.h"
@@ -54,27 +58,28 @@ double before_first(double a, double b, double zero_end) {
 // On purpose: for X the row a < b tests the Y of the last point.
 void place_before_first() {
     const Pto last = Forma.Pto[Forma.Pto.upper()];
-    const Pto first = Forma.Pto[session.PtoSel + 1];
-    Forma.Pto[session.PtoSel].X = before_first(last.X, first.X, last.Y);
-    Forma.Pto[session.PtoSel].Y = before_first(last.Y, first.Y, last.Y);
-    session.PtoSel = 1;
+    const Pto first = Forma.Pto[state::document.PtoSel + 1];
+    Forma.Pto[state::document.PtoSel].X = before_first(last.X, first.X, last.Y);
+    Forma.Pto[state::document.PtoSel].Y = before_first(last.Y, first.Y, last.Y);
+    state::document.PtoSel = 1;
     Set_CutStart();
-    session.PtoSel = 0;
+    state::document.PtoSel = 0;
 }
 
 void place_between_neighbours() {
-    const Pto& before = Forma.Pto[session.PtoSel - 1];
-    const Pto& after = Forma.Pto[session.PtoSel + 1];
-    Forma.Pto[session.PtoSel].X = midpoint(before.X, after.X);
-    Forma.Pto[session.PtoSel].Y = midpoint(before.Y, after.Y);
+    const Pto& before = Forma.Pto[state::document.PtoSel - 1];
+    const Pto& after = Forma.Pto[state::document.PtoSel + 1];
+    Forma.Pto[state::document.PtoSel].X = midpoint(before.X, after.X);
+    Forma.Pto[state::document.PtoSel].Y = midpoint(before.Y, after.Y);
 }
 
 void remove_selected() {
     const auto points = Forma.Pto.all();
     const std::int32_t new_upper = Forma.Pto.upper() - 1;
-    std::copy(points.begin() + session.PtoSel + 1, points.end(), points.begin() + session.PtoSel);
+    std::copy(points.begin() + state::document.PtoSel + 1, points.end(),
+              points.begin() + state::document.PtoSel);
     Forma.Pto.redim_keep(new_upper);
-    session.PtoSel = session.PtoSel == 0 ? new_upper : session.PtoSel - 1;
+    state::document.PtoSel = state::document.PtoSel == 0 ? new_upper : state::document.PtoSel - 1;
 }
 
 } // namespace
@@ -84,12 +89,12 @@ void remove_selected() {
 void Insert_Pto() {
     if (!hay_seleccion())
         raise(error::subscript);
-    make_room(session.PtoSel, 1);
-    if (session.PtoSel > 0)
+    make_room(state::document.PtoSel, 1);
+    if (state::document.PtoSel > 0)
         place_between_neighbours();
     else
         place_before_first();
-    Forma.Pto[session.PtoSel].Sinc = 0;
+    Forma.Pto[state::document.PtoSel].Sinc = 0;
     show_TotalPtos(Forma.Pto.upper() + 1);
     Dibuja_unless_NoRedraw();
 }
@@ -103,7 +108,7 @@ void Delete_Pto() {
     }
     if (!hay_seleccion())
         return;
-    if (Forma.Pto[session.PtoSel].Sinc == 1)
+    if (Forma.Pto[state::document.PtoSel].Sinc == 1)
         step_TotalSinc(-1);
     remove_selected();
     Dibuja_unless_NoRedraw();
@@ -113,13 +118,13 @@ void Delete_Pto() {
 // Only the turn by one clears the old first point's mark, and only the longer turn refreshes: on
 // purpose. PtoSel does not follow its point.
 void Set_CutStart() {
-    if (!hay_seleccion() || session.PtoSel == 0)
+    if (!hay_seleccion() || state::document.PtoSel == 0)
         return;
     const auto points = Forma.Pto.all();
-    if (session.PtoSel == 1)
+    if (state::document.PtoSel == 1)
         points.front().Sinc = 0;
-    std::ranges::rotate(points, points.begin() + session.PtoSel);
-    if (session.PtoSel == 1)
+    std::ranges::rotate(points, points.begin() + state::document.PtoSel);
+    if (state::document.PtoSel == 1)
         return;
     Carga_List_Coords("UPDATE");
     Dibuja_unless_NoRedraw();
@@ -130,14 +135,14 @@ void Set_CutStart() {
 void insert_ini() {
     if (!hay_seleccion())
         raise(error::subscript);
-    const std::int32_t s = session.PtoSel;
+    const std::int32_t s = state::document.PtoSel;
     const Pto c = Forma.Pto[s];
     make_room(s + 1, 4);
     set_point(s + 1, c.X, 0, 0);
     set_point(s + 2, 1, 0, 1);
     set_point(s + 3, c.X, 0, 0);
     set_point(s + 4, c.X, c.Y, 0);
-    session.PtoSel = s + 2;
+    state::document.PtoSel = s + 2;
     Set_CutStart();
     Carga_List_Coords("UPDATE");
     show_TotalPtos(Forma.Pto.upper() - 1);
@@ -148,13 +153,13 @@ void insert_ini() {
 void Insert_N_Ptos() {
     if (!hay_seleccion())
         return;
-    session.PtoSelAnt = session.PtoSel;
+    state::document.PtoSelAnt = state::document.PtoSel;
     for (Pto& point : Forma.Pto.all())
         point.Marca = 0;
     Forma.Pto[0].Marca = 1;
     Set_CutStart();
-    session.PtoSel = 0;
-    session.PtosToInsertMode = True;
+    state::document.PtoSel = 0;
+    state::view.PtosToInsertMode = True;
 }
 
 } // namespace velmora

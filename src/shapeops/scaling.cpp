@@ -1,6 +1,6 @@
 #include "document/extents.h"
+#include "document/forma.h"
 #include "document/number_text.h"
-#include "document/session.h"
 #include "runtime/numbers.h"
 #include "services/message_codes.h"
 #include "shapeops/framed.h"

@@ -1,10 +1,13 @@
 #include "shapeops/sync_points.h"
 
 #include "document/feedback.h"
+#include "document/forma.h"
 #include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/selection.h"
 #include "document/shown_counts.h"
+#include "document/state/document.h"
+#include "document/state/program.h"
 #include "platform/dialogs.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
@@ -17,9 +20,9 @@ namespace velmora {
 namespace {
 
 void flip_selected(std::int16_t from, std::int16_t to, std::int32_t step) {
-    if (!hay_seleccion() || Forma.Pto[session.PtoSel].Sinc != from)
+    if (!hay_seleccion() || Forma.Pto[state::document.PtoSel].Sinc != from)
         return;
-    Forma.Pto[session.PtoSel].Sinc = to;
+    Forma.Pto[state::document.PtoSel].Sinc = to;
     step_TotalSinc(step);
     Dibuja_unless_NoRedraw();
 }
@@ -36,7 +39,7 @@ void mark_from(std::size_t first, std::int16_t sinc, std::int32_t shown) {
 std::optional<std::int32_t> points_to_next_sinc() {
     const std::int32_t upper = Forma.Pto.upper();
     std::int32_t plain = 0;
-    for (const std::int32_t first : {session.PtoSel + 1, 0}) {
+    for (const std::int32_t first : {state::document.PtoSel + 1, 0}) {
         for (std::int32_t i = first; i <= upper; ++i) {
             if (Forma.Pto[i].Sinc != 0)
                 return plain;

@@ -1,8 +1,9 @@
 #include "shapeops/transforms.h"
 
 #include "document/extents.h"
+#include "document/forma.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/state/options.h"
 #include "runtime/numbers.h"
 #include "services/message_codes.h"
 #include "shapeops/framed.h"
@@ -66,7 +67,7 @@ void InvertDat() {
 void Apply_Precision() {
     framed("Error Apply_Precision nº: ", mensaje::applying_precision, mensaje::precision_applied,
            [] {
-               const int decimals = runtime::to_int16(session.Precision);
+               const int decimals = runtime::to_int16(state::options.Precision);
                for (Pto& point : Forma.Pto.all()) {
                    point.X = runtime::Round(point.X, decimals);
                    point.Y = runtime::Round(point.Y, decimals);
