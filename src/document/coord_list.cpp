@@ -1,8 +1,11 @@
 #include "document/coord_list.h"
 
+#include "document/forma.h"
 #include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/state/document.h"
+#include "document/state/program.h"
+#include "document/windows/velmora.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
@@ -20,11 +23,11 @@ CoordRow row_of(std::int32_t index) {
 auto position(std::int32_t index, std::size_t size) {
     if (index < 0 || static_cast<std::size_t>(index) >= size)
         raise(error::invalid_call);
-    return session.Velmora.Lst_Coords.begin() + index;
+    return state::Velmora.Lst_Coords.begin() + index;
 }
 
 void rebuild() {
-    auto& rows = session.Velmora.Lst_Coords;
+    auto& rows = state::Velmora.Lst_Coords;
     const auto points = Forma.Pto.all();
     rows.resize(points.size());
     std::int32_t index = 0;
@@ -35,28 +38,29 @@ void rebuild() {
 }
 
 void insert_row() {
-    auto& rows = session.Velmora.Lst_Coords;
-    const CoordRow row = row_of(session.PtoSel);
-    rows.insert(position(session.PtoSel, rows.size() + 1), row);
+    auto& rows = state::Velmora.Lst_Coords;
+    const CoordRow row = row_of(state::document.PtoSel);
+    rows.insert(position(state::document.PtoSel, rows.size() + 1), row);
 }
 
 // The row at the new PtoSel goes, not the one at the old, on purpose.
 void remove_row() {
-    auto& rows = session.Velmora.Lst_Coords;
-    session.PtoSel = session.PtoSel == Forma.Pto.upper() ? 0 : session.PtoSel + 1;
-    rows.erase(position(session.PtoSel, rows.size()));
+    auto& rows = state::Velmora.Lst_Coords;
+    state::document.PtoSel =
+        state::document.PtoSel == Forma.Pto.upper() ? 0 : state::document.PtoSel + 1;
+    rows.erase(position(state::document.PtoSel, rows.size()));
 }
 
 /// Whether the row names a point.
 bool select_point_of(std::string_view text) {
     if (text.empty())
         return false;
-    const auto index = runtime::CLng(text.substr(0, text.find(':')), session.SepDecimal);
+    const auto index = runtime::CLng(text.substr(0, text.find(':')), state::program.SepDecimal);
     if (index > Forma.Pto.upper()) {
         Carga_List_Coords("UPDATE");
         return false;
     }
-    session.PtoSel = index;
+    state::document.PtoSel = index;
     Dibuja();
     return true;
 }
@@ -79,7 +83,7 @@ void Lst_Coords_Key(std::string_view text) {
 void Carga_List_Coords(std::string_view key) {
     // The label told of a point of the shape before.
     if (key == "NEWFILE")
-        session.Velmora.lbl_xyfloat_visible = false;
+        state::Velmora.lbl_xyfloat_visible = false;
     if (key == "NEWFILE" || key == "UPDATE")
         rebuild();
     else if (key == "INSERT")
@@ -88,7 +92,7 @@ void Carga_List_Coords(std::string_view key) {
         remove_row();
     else
         return;
-    ++session.Velmora.Lst_Coords_fill;
+    ++state::Velmora.Lst_Coords_fill;
 }
 
 } // namespace velmora

@@ -1,7 +1,8 @@
 #include "document/extents.h"
 
 #include "document/feedback.h"
-#include "document/session.h"
+#include "document/forma.h"
+#include "document/state/workbench.h"
 
 namespace velmora {
 
@@ -62,13 +63,13 @@ const Array<Pto>* array_of(std::string_view selector) {
     if (selector == "0")
         return &Forma.Pto;
     if (selector == "A")
-        return &session.PtosA;
+        return &state::workbench.PtosA;
     if (selector == "B")
-        return &session.PtosB;
+        return &state::workbench.PtosB;
     if (selector == "A2")
-        return &session.PtosA2;
+        return &state::workbench.PtosA2;
     if (selector == "B2")
-        return &session.PtosB2;
+        return &state::workbench.PtosB2;
     return nullptr;
 }
 

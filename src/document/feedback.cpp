@@ -1,5 +1,7 @@
 #include "document/feedback.h"
 
+#include "document/state/program.h"
+#include "document/windows/velmora.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
@@ -15,23 +17,23 @@ std::string_view own_or_plain(std::string_view title) {
 }
 
 int keep_answer(int chosen) {
-    session.Respuesta = static_cast<std::int16_t>(chosen);
+    state::program.Respuesta = static_cast<std::int16_t>(chosen);
     return chosen;
 }
 
 } // namespace
 
 void set_status(std::string_view text) {
-    if (session.Velmora.StatusBar1 == text)
+    if (state::Velmora.StatusBar1 == text)
         return;
-    session.Velmora.StatusBar1 = text;
+    state::Velmora.StatusBar1 = text;
     platform().windows.status_changed();
 }
 
 void set_pointer(int pointer) {
-    if (session.Velmora.MousePointer == pointer)
+    if (state::Velmora.MousePointer == pointer)
         return;
-    session.Velmora.MousePointer = pointer;
+    state::Velmora.MousePointer = pointer;
     platform().windows.pointer_changed();
 }
 
@@ -55,7 +57,8 @@ std::string InputBox(std::string_view prompt, std::string_view title, std::strin
 std::string description_of(const RuntimeError& failure) {
     if (!failure.description.empty())
         return failure.description;
-    return error_description(failure.number, session.Idioma.empty() ? 'E' : session.Idioma[0]);
+    return error_description(failure.number,
+                             state::program.Idioma.empty() ? 'E' : state::program.Idioma[0]);
 }
 
 void show_trap(std::string_view prefix, const RuntimeError& failure, std::string_view tail) {

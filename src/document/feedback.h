@@ -1,7 +1,6 @@
 // What long operations tell the user: the status panel, the pointer, progress, the boxes of traps.
 #pragma once
 
-#include "document/session.h"
 #include "runtime/error.h"
 
 #include <string>

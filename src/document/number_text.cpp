@@ -1,5 +1,5 @@
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/program.h"
 #include "runtime/error.h"
 #include "runtime/numbers.h"
 
@@ -16,7 +16,7 @@ std::string piece(const std::string& text, std::size_t position, std::ptrdiff_t 
 } // namespace
 
 std::string CStr(double value) {
-    return runtime::CStr(value, session.SepDecimal);
+    return runtime::CStr(value, state::program.SepDecimal);
 }
 
 std::string CStr(std::int32_t value) {
@@ -24,15 +24,15 @@ std::string CStr(std::int32_t value) {
 }
 
 double CDbl(std::string_view text) {
-    return runtime::CDbl(text, session.SepDecimal);
+    return runtime::CDbl(text, state::program.SepDecimal);
 }
 
 std::string Format5(double value) {
-    return runtime::Format5(value, session.SepDecimal);
+    return runtime::Format5(value, state::program.SepDecimal);
 }
 
 std::string NumACadena(double value) {
-    return runtime::NumACadena(value, session.SepDecimal);
+    return runtime::NumACadena(value, state::program.SepDecimal);
 }
 
 double Normaliza15(double value) {
@@ -45,7 +45,8 @@ double CadenaAReal(std::string& s) {
     const auto exponent_mark = s.find("E-");
     if (exponent_mark == std::string::npos)
         return CDbl(s);
-    const auto e = runtime::CLng(std::string_view(s).substr(exponent_mark + 2), session.SepDecimal);
+    const auto e =
+        runtime::CLng(std::string_view(s).substr(exponent_mark + 2), state::program.SepDecimal);
     const auto comma = s.find(',');
     const std::size_t p = comma == std::string::npos ? 1 : comma + 2;
     const auto length = static_cast<std::ptrdiff_t>(exponent_mark + 1 - p) - e;

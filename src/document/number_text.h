@@ -1,6 +1,8 @@
-// Numbers and text with the machine's separator (session.SepDecimal), and the two roads by which a
-// coordinate from outside comes in.
+// Numbers and text with the machine's separator (state::program.SepDecimal), and the two roads by
+// which a coordinate from outside comes in.
 #pragma once
+
+#include "document/state/program.h"
 
 #include <cstdint>
 #include <string>

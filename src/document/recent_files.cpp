@@ -1,11 +1,12 @@
 #include "document/recent_files.h"
 
-#include "document/session.h"
+#include "document/windows/velmora.h"
 #include "platform/platform.h"
 #include "platform/settings_store.h"
 #include "runtime/paths.h"
 
 #include <algorithm>
+#include <span>
 
 namespace velmora {
 
@@ -15,7 +16,7 @@ constexpr std::string_view kSection = "RecentFiles";
 
 // The entries in use, from 1.
 std::span<RecentEntry> entries() {
-    return std::span(session.Velmora.mnuRecentFile).subspan(1);
+    return std::span(state::Velmora.mnuRecentFile).subspan(1);
 }
 
 int count() {
@@ -73,8 +74,8 @@ void move_to_top(const std::string& path) {
 void GetRecentFiles() {
     for (RecentEntry& entry : entries())
         entry.visible = false;
-    session.Velmora.mnuRecentFileSep_visible = !stored(1).empty();
-    if (!session.Velmora.mnuRecentFileSep_visible)
+    state::Velmora.mnuRecentFileSep_visible = !stored(1).empty();
+    if (!state::Velmora.mnuRecentFileSep_visible)
         return;
     int index = 0;
     for (RecentEntry& entry : entries()) {

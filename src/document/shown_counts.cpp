@@ -1,25 +1,26 @@
 #include "document/shown_counts.h"
 
 #include "document/number_text.h"
-#include "document/session.h"
+#include "document/state/document.h"
+#include "document/windows/wininfo.h"
 #include "runtime/numbers.h"
 
 namespace velmora {
 
 void show_TotalPtos(std::int32_t count) {
-    session.wininfo.TxtTotalPtos = CStr(count);
-    session.TotalPtos = count;
+    state::wininfo.TxtTotalPtos = CStr(count);
+    state::document.TotalPtos = count;
 }
 
 void show_TotalSinc(std::int32_t count) {
-    session.wininfo.TxtTotalCtrlPtos = CStr(count);
-    session.TotalSinc = count;
+    state::wininfo.TxtTotalCtrlPtos = CStr(count);
+    state::document.TotalSinc = count;
 }
 
 void step_TotalSinc(std::int32_t step) {
-    std::string& text = session.wininfo.TxtTotalCtrlPtos;
+    std::string& text = state::wininfo.TxtTotalCtrlPtos;
     text = CStr(runtime::Val(text) + step);
-    session.TotalSinc += step;
+    state::document.TotalSinc += step;
 }
 
 } // namespace velmora

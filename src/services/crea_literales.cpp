@@ -1,6 +1,6 @@
 #include "services/literals.h"
 
-#include "document/session.h"
+#include "document/state/program.h"
 #include "platform/database.h"
 #include "platform/platform.h"
 #include "runtime/text.h"
@@ -18,7 +18,7 @@ bool has_table(const std::string& name) {
 }
 
 std::string delete_statement(const std::string& form) {
-    return "DELETE FROM " + form + " WHERE Idioma ='" + session.Idioma + "'";
+    return "DELETE FROM " + form + " WHERE Idioma ='" + state::program.Idioma + "'";
 }
 
 std::string create_statement(const std::string& form) {
@@ -50,7 +50,8 @@ void insert_row(const std::string& form, const std::string& key, const std::stri
                                 " Desc_Tip)"
                                 " VALUES "
                                 "('" +
-                                key + "','" + session.Idioma + "','" + text + "','" + tip + "')");
+                                key + "','" + state::program.Idioma + "','" + text + "','" + tip +
+                                "')");
 }
 
 void insert_control(const std::string& form, const FormControl& control) {

@@ -1,6 +1,6 @@
 #include "services/deployment.h"
 
-#include "document/session.h"
+#include "document/state/program.h"
 #include "runtime/paths.h"
 
 #include <fstream>

@@ -1,7 +1,9 @@
 #include "services/help.h"
 
 #include "document/feedback.h"
+#include "document/flag.h"
 #include "document/number_text.h"
+#include "document/state/program.h"
 #include "platform/platform.h"
 #include "platform/shell.h"
 #include "services/deployment.h"
@@ -18,7 +20,7 @@ constexpr int kStarted = 33;
 } // namespace
 
 std::string version_in_brackets() {
-    return '(' + CStr(std::int32_t{session.SubVer}) + ')';
+    return '(' + CStr(std::int32_t{state::program.SubVer}) + ')';
 }
 
 Flag EnviaMail(std::string_view direccion, std::string_view asunto, std::string_view cuerpo,
@@ -47,7 +49,8 @@ void write_to_support() {
         set_status(GetMensaje(mensaje::no_support_address));
         return;
     }
-    EnviaMail(address, "Velmora Ver: " + session.Ver + "-" + version_in_brackets(), "", "", "");
+    EnviaMail(address, "Velmora Ver: " + state::program.Ver + "-" + version_in_brackets(), "", "",
+              "");
 }
 
 } // namespace velmora

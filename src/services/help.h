@@ -1,7 +1,7 @@
 // Help and support: the page and the mail.
 #pragma once
 
-#include "document/session.h"
+#include "document/flag.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,7 @@
 #include "services/literals.h"
 
 #include "document/feedback.h"
+#include "document/state/program.h"
 #include "platform/database.h"
 #include "platform/platform.h"
 #include "runtime/text.h"
@@ -34,7 +35,7 @@ bool open_form_table(const Form& form) {
 std::string field_of_key(std::string_view control, std::string_view field) {
     if (!form_table())
         return {};
-    form_table()->seek({control, session.Idioma});
+    form_table()->seek({control, state::program.Idioma});
     if (form_table()->no_match())
         return {};
     const Value value = form_table()->field(field);

@@ -1,6 +1,7 @@
 #include "services/messages.h"
 
 #include "document/feedback.h"
+#include "document/state/program.h"
 #include "platform/database.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
@@ -41,7 +42,7 @@ void open_table() {
 
 // Stands on the row of the code; false when there is none, a Null text counts as none.
 bool find(int codigo) {
-    mensajes()->seek({std::to_string(codigo), session.Idioma});
+    mensajes()->seek({std::to_string(codigo), state::program.Idioma});
     return !mensajes()->no_match() && !is_null(mensajes()->field("Descripcion"));
 }
 

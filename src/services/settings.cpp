@@ -1,8 +1,10 @@
 #include "services/settings.h"
 
-#include "document/session.h"
+#include "document/state/program.h"
+#include "document/state/settings.h"
 #include "platform/platform.h"
 #include "platform/settings_store.h"
+#include "runtime/error.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 
@@ -17,32 +19,32 @@ constexpr std::string_view kValues = "Values";
 
 struct Colour {
     std::string_view key;
-    std::uint32_t Session::*value;
+    std::uint32_t SettingState::*value;
     std::uint32_t preset;
 };
 
 constexpr auto kColours = std::to_array<Colour>({
-    {"cl_fondo", &Session::cl_fondo, 0x80000000},
-    {"cl_ejes", &Session::cl_ejes, 0xFFFFFF},
-    {"cl_lineas", &Session::cl_lineas, 0},
-    {"cl_linea1", &Session::cl_linea1, 255},
-    {"cl_linea2", &Session::cl_linea2, 0xFF0000},
-    {"cl_punto", &Session::cl_punto, 0},
-    {"cl_puntosinc", &Session::cl_puntosinc, 0},
-    {"cl_puntosel", &Session::cl_puntosel, 0},
-    {"cl_coords", &Session::cl_coords, 0},
+    {"cl_fondo", &SettingState::cl_fondo, 0x80000000},
+    {"cl_ejes", &SettingState::cl_ejes, 0xFFFFFF},
+    {"cl_lineas", &SettingState::cl_lineas, 0},
+    {"cl_linea1", &SettingState::cl_linea1, 255},
+    {"cl_linea2", &SettingState::cl_linea2, 0xFF0000},
+    {"cl_punto", &SettingState::cl_punto, 0},
+    {"cl_puntosinc", &SettingState::cl_puntosinc, 0},
+    {"cl_puntosel", &SettingState::cl_puntosel, 0},
+    {"cl_coords", &SettingState::cl_coords, 0},
 });
 
 struct WholeNumber {
     std::string_view key;
-    std::int32_t Session::*value;
+    std::int32_t SettingState::*value;
     std::int32_t preset;
 };
 
 constexpr auto kWholeNumbers = std::to_array<WholeNumber>({
-    {"Def_Dec", &Session::Def_Dec, 6},
-    {"Def_Arc", &Session::Def_Arc, 25},
-    {"Def_ACircle", &Session::Def_ACircle, 50},
+    {"Def_Dec", &SettingState::Def_Dec, 6},
+    {"Def_Arc", &SettingState::Def_Arc, 25},
+    {"Def_ACircle", &SettingState::Def_ACircle, 50},
 });
 
 // Reads a number by `read`, with either separator. A text that is none fails the caller; the report
@@ -77,28 +79,28 @@ std::int16_t read_sound() {
 void LeeSettings() {
     // A colour is a signed number in the store: the system colours from 0x80000000 on are below 0.
     for (const auto& [key, value, preset] : kColours)
-        session.*value = static_cast<std::uint32_t>(
+        state::settings.*value = static_cast<std::uint32_t>(
             whole_number(kColors, key, static_cast<std::int32_t>(preset)));
     for (const auto& [key, value, preset] : kWholeNumbers)
-        session.*value = whole_number(kValues, key, preset);
-    session.Idioma = platform().settings.get(kValues, "Idioma").value_or("E");
-    session.Def_Zoom = number<double>(kValues, "Def_Zoom", 30000, runtime::CDbl);
-    session.Sound = read_sound();
+        state::settings.*value = whole_number(kValues, key, preset);
+    state::program.Idioma = platform().settings.get(kValues, "Idioma").value_or("E");
+    state::settings.Def_Zoom = number<double>(kValues, "Def_Zoom", 30000, runtime::CDbl);
+    state::program.Sound = read_sound();
 }
 
 void GuardaSettings() {
     for (const auto& [key, value, preset] : kColours)
-        save(kColors, key, runtime::CStr(static_cast<std::int32_t>(session.*value)));
+        save(kColors, key, runtime::CStr(static_cast<std::int32_t>(state::settings.*value)));
     for (const auto& [key, value, preset] : kWholeNumbers)
-        save(kValues, key, runtime::CStr(session.*value));
-    save(kValues, "Idioma", session.Idioma);
-    save(kValues, "Def_Zoom", runtime::CStr(session.Def_Zoom, '.'));
-    save(kValues, "sound", runtime::CStr(std::int32_t{session.Sound}));
+        save(kValues, key, runtime::CStr(state::settings.*value));
+    save(kValues, "Idioma", state::program.Idioma);
+    save(kValues, "Def_Zoom", runtime::CStr(state::settings.Def_Zoom, '.'));
+    save(kValues, "sound", runtime::CStr(std::int32_t{state::program.Sound}));
 }
 
 void save_version() {
-    save(kValues, "Ver", session.Ver);
-    save(kValues, "SubVer", runtime::CStr(std::int32_t{session.SubVer}));
+    save(kValues, "Ver", state::program.Ver);
+    save(kValues, "SubVer", runtime::CStr(std::int32_t{state::program.SubVer}));
 }
 
 } // namespace velmora

@@ -2,7 +2,12 @@
 
 #include "document/number_text.h"
 #include "document/options.h"
-#include "document/session.h"
+#include "document/state/options.h"
+#include "document/state/program.h"
+#include "document/state/settings.h"
+#include "document/windows/setup.h"
+#include "document/windows/velmora.h"
+#include "document/windows/winoptions.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
@@ -27,19 +32,19 @@ constexpr double kSmallestCount = 3;
 struct ColourLabel {
     std::string_view name;
     std::uint32_t SetupWindow::*label;
-    std::uint32_t Session::*colour;
+    std::uint32_t SettingState::*colour;
 };
 
 constexpr auto kColourLabels = std::to_array<ColourLabel>({
-    {"lblcolor_fondo", &SetupWindow::lblcolor_fondo, &Session::cl_fondo},
-    {"lblcolor_ejes", &SetupWindow::lblcolor_ejes, &Session::cl_ejes},
-    {"lblcolor_lineas", &SetupWindow::lblcolor_lineas, &Session::cl_lineas},
-    {"lblcolor_lineaini", &SetupWindow::lblcolor_lineaini, &Session::cl_linea1},
-    {"lblcolor_lineados", &SetupWindow::lblcolor_lineados, &Session::cl_linea2},
-    {"lblcolor_ptos", &SetupWindow::lblcolor_ptos, &Session::cl_punto},
-    {"lblcolor_ptosinc", &SetupWindow::lblcolor_ptosinc, &Session::cl_puntosinc},
-    {"lblcolor_ptosel", &SetupWindow::lblcolor_ptosel, &Session::cl_puntosel},
-    {"lblcolor_coords", &SetupWindow::lblcolor_coords, &Session::cl_coords},
+    {"lblcolor_fondo", &SetupWindow::lblcolor_fondo, &SettingState::cl_fondo},
+    {"lblcolor_ejes", &SetupWindow::lblcolor_ejes, &SettingState::cl_ejes},
+    {"lblcolor_lineas", &SetupWindow::lblcolor_lineas, &SettingState::cl_lineas},
+    {"lblcolor_lineaini", &SetupWindow::lblcolor_lineaini, &SettingState::cl_linea1},
+    {"lblcolor_lineados", &SetupWindow::lblcolor_lineados, &SettingState::cl_linea2},
+    {"lblcolor_ptos", &SetupWindow::lblcolor_ptos, &SettingState::cl_punto},
+    {"lblcolor_ptosinc", &SetupWindow::lblcolor_ptosinc, &SettingState::cl_puntosinc},
+    {"lblcolor_ptosel", &SetupWindow::lblcolor_ptosel, &SettingState::cl_puntosel},
+    {"lblcolor_coords", &SetupWindow::lblcolor_coords, &SettingState::cl_coords},
 });
 
 constexpr auto kLanguageNames =
@@ -58,20 +63,20 @@ std::string code_of_language(std::string_view name) {
 }
 
 void draw_preview() {
-    ++session.setup.Test_Pic_draws;
+    ++state::setup.Test_Pic_draws;
 }
 
 NumericBox arc_box() {
     return {.window = kWindow,
             .control = "Txt_Def_Arc_Val",
-            .text = session.setup.Txt_Def_Arc_Val,
+            .text = state::setup.Txt_Def_Arc_Val,
             .reset_text = "3"};
 }
 
 NumericBox circle_box() {
     return {.window = kWindow,
             .control = "Txt_Def_Circle_Val",
-            .text = session.setup.Txt_Def_Circle_Val,
+            .text = state::setup.Txt_Def_Circle_Val,
             .reset_text = "4"};
 }
 
@@ -83,34 +88,34 @@ void refuse_below_3(const NumericBox& box, int codigo) {
 }
 
 std::int32_t whole_number(std::string_view text) {
-    return runtime::CLng(text, session.SepDecimal);
+    return runtime::CLng(text, state::program.SepDecimal);
 }
 
 void take_boxes() {
-    session.Def_Dec = whole_number(session.setup.Txt_Def_Dec_Val);
-    session.Def_Arc = whole_number(session.setup.Txt_Def_Arc_Val);
-    session.Def_ACircle = whole_number(session.setup.Txt_Def_Circle_Val);
-    session.Def_Zoom = CDbl(session.setup.Txt_Def_zoom_Val);
+    state::settings.Def_Dec = whole_number(state::setup.Txt_Def_Dec_Val);
+    state::settings.Def_Arc = whole_number(state::setup.Txt_Def_Arc_Val);
+    state::settings.Def_ACircle = whole_number(state::setup.Txt_Def_Circle_Val);
+    state::settings.Def_Zoom = CDbl(state::setup.Txt_Def_zoom_Val);
 }
 
 void take_language() {
-    const std::string code = code_of_language(session.setup.Cmb_Lang);
-    if (code == session.Idioma)
+    const std::string code = code_of_language(state::setup.Cmb_Lang);
+    if (code == state::program.Idioma)
         return;
     MuestraMensaje(mensaje::language_next_start);
-    session.Idioma = code;
+    state::program.Idioma = code;
 }
 
 // Precision before its box: a box that takes another text rounds the shape, and to the new value.
 void take_working_copies() {
     take_start_zoom();
-    session.winoptions.Txt_zoom = CStr(session.Def_Zoom);
-    session.Precision = session.Def_Dec;
-    set_TxtPrecision(CStr(session.Def_Dec));
-    session.PutArc = session.Def_Arc;
-    session.winoptions.TxtPutArc = CStr(session.Def_Arc);
-    session.PutCircle = session.Def_ACircle;
-    session.winoptions.TxtPutCircle = CStr(session.Def_ACircle);
+    state::winoptions.Txt_zoom = CStr(state::settings.Def_Zoom);
+    state::options.Precision = state::settings.Def_Dec;
+    set_TxtPrecision(CStr(state::settings.Def_Dec));
+    state::options.PutArc = state::settings.Def_Arc;
+    state::winoptions.TxtPutArc = CStr(state::settings.Def_Arc);
+    state::options.PutCircle = state::settings.Def_ACircle;
+    state::winoptions.TxtPutCircle = CStr(state::settings.Def_ACircle);
 }
 
 } // namespace
@@ -124,16 +129,16 @@ void setup_Load() {
 }
 
 void setup_Activate() {
-    SetupWindow& window = session.setup;
+    SetupWindow& window = state::setup;
     for (const ColourLabel& entry : kColourLabels)
-        window.*entry.label = session.*entry.colour;
-    window.Txt_Def_Dec_Val = CStr(session.Def_Dec);
-    window.Txt_Def_Arc_Val = CStr(session.Def_Arc);
-    window.Txt_Def_Circle_Val = CStr(session.Def_ACircle);
-    window.Txt_Def_zoom_Val = CStr(session.Def_Zoom);
-    window.Cmb_Lang = name_of_language(session.Idioma);
-    window.APP_Sound = session.Sound == 1;
-    window.Idioma = session.Idioma.substr(0, 1);
+        window.*entry.label = state::settings.*entry.colour;
+    window.Txt_Def_Dec_Val = CStr(state::settings.Def_Dec);
+    window.Txt_Def_Arc_Val = CStr(state::settings.Def_Arc);
+    window.Txt_Def_Circle_Val = CStr(state::settings.Def_ACircle);
+    window.Txt_Def_zoom_Val = CStr(state::settings.Def_Zoom);
+    window.Cmb_Lang = name_of_language(state::program.Idioma);
+    window.APP_Sound = state::program.Sound == 1;
+    window.Idioma = state::program.Idioma.substr(0, 1);
     draw_preview();
 }
 
@@ -141,11 +146,11 @@ void lblcolor_Click(std::string_view label) {
     const auto entry = std::ranges::find(kColourLabels, label, &ColourLabel::name);
     if (entry == kColourLabels.end())
         return;
-    const auto chosen = platform().dialogs.choose_colour(session.*entry->colour);
+    const auto chosen = platform().dialogs.choose_colour(state::settings.*entry->colour);
     if (!chosen)
         return;
-    session.*entry->colour = *chosen;
-    session.setup.*entry->label = *chosen;
+    state::settings.*entry->colour = *chosen;
+    state::setup.*entry->label = *chosen;
     draw_preview();
 }
 
@@ -163,11 +168,11 @@ int Txt_Def_Circle_Val_KeyPress(int key) {
 }
 
 int Txt_Def_Dec_Val_KeyPress(int key) {
-    return numeric_key({kWindow, "Txt_Def_Dec_Val", session.setup.Txt_Def_Dec_Val}, key);
+    return numeric_key({kWindow, "Txt_Def_Dec_Val", state::setup.Txt_Def_Dec_Val}, key);
 }
 
 int Txt_Def_zoom_Val_KeyPress(int key) {
-    return numeric_key({kWindow, "Txt_Def_zoom_Val", session.setup.Txt_Def_zoom_Val}, key);
+    return numeric_key({kWindow, "Txt_Def_zoom_Val", state::setup.Txt_Def_zoom_Val}, key);
 }
 
 void Txt_Def_Arc_Val_LostFocus() {
@@ -181,11 +186,11 @@ void Txt_Def_Circle_Val_LostFocus() {
 void setup_cmd_ok_Click() {
     take_boxes();
     take_language();
-    session.Sound = session.setup.APP_Sound ? 1 : 0;
+    state::program.Sound = state::setup.APP_Sound ? 1 : 0;
     GuardaSettings();
     take_working_copies();
-    session.Velmora.pic_BackColor = session.cl_fondo;
-    session.Velmora.lbl_xyfloat_ForeColor = session.cl_coords;
+    state::Velmora.pic_BackColor = state::settings.cl_fondo;
+    state::Velmora.lbl_xyfloat_ForeColor = state::settings.cl_coords;
     platform().windows.unload(kWindow);
 }
 

@@ -1,4 +1,4 @@
-// The dialog `setup`, "Parámetros Generales": its boxes stand in session.setup.
+// The dialog `setup`, "Parámetros Generales": its boxes stand in state::setup.
 #pragma once
 
 #include <span>

@@ -1,9 +1,16 @@
 #include "services/side_windows.h"
 
+#include "document/flag.h"
 #include "document/number_text.h"
 #include "document/options.h"
 #include "document/refresh.h"
-#include "document/session.h"
+#include "document/state/document.h"
+#include "document/state/options.h"
+#include "document/state/program.h"
+#include "document/state/view.h"
+#include "document/windows/velmora.h"
+#include "document/windows/wininfo.h"
+#include "document/windows/winoptions.h"
 #include "runtime/error.h"
 #include "runtime/text.h"
 #include "services/numeric_box.h"
@@ -26,15 +33,15 @@ void fit_extension(std::string& name, const std::string& extension) {
     name = runtime::Left(name, kept < 0 ? 0 : kept) + extension;
 }
 
-void choose_output(Flag Session::*chosen, const char* extension) {
-    session.GenDATSinc = session.GenSCR = session.GenDATPerfil = False;
-    session.*chosen = True;
-    session.winoptions.ChkDATSinc = session.GenDATSinc != False;
-    session.winoptions.ChkSCR = session.GenSCR != False;
-    session.winoptions.Chk_DATPerfil = session.GenDATPerfil != False;
-    session.DefExt = extension;
-    fit_extension(session.Velmora.TxtDat_File, session.DefExt);
-    session.FileName = session.Velmora.TxtDat_File;
+void choose_output(Flag OptionState::*chosen, const char* extension) {
+    state::options.GenDATSinc = state::options.GenSCR = state::options.GenDATPerfil = False;
+    state::options.*chosen = True;
+    state::winoptions.ChkDATSinc = state::options.GenDATSinc != False;
+    state::winoptions.ChkSCR = state::options.GenSCR != False;
+    state::winoptions.Chk_DATPerfil = state::options.GenDATPerfil != False;
+    state::document.DefExt = extension;
+    fit_extension(state::Velmora.TxtDat_File, state::document.DefExt);
+    state::document.FileName = state::Velmora.TxtDat_File;
 }
 
 /// The number as the decimal type holds it: within its range, and with its 28 decimals where that
@@ -45,10 +52,10 @@ double decimal_value(double value) {
 }
 
 void take_zoom() {
-    std::string& text = session.winoptions.Txt_zoom;
-    const char other = session.SepDecimal == '.' ? ',' : '.';
-    text = runtime::replaced(text, other, session.SepDecimal);
-    session.ZoomFactor = decimal_value(CDbl(text));
+    std::string& text = state::winoptions.Txt_zoom;
+    const char other = state::program.SepDecimal == '.' ? ',' : '.';
+    text = runtime::replaced(text, other, state::program.SepDecimal);
+    state::view.ZoomFactor = decimal_value(CDbl(text));
     Define_Layout();
     Dibuja();
 }
@@ -56,77 +63,77 @@ void take_zoom() {
 } // namespace
 
 void winoptions_Activate() {
-    session.winoptions.rolled_up = false;
+    state::winoptions.rolled_up = false;
 }
 
 void winoptions_Deactivate() {
-    if (!session.winoptions.chk_winoptions)
-        session.winoptions.rolled_up = true;
+    if (!state::winoptions.chk_winoptions)
+        state::winoptions.rolled_up = true;
 }
 
 void wininfo_Activate() {
-    session.wininfo.rolled_up = false;
+    state::wininfo.rolled_up = false;
 }
 
 void wininfo_Deactivate() {
-    if (!session.wininfo.chk_wininfo)
-        session.wininfo.rolled_up = true;
+    if (!state::wininfo.chk_wininfo)
+        state::wininfo.rolled_up = true;
 }
 
 int winoptions_height() {
-    return session.winoptions.rolled_up ? kWinoptionsRolledUp : kSideWindowHeight;
+    return state::winoptions.rolled_up ? kWinoptionsRolledUp : kSideWindowHeight;
 }
 
 int wininfo_height() {
-    return session.wininfo.rolled_up ? kWininfoRolledUp : kSideWindowHeight;
+    return state::wininfo.rolled_up ? kWininfoRolledUp : kSideWindowHeight;
 }
 
 void ChkDATSinc_Click() {
-    choose_output(&Session::GenDATSinc, ".dat");
+    choose_output(&OptionState::GenDATSinc, ".dat");
 }
 
 void ChkSCR_Click() {
-    choose_output(&Session::GenSCR, ".scr");
+    choose_output(&OptionState::GenSCR, ".scr");
 }
 
 void Chk_DATPerfil_Click() {
-    choose_output(&Session::GenDATPerfil, ".dat");
+    choose_output(&OptionState::GenDATPerfil, ".dat");
 }
 
 void ChkPtos_Click() {
-    session.ShowPtos = flag(session.winoptions.ChkPtos);
+    state::view.ShowPtos = flag(state::winoptions.ChkPtos);
     Dibuja();
 }
 
 void ChkPtosCtrl_Click() {
-    session.ShowPtosCtrl = flag(session.winoptions.ChkPtosCtrl);
+    state::view.ShowPtosCtrl = flag(state::winoptions.ChkPtosCtrl);
     Dibuja();
 }
 
 void ChkCoords_Click() {
-    session.ShowCoords = flag(session.winoptions.ChkCoords);
+    state::view.ShowCoords = flag(state::winoptions.ChkCoords);
 }
 
 void chk_optimize_Click() {
-    session.OptimizeOnGen = flag(session.winoptions.chk_optimize);
+    state::options.OptimizeOnGen = flag(state::winoptions.chk_optimize);
 }
 
 void chk_Redim_Capture_Click() {
-    session.RedimCapture = flag(session.winoptions.chk_Redim_Capture);
+    state::options.RedimCapture = flag(state::winoptions.chk_Redim_Capture);
 }
 
 int TxtPutArc_KeyPress(int key) {
-    return numeric_key({kWindow, "TxtPutArc", session.winoptions.TxtPutArc}, key);
+    return numeric_key({kWindow, "TxtPutArc", state::winoptions.TxtPutArc}, key);
 }
 
 int TxtPutCircle_KeyPress(int key) {
-    return numeric_key({kWindow, "TxtPutCircle", session.winoptions.TxtPutCircle}, key);
+    return numeric_key({kWindow, "TxtPutCircle", state::winoptions.TxtPutCircle}, key);
 }
 
 int TxtPrecision_KeyPress(int key) {
     return numeric_key({.window = kWindow,
                         .control = "TxtPrecision",
-                        .text = session.winoptions.TxtPrecision,
+                        .text = state::winoptions.TxtPrecision,
                         .changed = TxtPrecision_Change},
                        key);
 }
@@ -134,7 +141,7 @@ int TxtPrecision_KeyPress(int key) {
 int Txt_zoom_KeyPress(int key) {
     if (key == key_code::enter)
         take_zoom();
-    return numeric_key({kWindow, "Txt_zoom", session.winoptions.Txt_zoom, ".,"}, key);
+    return numeric_key({kWindow, "Txt_zoom", state::winoptions.Txt_zoom, ".,"}, key);
 }
 
 } // namespace velmora

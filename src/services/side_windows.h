@@ -1,6 +1,8 @@
 // What the controls of winoptions do to the session, and how the two side windows roll up.
 #pragma once
 
+#include "document/windows/winoptions.h"
+
 namespace velmora {
 
 /// Heights in twips: activated, and rolled up to the title.
@@ -23,7 +25,7 @@ void ChkDATSinc_Click();
 void ChkSCR_Click();
 void Chk_DATPerfil_Click();
 
-/// A check box was ticked or cleared (it stands in session.winoptions).
+/// A check box was ticked or cleared (it stands in state::winoptions).
 void ChkPtos_Click();
 void ChkPtosCtrl_Click();
 void ChkCoords_Click();

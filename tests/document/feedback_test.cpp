@@ -1,5 +1,7 @@
 #include "document/feedback.h"
 
+#include "document/session.h"
+
 #include "platform/dialogs.h"
 #include "support/recording_platform.h"
 

@@ -2,6 +2,7 @@
 
 #include "commands/handlers.h"
 #include "document/feedback.h"
+#include "document/session.h"
 #include "forms/acerca.h"
 #include "forms/teclas.h"
 #include "services/fake_form.h"
