@@ -87,7 +87,7 @@ void start_figures() {
     state::wininfo.TxtTotalPtos = CStr(state::document.TotalPtos);
     state::wininfo.TxtPtosSupr = CStr(state::document.PtosSuprimidos);
     DoEvents();
-    set_status(GetMensaje(mensaje::reorganising_2));
+    set_status(GetMensaje(message::reorganising_2));
     state::Velmora.Pbar1 = {.Min = 0, .Max = state::cad.ObjsCad.upper() + 1.0, .Value = 0};
 }
 

@@ -34,7 +34,7 @@ void take_point_counts() {
 }
 
 void start_figures(AcadDocument& drawing, std::int32_t entities) {
-    set_status(GetMensaje(mensaje::capturing_from) + " " + runtime::UCase(drawing.Name()) + " !");
+    set_status(GetMensaje(message::capturing_from) + " " + runtime::UCase(drawing.Name()) + " !");
     state::Velmora.Pbar1 = {.Min = 0, .Max = static_cast<double>(entities), .Value = 0};
     state::Velmora.pbar2.Value = 0;
     reset_entity_counters();
@@ -76,11 +76,11 @@ void read_entities(AcadDocument& drawing, std::int32_t entities, Flag& origenDel
 
 void report(std::int32_t incoherent) {
     if (incoherent == 0) {
-        set_status(GetMensaje(mensaje::objects_loaded));
+        set_status(GetMensaje(message::objects_loaded));
         return;
     }
-    const std::string text = GetMensaje(mensaje::found) + " " + CStr(incoherent) + " " +
-                             GetMensaje(mensaje::incoherent_lines);
+    const std::string text = GetMensaje(message::found) + " " + CStr(incoherent) + " " +
+                             GetMensaje(message::incoherent_lines);
     MsgBox(text, buttons::critical, box_title());
     set_status(text);
 }
@@ -93,7 +93,7 @@ void CapturaAcad(Flag& origenDelDibujo) {
     const std::shared_ptr<AcadDocument> drawing = connected_document();
     const std::int32_t entities = drawing->Count();
     if (entities == 0) {
-        MuestraMensaje(mensaje::document_empty);
+        MuestraMensaje(message::document_empty);
         return;
     }
     start_figures(*drawing, entities);

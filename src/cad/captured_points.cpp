@@ -99,7 +99,7 @@ void ask_while_below(std::int32_t fewest, int prompt, std::int32_t& points, std:
 }
 
 Array<Pto> arc_points(AcadEntity& arc) {
-    ask_while_below(3, mensaje::arc_points_too_few, state::options.PutArc,
+    ask_while_below(3, message::arc_points_too_few, state::options.PutArc,
                     state::winoptions.TxtPutArc);
     const Pto centre = raw_point(arc.Center());
     const double radius = arc.Radius();
@@ -108,7 +108,7 @@ Array<Pto> arc_points(AcadEntity& arc) {
 }
 
 Array<Pto> circle_points(AcadEntity& circle) {
-    ask_while_below(4, mensaje::circle_points_too_few, state::options.PutCircle,
+    ask_while_below(4, message::circle_points_too_few, state::options.PutCircle,
                     state::winoptions.TxtPutCircle);
     const Pto centre = raw_point(circle.Center());
     return capture_circle(centre.X, centre.Y, circle.Radius());

@@ -47,7 +47,7 @@ bool holds_no_entity(const Array<ObjCad>& objects) {
 }
 
 std::optional<std::int32_t> origin_not_on_shape() {
-    MuestraMensaje(mensaje::origin_not_on_shape);
+    MuestraMensaje(message::origin_not_on_shape);
     return std::nullopt;
 }
 
@@ -77,7 +77,7 @@ void walk_dxf() {
 std::optional<std::int32_t>
 walk_capture(std::int32_t model_space_count,
              const std::function<void(std::int32_t)>& colour_incoherent) {
-    set_status(GetMensaje(mensaje::reorganising_1));
+    set_status(GetMensaje(message::reorganising_1));
     Array<ObjCad>& objects = state::cad.ObjsCad;
     if (holds_no_entity(objects))
         return origin_not_on_shape();

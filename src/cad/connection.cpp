@@ -37,7 +37,7 @@ void look_for_application() {
     acad().AcadApp.reset();
     trap([] { acad().AcadApp = platform().cad.GetObject(); }, [](const RuntimeError&) {});
     if (!acad().AcadApp)
-        trap([] { MuestraMensaje(mensaje::cad_not_open); }, [](const RuntimeError&) {});
+        trap([] { MuestraMensaje(message::cad_not_open); }, [](const RuntimeError&) {});
 }
 
 void clear_names() {

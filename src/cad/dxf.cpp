@@ -38,9 +38,9 @@ bool has_known_version(DxfText& text) {
 }
 
 void report_version(std::string_view fichero) {
-    std::string box = GetMensaje(mensaje::file_version);
+    std::string box = GetMensaje(message::file_version);
     box.append(" ").append(fichero).append(" ");
-    box += GetMensaje(mensaje::version_not_supported);
+    box += GetMensaje(message::version_not_supported);
     state::program.Respuesta =
         static_cast<std::int16_t>(MsgBox(box, buttons::critical, box_title()));
 }
@@ -69,7 +69,7 @@ void load(std::string_view fichero, DxfText& text) {
     else
         report_version(fichero);
     state::loading.files.close(1);
-    set_status(GetMensaje(mensaje::reorganising_1));
+    set_status(GetMensaje(message::reorganising_1));
     set_pointer(11);
     state::Velmora.pbar2.Value = state::Velmora.pbar2.Max;
     walk_dxf();

@@ -147,7 +147,7 @@ class Conversion {
 } // namespace
 
 void PuntosALineas() {
-    set_status(GetMensaje(mensaje::points_to_lines));
+    set_status(GetMensaje(message::points_to_lines));
     if (HayPuntos() == True)
         return;
     Conversion conversion(state::cad.ObjsCad);

@@ -22,11 +22,11 @@ constexpr auto kExceptionInCad = static_cast<std::int32_t>(0x80020009U);
 
 bool connected_with_document() {
     if (state::cad.AcadOpen == False) {
-        MuestraMensaje(mensaje::cad_not_open);
+        MuestraMensaje(message::cad_not_open);
         return false;
     }
     if (state::cad.AcadDocLoaded == False) {
-        MuestraMensaje(mensaje::no_document);
+        MuestraMensaje(message::no_document);
         return false;
     }
     return true;
@@ -43,7 +43,7 @@ int ask_point() {
     DoEvents();
     trap(
         [] {
-            state::cad.AcadPunto = connected_document()->GetPoint(GetMensaje(mensaje::pick_start));
+            state::cad.AcadPunto = connected_document()->GetPoint(GetMensaje(message::pick_start));
         },
         keep_number);
     return error;
@@ -76,14 +76,14 @@ Flag SelOrigen() {
     if (!connected_with_document())
         return False;
     state::cad.SelOrigenActivo = True;
-    set_status(GetMensaje(mensaje::use_alt_tab));
+    set_status(GetMensaje(message::use_alt_tab));
     if (ask_until_answered() != 0) {
-        MuestraMensaje(mensaje::wrong_point);
+        MuestraMensaje(message::wrong_point);
         return False;
     }
     take_origin();
     state::document.LoadOk = 0;
-    set_status(GetMensaje(mensaje::capturing));
+    set_status(GetMensaje(message::capturing));
     state::cad.SelOrigenActivo = False;
     return True;
 }

@@ -14,8 +14,8 @@ namespace velmora {
 
 void CargaImagen() {
     FileRequest request;
-    request.title = GetMensaje(mensaje::open_title);
-    request.filter = GetMensaje(mensaje::picture_filter);
+    request.title = GetMensaje(message::open_title);
+    request.filter = GetMensaje(message::picture_filter);
     request.folder =
         state::document.LastDir.empty() ? state::program.program_folder : state::document.LastDir;
     const std::string file = platform().dialogs.open_file(request);

@@ -122,7 +122,7 @@ void draw_glyphs(Surface& pic) {
 
 void draw_selection(Surface& pic) {
     pic.set_pen(state::settings.cl_lineas);
-    if (!hay_seleccion() || state::view.PtosToInsertMode)
+    if (!has_selection() || state::view.PtosToInsertMode)
         return;
     const double x = canvas_x(Forma.Pto[state::document.PtoSel].X);
     const double y = canvas_y(Forma.Pto[state::document.PtoSel].Y);
@@ -155,7 +155,7 @@ void draw_shape(Surface& pic) {
 void report(const RuntimeError& failure) {
     switch (failure.number) {
     case error::overflow:
-        MuestraMensaje(mensaje::too_large_to_draw);
+        MuestraMensaje(message::too_large_to_draw);
         return;
     case error::subscript:
         return;
@@ -167,8 +167,8 @@ void report(const RuntimeError& failure) {
 } // namespace
 
 void Dibuja() {
-    if (!hay_forma() && !state::view.PtosToInsertMode) {
-        MuestraMensaje(mensaje::no_shape);
+    if (!has_shape() && !state::view.PtosToInsertMode) {
+        MuestraMensaje(message::no_shape);
         return;
     }
     Surface& pic = platform().pic;

@@ -95,7 +95,7 @@ void carry_out(int KeyCode) {
     case key::Esc:
         return leave_modes();
     default:
-        if (hay_seleccion())
+        if (has_selection())
             change_selected(KeyCode);
     }
 }

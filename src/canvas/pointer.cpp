@@ -80,7 +80,7 @@ void move_shape() {
 void drop_shape(float X, float Y) {
     state::view.DestX = world_x(X);
     state::view.DestY = world_y(Y);
-    if (hay_seleccion())
+    if (has_selection())
         move_shape();
     state::view.MoveShapeMode = False;
     state::Velmora.pic_MousePointer = 0;
@@ -113,7 +113,7 @@ void remove_last_point() {
 
 void edit_by_hand(int Button, float X, float Y) {
     if (Button == kRightButton && Forma.Pto.upper() < 3) {
-        MuestraMensaje(mensaje::no_more_deletions);
+        MuestraMensaje(message::no_more_deletions);
         return;
     }
     if (Button == kLeftButton)
@@ -204,7 +204,7 @@ void pic_MouseUp(int Button, int, float X, float Y) {
 }
 
 void pic_MenuKey() {
-    if (!no_point_can_be_picked() && hay_seleccion())
+    if (!no_point_can_be_picked() && has_selection())
         open_menu_of_selected();
 }
 

@@ -21,7 +21,7 @@ namespace {
 /// Also after a capture that took nothing, on purpose: then it works on the shape that was there.
 void scale_and_refresh() {
     if (state::options.RedimCapture != False &&
-        MuestraMensaje(mensaje::offer_unit_scale) == answer::yes)
+        MuestraMensaje(message::offer_unit_scale) == answer::yes)
         ScaleToUnit();
     Apply_Precision();
     Define_Layout();

@@ -68,7 +68,7 @@ void reset_counts() {
 // Both steps go by what stands afterwards: a cancelled window refreshes an outline too.
 void mnu_newfile() {
     platform().windows.show_modal("New_Dat");
-    if (hay_forma()) {
+    if (has_shape()) {
         Apply_Precision();
         Define_Layout();
         Dibuja();

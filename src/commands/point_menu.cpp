@@ -24,16 +24,16 @@ constexpr int kUpArrow = 10;
 
 void Delete_N_Ptos() {
     if (Forma.Pto.upper() < 3)
-        MuestraMensaje(mensaje::no_more_deletions);
+        MuestraMensaje(message::no_more_deletions);
     else
         platform().windows.show_modal("del_Npto");
 }
 
 void Rotate() {
-    if (!hay_seleccion())
+    if (!has_selection())
         return;
     const double angle = runtime::Val(
-        InputBox(GetMensaje(mensaje::rotation_angle), GetMensaje(mensaje::rotation_title), "0"));
+        InputBox(GetMensaje(message::rotation_angle), GetMensaje(message::rotation_title), "0"));
     if (angle == 0)
         return;
     rotate_about(Forma.Pto[state::document.PtoSel], angle);
@@ -46,14 +46,14 @@ void Rotate() {
 // Set_00, set_10 and set_x0 leave the list, the figures and the canvas's origin as they were, on
 // purpose: a later command refreshes them.
 void Set_00() {
-    if (!hay_seleccion())
+    if (!has_selection())
         return;
     translate_to_origin(Forma.Pto[state::document.PtoSel]);
     Dibuja_unless_NoRedraw();
 }
 
 void set_10() {
-    if (!hay_seleccion())
+    if (!has_selection())
         return;
     Forma.Pto[state::document.PtoSel].X = 1.0;
     Forma.Pto[state::document.PtoSel].Y = 0.0;
@@ -61,19 +61,19 @@ void set_10() {
 }
 
 void set_x0() {
-    if (!hay_seleccion())
+    if (!has_selection())
         return;
     Forma.Pto[state::document.PtoSel].Y = 0.0;
     Dibuja_unless_NoRedraw();
 }
 
 void Move_Shape() {
-    if (!hay_seleccion())
+    if (!has_selection())
         return;
     state::view.MoveShapeMode = True;
     state::Velmora.pic_MousePointer = kUpArrow;
     state::view.DestX = state::view.DestY = 0;
-    set_status(GetMensaje(mensaje::pick_new_place));
+    set_status(GetMensaje(message::pick_new_place));
 }
 
 } // namespace velmora

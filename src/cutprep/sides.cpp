@@ -35,14 +35,14 @@ constexpr std::string_view kNotice =
 std::string ask_for_path() {
     if (state::document.LastDir.empty())
         state::document.LastDir = state::program.program_folder;
-    return platform().dialogs.open_file({.title = GetMensaje(mensaje::open_title),
+    return platform().dialogs.open_file({.title = GetMensaje(message::open_title),
                                          .filter = "DAT Files |*.DAT",
                                          .folder = state::document.LastDir,
                                          .name = {}});
 }
 
 void refuse(std::string_view path) {
-    MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), path, GetMensaje(mensaje::not_loaded)}),
+    MsgBox(joined_by_blanks({GetMensaje(message::the_file), path, GetMensaje(message::not_loaded)}),
            buttons::critical, box_title());
     set_pointer(0);
 }
@@ -68,7 +68,7 @@ void compare_sync_totals() {
     window.cmd_opt_enabled =
         runtime::Val(window.TxtTotalCtrlPtos_B) == runtime::Val(window.TxtTotalCtrlPtos_A);
     if (!window.cmd_opt_enabled)
-        MuestraMensaje(mensaje::sync_totals_differ);
+        MuestraMensaje(message::sync_totals_differ);
 }
 
 void select_side(const Side& side, const Side& other, void (*draw)()) {

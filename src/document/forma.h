@@ -34,7 +34,7 @@ struct FormaDocument {
 extern FormaDocument Forma;
 
 /// The document holds a shape: upper bound of 1 or more. A single point is none, on purpose.
-inline bool hay_forma() {
+inline bool has_shape() {
     return Forma.Pto.upper() >= 1;
 }
 

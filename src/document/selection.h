@@ -8,7 +8,7 @@ namespace velmora {
 
 /// A point is selected. An index beyond the array, as a recent file or Close can leave it, counts
 /// as no selection.
-[[nodiscard]] inline bool hay_seleccion() {
+[[nodiscard]] inline bool has_selection() {
     return state::document.PtoSel >= 0 && state::document.PtoSel <= Forma.Pto.upper();
 }
 

@@ -19,8 +19,8 @@ bool CoordinateLimit::admits(const Pto& stored) {
 
 bool CoordinateLimit::offer_scaling() const {
     const std::string text = joined_by_blanks(
-        {GetMensaje(mensaje::the_file), path_, GetMensaje(mensaje::coordinates_over),
-         CStr(state::loading.LimiteCoord) + "!", GetMensaje(mensaje::offer_scaling)});
+        {GetMensaje(message::the_file), path_, GetMensaje(message::coordinates_over),
+         CStr(state::loading.LimiteCoord) + "!", GetMensaje(message::offer_scaling)});
     state::program.Respuesta =
         static_cast<std::int16_t>(MsgBox(text, buttons::yes_no + buttons::critical, box_title()));
     if (state::program.Respuesta != answer::ok)

@@ -46,8 +46,8 @@ FileFormat read_dialect(std::string_view path) {
 
 void report_undecided(std::string_view shown_path, const RuntimeError& failure) {
     state::loading.files.abandon(1);
-    MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), shown_path,
-                             GetMensaje(mensaje::too_few_lines),
+    MsgBox(joined_by_blanks({GetMensaje(message::the_file), shown_path,
+                             GetMensaje(message::too_few_lines),
                              "Error GetFileFormat  nº:" + std::to_string(failure.number),
                              "Desc: " + description_of(failure)}));
 }

@@ -39,30 +39,30 @@ struct PlainFormat {
 };
 
 constexpr auto kPlainFormats = std::to_array<PlainFormat>({
-    {"SCR", CargaSCR, mensaje::format_scr},
-    {"CUT", CargaCUT, mensaje::format_cut},
-    {"DXF", CargaDXF, mensaje::format_dxf},
+    {"SCR", CargaSCR, message::format_scr},
+    {"CUT", CargaCUT, message::format_cut},
+    {"DXF", CargaDXF, message::format_dxf},
 });
 
 /// The texts of the dialects, by their code.
 constexpr std::array<int, 6> kDialectTexts = {0,
-                                              mensaje::format_slws,
-                                              mensaje::format_slwsinc,
-                                              mensaje::format_noslw,
-                                              mensaje::format_slwmd,
-                                              mensaje::format_profili};
+                                              message::format_slws,
+                                              message::format_slwsinc,
+                                              message::format_noslw,
+                                              message::format_slwmd,
+                                              message::format_profili};
 
 std::string ask_for_path() {
     if (state::document.LastDir.empty())
         state::document.LastDir = state::program.program_folder;
-    return platform().dialogs.open_file({.title = GetMensaje(mensaje::open_title),
-                                         .filter = GetMensaje(mensaje::open_filter),
+    return platform().dialogs.open_file({.title = GetMensaje(message::open_title),
+                                         .filter = GetMensaje(message::open_filter),
                                          .folder = state::document.LastDir,
                                          .name = {}});
 }
 
 void show_reading(std::string_view path) {
-    set_status(GetMensaje(mensaje::loading) + " " + runtime::UCase(path));
+    set_status(GetMensaje(message::loading) + " " + runtime::UCase(path));
 }
 
 /// Reads the file by the reader of its kind and gives the format's text. Where the kind is not
@@ -106,8 +106,8 @@ void show_figures() {
 }
 
 void take_in(const std::string& path, const std::string& format_text) {
-    set_status(GetMensaje(mensaje::loaded) + " " + runtime::UCase(SoloNombre(path)) +
-               GetMensaje(mensaje::type) + " " + format_text);
+    set_status(GetMensaje(message::loaded) + " " + runtime::UCase(SoloNombre(path)) +
+               GetMensaje(message::type) + " " + format_text);
     state::document.FileName = path;
     show_figures();
     state::Velmora.TxtDat_File = state::document.FileName;
@@ -116,7 +116,7 @@ void take_in(const std::string& path, const std::string& format_text) {
 
 void refuse(const std::string& path, const std::string& format_text) {
     MsgBox(joined_by_blanks(
-               {GetMensaje(mensaje::the_file), path, GetMensaje(mensaje::not_loaded), format_text}),
+               {GetMensaje(message::the_file), path, GetMensaje(message::not_loaded), format_text}),
            buttons::critical, box_title());
     set_pointer(0);
 }
@@ -227,8 +227,8 @@ void Check00() {
     if (has_origin())
         return;
     const int reply =
-        MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), state::document.FileName,
-                                 GetMensaje(mensaje::no_origin)}),
+        MsgBox(joined_by_blanks({GetMensaje(message::the_file), state::document.FileName,
+                                 GetMensaje(message::no_origin)}),
                buttons::yes_no + buttons::question, box_title());
     if (reply == answer::yes)
         move_to_origin(GetMinXPos());

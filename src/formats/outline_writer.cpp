@@ -47,7 +47,7 @@ void write_closed_outline(Write&& write) {
 bool ensure_sync_point() {
     if (HayPuntosSinc())
         return true;
-    if (MuestraMensaje(mensaje::add_origin_sync) != answer::ok)
+    if (MuestraMensaje(message::add_origin_sync) != answer::ok)
         return false;
     Forma.Pto[0].Sinc = 1;
     return true;
@@ -93,7 +93,7 @@ void write_point_lines(char between) {
 
 /// The forms that can't hold sync points ask first.
 bool may_lose_sync_points() {
-    return !HayPuntosSinc() || MuestraMensaje(mensaje::sync_points_lost) != answer::no;
+    return !HayPuntosSinc() || MuestraMensaje(message::sync_points_lost) != answer::no;
 }
 
 std::int16_t write_script() {

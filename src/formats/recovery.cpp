@@ -100,7 +100,7 @@ constexpr auto kKeptTexts = std::to_array<KeptText>({
 
 std::string save_recovery() noexcept {
     try {
-        if (!hay_forma())
+        if (!has_shape())
             return {};
         for (const std::string& folder : places())
             if (std::string path = try_to_save_in(folder); !path.empty())

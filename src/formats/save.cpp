@@ -39,7 +39,7 @@ std::string offered_name() {
 
 std::string ask_for_path() {
     return platform().dialogs.save_file(
-        {.title = GetMensaje(mensaje::save_title),
+        {.title = GetMensaje(message::save_title),
          .filter = state::document.DefExt + " | *" + state::document.DefExt,
          .folder = state::program.program_folder,
          .name = offered_name(),
@@ -57,8 +57,8 @@ std::string with_extension(const std::string& path) {
 }
 
 int ask_to_overwrite() {
-    return MsgBox(joined_by_blanks({GetMensaje(mensaje::the_file), state::document.FileName,
-                                    GetMensaje(mensaje::overwrite)}),
+    return MsgBox(joined_by_blanks({GetMensaje(message::the_file), state::document.FileName,
+                                    GetMensaje(message::overwrite)}),
                   buttons::yes_no_cancel + buttons::question, box_title());
 }
 
@@ -83,7 +83,7 @@ bool choose_path() {
 void ask_for_description() {
     std::string& description = state::Velmora.TxtDescDat;
     description = without_control_characters(
-        InputBox(GetMensaje(mensaje::ask_description), box_title(), description));
+        InputBox(GetMensaje(message::ask_description), box_title(), description));
     if (description.empty())
         description = SoloNombre(state::document.FileName);
 }
@@ -101,7 +101,7 @@ void run_save_dialog() {
 
 /// A precision below 1 is only put right by this press; nothing is written.
 void reset_precision() {
-    MuestraMensaje(mensaje::precision_too_low);
+    MuestraMensaje(message::precision_too_low);
     platform().windows.set_focus("winoptions", "TxtPrecision");
     set_TxtPrecision("1");
     state::options.Precision = 1;
@@ -111,9 +111,9 @@ void report_created() {
     if (!runtime::file_exists(state::document.FileName))
         return;
     const bool script = runtime::UCase(state::document.FileName).find(".SCR") != std::string::npos;
-    const int praise = script ? mensaje::created_script : mensaje::created_dat;
+    const int praise = script ? message::created_script : message::created_dat;
     MsgBox(
-        joined_by_blanks({GetMensaje(mensaje::file), state::document.FileName, GetMensaje(praise)}),
+        joined_by_blanks({GetMensaje(message::file), state::document.FileName, GetMensaje(praise)}),
         buttons::information, box_title());
 }
 
@@ -139,8 +139,8 @@ void GeneraFichero() {
     set_pointer(kDefaultPointer);
     if (written == False)
         return;
-    set_status(GetMensaje(mensaje::file) + " " + runtime::UCase(state::document.FileName) + " " +
-               GetMensaje(mensaje::created));
+    set_status(GetMensaje(message::file) + " " + runtime::UCase(state::document.FileName) + " " +
+               GetMensaje(message::created));
     if (state::program.Sound == 1)
         platform().shell.play(program_file("\\mdbwav1.wav"));
     UpdateFileMenu(state::Velmora.TxtDat_File);

@@ -50,7 +50,7 @@ void count_repeats(const Array<Pto>& points, std::int32_t& removed) {
 void OptimizaPtos() {
     if (Forma.Pto.upper() <= 2)
         return;
-    LongOperation operation(GetMensaje(mensaje::optimising));
+    LongOperation operation(GetMensaje(message::optimising));
     std::int32_t removed = 0;
     Array<Pto> scratch = without_runs(Forma.Pto, &Pto::X, removed);
     scratch = without_runs(scratch, &Pto::Y, removed);
@@ -58,7 +58,7 @@ void OptimizaPtos() {
     count_repeats(Forma.Pto, removed);
     state::document.PtosSuprimidos = removed;
     show_count(state::wininfo.TxtPtosSupr, removed);
-    operation.finish(GetMensaje(mensaje::optimised));
+    operation.finish(GetMensaje(message::optimised));
 }
 
 } // namespace velmora

@@ -34,7 +34,7 @@ namespace {
 
 constexpr std::string_view kWindow = "New_Dat";
 constexpr std::int32_t kFewestCirclePoints = 4;
-constexpr auto kNames = std::to_array<int>({mensaje::square, mensaje::triangle, mensaje::circle});
+constexpr auto kNames = std::to_array<int>({message::square, message::triangle, message::circle});
 constexpr int kTriangle = 1;
 constexpr int kCircle = 2;
 
@@ -81,10 +81,10 @@ void ask_circle_points() {
     const std::int32_t& points = state::New_Dat.circle_points;
     ignoring_errors([&] {
         take_circle_points(
-            InputBox(GetMensaje(mensaje::ask_circle_points) + " ", box_title(), CStr(points)));
+            InputBox(GetMensaje(message::ask_circle_points) + " ", box_title(), CStr(points)));
     });
     while (points < kFewestCirclePoints)
-        take_circle_points(InputBox(GetMensaje(mensaje::circle_points_too_few) + " ", box_title(),
+        take_circle_points(InputBox(GetMensaje(message::circle_points_too_few) + " ", box_title(),
                                     CStr(kFewestCirclePoints)));
 }
 

@@ -115,7 +115,7 @@ void reset_numbers() {
 
 std::string credit() {
     std::string text;
-    trap([&] { text = GetMensaje(mensaje::credit); }, [](const RuntimeError&) {});
+    trap([&] { text = GetMensaje(message::credit); }, [](const RuntimeError&) {});
     return text;
 }
 
@@ -131,9 +131,9 @@ void take_colours() {
 
 void tell_of_data_files() {
     for (const std::string& file : state::program.kept_aside)
-        MsgBox(GetMensaje(mensaje::kept_aside) + "\n\n" + file, buttons::information, box_title());
+        MsgBox(GetMensaje(message::kept_aside) + "\n\n" + file, buttons::information, box_title());
     if (!state::program.language_database_fault.empty())
-        MsgBox(GetMensaje(mensaje::stand_in_texts) + "\n\n" +
+        MsgBox(GetMensaje(message::stand_in_texts) + "\n\n" +
                    state::program.language_database_fault,
                buttons::exclamation, box_title());
     state::program.kept_aside.clear();
@@ -211,7 +211,7 @@ void Velmora_QueryUnload() {
 void SalVelmora(std::int16_t& cancel) {
     if (state::program.ExitConfirmed != 0)
         return;
-    if (MuestraMensaje(mensaje::confirm_exit) != answer::yes) {
+    if (MuestraMensaje(message::confirm_exit) != answer::yes) {
         cancel = True;
         state::program.ExitConfirmed = 1;
         return;
@@ -230,7 +230,7 @@ void AbreEdicion() {
     if (runtime::file_exists(file))
         platform().shell.open(file);
     else
-        MuestraMensaje(mensaje::file_not_found);
+        MuestraMensaje(message::file_not_found);
 }
 
 } // namespace velmora

@@ -37,7 +37,7 @@ Flag EnviaMail(std::string_view direccion, std::string_view asunto, std::string_
 void open_web_page() {
     const std::string page = deployment().web_page;
     if (page.empty()) {
-        set_status(GetMensaje(mensaje::no_web_page));
+        set_status(GetMensaje(message::no_web_page));
         return;
     }
     platform().shell.open(page);
@@ -46,7 +46,7 @@ void open_web_page() {
 void write_to_support() {
     const std::string address = deployment().support_address;
     if (address.empty()) {
-        set_status(GetMensaje(mensaje::no_support_address));
+        set_status(GetMensaje(message::no_support_address));
         return;
     }
     EnviaMail(address, "Velmora Ver: " + state::program.Ver + "-" + version_in_brackets(), "", "",

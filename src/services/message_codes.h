@@ -1,7 +1,7 @@
 // The numbers of the messages in the language database, by what they say.
 #pragma once
 
-namespace velmora::mensaje {
+namespace velmora::message {
 
 inline constexpr int confirm_exit = 4;
 inline constexpr int open_title = 5;
@@ -94,4 +94,4 @@ inline constexpr int stand_in_texts = 111;
 inline constexpr int open_filter = 132;
 inline constexpr int picture_filter = 144;
 
-} // namespace velmora::mensaje
+} // namespace velmora::message

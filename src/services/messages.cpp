@@ -58,9 +58,9 @@ Message look_up(int codigo) {
 /// What the eye is shown where the table names no icon: a question, a loss to think over, a note,
 /// or that something was not done.
 int icon_for(int codigo, int coded) {
-    if (codigo == mensaje::sync_points_lost)
+    if (codigo == message::sync_points_lost)
         return buttons::exclamation;
-    if (codigo == mensaje::language_next_start)
+    if (codigo == message::language_next_start)
         return buttons::information;
     return coded == buttons::ok ? buttons::exclamation : buttons::question;
 }

@@ -23,7 +23,7 @@ bool passes(const NumericBox& box, int code) {
 int numeric_key(const NumericBox& box, int code) {
     if (passes(box, code))
         return code;
-    MuestraMensaje(mensaje::only_numbers);
+    MuestraMensaje(message::only_numbers);
     reset_box(box);
     return 0;
 }

@@ -102,7 +102,7 @@ void take_language() {
     const std::string code = code_of_language(state::setup.Cmb_Lang);
     if (code == state::program.Idioma)
         return;
-    MuestraMensaje(mensaje::language_next_start);
+    MuestraMensaje(message::language_next_start);
     state::program.Idioma = code;
 }
 
@@ -176,11 +176,11 @@ int Txt_Def_zoom_Val_KeyPress(int key) {
 }
 
 void Txt_Def_Arc_Val_LostFocus() {
-    refuse_below_3(arc_box(), mensaje::arc_minimum);
+    refuse_below_3(arc_box(), message::arc_minimum);
 }
 
 void Txt_Def_Circle_Val_LostFocus() {
-    refuse_below_3(circle_box(), mensaje::circle_minimum);
+    refuse_below_3(circle_box(), message::circle_minimum);
 }
 
 void setup_cmd_ok_Click() {

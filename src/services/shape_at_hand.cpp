@@ -7,9 +7,9 @@
 namespace velmora {
 
 bool shape_at_hand() {
-    if (hay_forma())
+    if (has_shape())
         return true;
-    MuestraMensaje(mensaje::no_shape);
+    MuestraMensaje(message::no_shape);
     return false;
 }
 

@@ -116,7 +116,7 @@ void Txt_JumpPoints_Change() {
     }
     const double step = left_between + 1;
     if (step * count() > window.MaxDel) {
-        MuestraMensaje(mensaje::too_many_deletions);
+        MuestraMensaje(message::too_many_deletions);
         put_text(window.Txt_JumpPoints, "0", Txt_JumpPoints_Change);
         return;
     }
@@ -134,7 +134,7 @@ int Txt_Numpoints2del_KeyPress(int key) {
 void Txt_Numpoints2del_LostFocus() {
     const double points = count();
     if (points > state::del_Npto.MaxDel)
-        MuestraMensaje(mensaje::too_many_deletions);
+        MuestraMensaje(message::too_many_deletions);
     else if (points >= 0)
         return;
     reset_box(count_box());
@@ -148,11 +148,11 @@ void del_Npto_cmd_ok_Click() {
         return reset_box(count_box());
     const double last = runtime::Int(points - 1);
     if (!fits(last))
-        return void(MuestraMensaje(mensaje::too_many_deletions));
+        return void(MuestraMensaje(message::too_many_deletions));
     Array<Pto> kept = kept_of(marked_outline(runtime::to_int32(last)));
     Forma.Pto.swap(kept);
     --state::document.PtoSel;
-    if (!hay_seleccion())
+    if (!has_selection())
         state::document.PtoSel = 0;
     Dibuja();
     show_TotalPtos(Forma.Pto.upper() - 1);

@@ -90,11 +90,11 @@ void Combo1_Click() {
 void ActualizaNuevoN() {
     const double total = factor() * static_cast<double>(Forma.Pto.size());
     if (total < kTooManyPoints) {
-        state::Mult_Ptos.lbl_New_NPoints = GetMensaje(mensaje::new_point_count) + " " + CStr(total);
+        state::Mult_Ptos.lbl_New_NPoints = GetMensaje(message::new_point_count) + " " + CStr(total);
         state::Mult_Ptos.cmd_ok_enabled = true;
         return;
     }
-    MuestraMensaje(mensaje::too_many_points);
+    MuestraMensaje(message::too_many_points);
     put_text(state::Mult_Ptos.Combo1, "2", Combo1_Change);
     state::Mult_Ptos.cmd_ok_enabled = false;
 }

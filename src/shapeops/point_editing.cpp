@@ -87,7 +87,7 @@ void remove_selected() {
 // The point at PtoSel loses its sync mark. Before the first point that is the old first one, and
 // the sync total does not follow: on purpose.
 void Insert_Pto() {
-    if (!hay_seleccion())
+    if (!has_selection())
         raise(error::subscript);
     make_room(state::document.PtoSel, 1);
     if (state::document.PtoSel > 0)
@@ -103,10 +103,10 @@ void Delete_Pto() {
     if (!shape_at_hand())
         return;
     if (Forma.Pto.upper() <= 2) {
-        MuestraMensaje(mensaje::no_more_deletions);
+        MuestraMensaje(message::no_more_deletions);
         return;
     }
-    if (!hay_seleccion())
+    if (!has_selection())
         return;
     if (Forma.Pto[state::document.PtoSel].Sinc == 1)
         step_TotalSinc(-1);
@@ -118,7 +118,7 @@ void Delete_Pto() {
 // Only the turn by one clears the old first point's mark, and only the longer turn refreshes: on
 // purpose. PtoSel does not follow its point.
 void Set_CutStart() {
-    if (!hay_seleccion() || state::document.PtoSel == 0)
+    if (!has_selection() || state::document.PtoSel == 0)
         return;
     const auto points = Forma.Pto.all();
     if (state::document.PtoSel == 1)
@@ -133,7 +133,7 @@ void Set_CutStart() {
 // The shown count is the upper bound less one, and the sync total does not count the new start: on
 // purpose, the next Define_Layout and the sync commands put them right.
 void insert_ini() {
-    if (!hay_seleccion())
+    if (!has_selection())
         raise(error::subscript);
     const std::int32_t s = state::document.PtoSel;
     const Pto c = Forma.Pto[s];
@@ -151,7 +151,7 @@ void insert_ini() {
 
 // The mark on point 0 is how Esc finds the old first point again.
 void Insert_N_Ptos() {
-    if (!hay_seleccion())
+    if (!has_selection())
         return;
     state::document.PtoSelAnt = state::document.PtoSel;
     for (Pto& point : Forma.Pto.all())

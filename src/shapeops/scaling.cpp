@@ -85,11 +85,11 @@ void scale_xy(double xval, double yval, std::int16_t by_size) {
 } // namespace
 
 void ScaleToUnit() {
-    framed("Error ScaleToUnit nº: ", mensaje::scaling, mensaje::scaled, scale_to_unit);
+    framed("Error ScaleToUnit nº: ", message::scaling, message::scaled, scale_to_unit);
 }
 
 void ScaleXY(double xval, double yval, std::int16_t by_size) {
-    framed("Error ScaleXY nº: ", mensaje::scaling, mensaje::scaled,
+    framed("Error ScaleXY nº: ", message::scaling, message::scaled,
            [&] { scale_xy(xval, yval, by_size); });
 }
 

@@ -20,7 +20,7 @@ namespace velmora {
 namespace {
 
 void flip_selected(std::int16_t from, std::int16_t to, std::int32_t step) {
-    if (!hay_seleccion() || Forma.Pto[state::document.PtoSel].Sinc != from)
+    if (!has_selection() || Forma.Pto[state::document.PtoSel].Sinc != from)
         return;
     Forma.Pto[state::document.PtoSel].Sinc = to;
     step_TotalSinc(step);
@@ -74,7 +74,7 @@ void Pts_To_Next_Sinc() {
     const auto plain = points_to_next_sinc();
     if (!plain)
         return;
-    MsgBox(GetMensaje(mensaje::points_to_next_sync) + " " + CStr(*plain), buttons::information,
+    MsgBox(GetMensaje(message::points_to_next_sync) + " " + CStr(*plain), buttons::information,
            box_title());
 }
 

@@ -39,7 +39,7 @@ void PositivaY(double offset) {
 }
 
 void Positivarfrma() {
-    framed("Error Positivarfrma nº: ", mensaje::making_positive, mensaje::made_positive, [] {
+    framed("Error Positivarfrma nº: ", message::making_positive, message::made_positive, [] {
         const double min_y = GetMinY("0");
         const double min_x = GetMinX("0");
         if (min_y < 0)
@@ -50,22 +50,22 @@ void Positivarfrma() {
 }
 
 void MirrorHorDat() {
-    framed("Error MirrorHorDat nº: ", mensaje::mirroring_horizontal, mensaje::mirrored_horizontal,
+    framed("Error MirrorHorDat nº: ", message::mirroring_horizontal, message::mirrored_horizontal,
            [] { negate(&Pto::X); });
 }
 
 void MirrorVerDat() {
-    framed("Error MirrorVerDat nº: ", mensaje::mirroring_vertical, mensaje::mirrored_vertical,
+    framed("Error MirrorVerDat nº: ", message::mirroring_vertical, message::mirrored_vertical,
            [] { negate(&Pto::Y); });
 }
 
 void InvertDat() {
-    framed("Error InvertDat nº: ", mensaje::inverting, mensaje::inverted,
+    framed("Error InvertDat nº: ", message::inverting, message::inverted,
            [] { std::ranges::reverse(Forma.Pto.all().subspan(1)); });
 }
 
 void Apply_Precision() {
-    framed("Error Apply_Precision nº: ", mensaje::applying_precision, mensaje::precision_applied,
+    framed("Error Apply_Precision nº: ", message::applying_precision, message::precision_applied,
            [] {
                const int decimals = runtime::to_int16(state::options.Precision);
                for (Pto& point : Forma.Pto.all()) {

@@ -62,7 +62,7 @@ TEST(OBJS2PTS, a_square_of_four_lines_becomes_four_points) {
     EXPECT_EQ(session.wininfo.TxtPtosSupr, "0");
     EXPECT_EQ(session.ObjsCad.upper(), 0);
     EXPECT_FALSE(session.ObjsCad[0].Ptos.dimensioned());
-    EXPECT_EQ(session.Velmora.StatusBar1, GetMensaje(mensaje::reorganising_2));
+    EXPECT_EQ(session.Velmora.StatusBar1, GetMensaje(message::reorganising_2));
     EXPECT_EQ(session.Velmora.Pbar1.Max, 4);
     EXPECT_EQ(session.Velmora.Pbar1.Value, 4);
     EXPECT_EQ(session.Velmora.MousePointer, 0);

@@ -147,7 +147,7 @@ TEST_F(CaptureTest, an_origin_off_the_shape_gives_message_22_and_keeps_the_list)
     capture();
     EXPECT_THAT(shown_texts(), ElementsAre(kOriginNotOnShape));
     EXPECT_EQ(session.ObjsCad.upper(), 1);
-    EXPECT_FALSE(hay_forma());
+    EXPECT_FALSE(has_shape());
 }
 
 TEST_F(CaptureTest, a_given_origin_starts_the_chain) {

@@ -92,7 +92,7 @@ TEST(CaptureWalk, starts_at_the_origin_and_turns_the_first_entity_too) {
     EXPECT_EQ(session.ObjsCad[0].Ptos[0].Y, 10);
     EXPECT_EQ(session.ObjsCad[1].Ptos[0].X, 10);
     EXPECT_EQ(session.Velmora.Pbar1.Value, 2);
-    EXPECT_EQ(session.Velmora.StatusBar1, GetMensaje(mensaje::reorganising_1));
+    EXPECT_EQ(session.Velmora.StatusBar1, GetMensaje(message::reorganising_1));
 }
 
 TEST(CaptureWalk, the_only_entity_of_a_drawing_is_placed_by_the_loop_and_turned_by_it) {
@@ -125,7 +125,7 @@ TEST(CaptureWalk, without_an_entity_at_the_origin_message_22_is_all) {
     EXPECT_EQ(ordenes(), (std::vector<std::int32_t>{-1, -1}));
     EXPECT_EQ(ContarNoUsados(), 2);
     ASSERT_EQ(platform.dialogs.boxes.size(), 1U);
-    EXPECT_EQ(platform.dialogs.boxes[0].text, GetMensaje(mensaje::origin_not_on_shape));
+    EXPECT_EQ(platform.dialogs.boxes[0].text, GetMensaje(message::origin_not_on_shape));
 }
 
 TEST(CaptureWalk, a_drawing_without_entities_shows_message_22) {

@@ -58,15 +58,15 @@ TEST_F(Dxf, a_square_loads) {
     EXPECT_EQ(session.EscalaCarga, 1);
     EXPECT_EQ(session.Velmora.MousePointer, 0);
     EXPECT_EQ(platform.windows.statuses,
-              (std::vector<std::string>{GetMensaje(mensaje::reorganising_1),
-                                        GetMensaje(mensaje::reorganising_2)}));
+              (std::vector<std::string>{GetMensaje(message::reorganising_1),
+                                        GetMensaje(message::reorganising_2)}));
     EXPECT_EQ(session.Velmora.pbar2.Value, session.Velmora.pbar2.Max);
     EXPECT_FALSE(session.files.is_open(1));
     EXPECT_TRUE(boxes().empty());
 }
 
 TEST_F(Dxf, the_hourglass_stands_while_the_entities_are_chained) {
-    const std::string chaining = GetMensaje(mensaje::reorganising_1);
+    const std::string chaining = GetMensaje(message::reorganising_1);
     std::vector<int> seen;
     const test::WatchingTurns turns([&] {
         if (session.Velmora.StatusBar1 == chaining)
@@ -92,9 +92,9 @@ TEST_F(Dxf, other_versions_are_refused_and_end_in_the_error_of_the_empty_list) {
     for (const std::string_view version : {"AC1018", "AC1009", "AC1032", ""}) {
         platform.dialogs.boxes.clear();
         EXPECT_EQ(load(dxf_sheet(dxf_line("0", "0", "1", "1"), version)), -1);
-        const std::vector<ShownBox> expected = {{GetMensaje(mensaje::file_version) + " " + path_ +
+        const std::vector<ShownBox> expected = {{GetMensaje(message::file_version) + " " + path_ +
                                                      " " +
-                                                     GetMensaje(mensaje::version_not_supported),
+                                                     GetMensaje(message::version_not_supported),
                                                  16, "Velmora 1.0"},
                                                 {assembly_failure(), 0, "Velmora"}};
         EXPECT_EQ(boxes(), expected);

@@ -91,7 +91,7 @@ TEST(PuntosALineas, a_run_of_points_becomes_one_line_fewer) {
     PuntosALineas();
     EXPECT_EQ(runs(), (std::vector<std::vector<Place>>{{{0, 0}, {5, 0}}, {{5, 0}, {5, 5}}}));
     EXPECT_EQ(HayPuntos(), True);
-    EXPECT_EQ(session.Velmora.StatusBar1, GetMensaje(mensaje::points_to_lines));
+    EXPECT_EQ(session.Velmora.StatusBar1, GetMensaje(message::points_to_lines));
 }
 
 TEST(PuntosALineas, a_list_without_points_stays_as_it_is) {

@@ -125,7 +125,7 @@ TEST_F(CadCommandsTest, no_picked_origin_no_capture) {
     say({"pick-error 1F"});
     menu_select_orig();
     EXPECT_THAT(shown_texts(), ElementsAre("Punto incorrecto!"));
-    EXPECT_FALSE(hay_forma());
+    EXPECT_FALSE(has_shape());
     EXPECT_THAT(machine.pic.operations, IsEmpty());
 }
 

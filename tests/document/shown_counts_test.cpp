@@ -40,7 +40,7 @@ TEST(Selection, an_index_beyond_the_array_counts_as_none) {
     const std::pair<int, bool> cases[] = {{-1, false}, {0, true}, {2, true}, {3, false}};
     for (const auto& [index, selected] : cases) {
         session.PtoSel = index;
-        EXPECT_EQ(hay_seleccion(), selected) << index;
+        EXPECT_EQ(has_selection(), selected) << index;
     }
 }
 

@@ -96,9 +96,9 @@ TEST_F(PointLines, both_answers_to_the_limits_question_refuse) {
         platform.dialogs.answers = {reply};
         EXPECT_FALSE(limit.offer_scaling());
         std::ostringstream text;
-        text << GetMensaje(mensaje::the_file) << " /a/file.dat "
-             << GetMensaje(mensaje::coordinates_over) << " 25000! "
-             << GetMensaje(mensaje::offer_scaling);
+        text << GetMensaje(message::the_file) << " /a/file.dat "
+             << GetMensaje(message::coordinates_over) << " 25000! "
+             << GetMensaje(message::offer_scaling);
         EXPECT_EQ(platform.dialogs.boxes, (std::vector<ShownBox>{{text.str(), 20, "Velmora 1.0"}}));
         EXPECT_EQ(session.Respuesta, reply);
         EXPECT_EQ(session.EscalaCarga, 1);

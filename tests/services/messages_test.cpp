@@ -60,14 +60,14 @@ TEST_F(MessagesTest, messages_have_an_icon_where_one_helps) {
         int coded;
     };
     const Case cases[] = {
-        {mensaje::confirm_exit, buttons::question, buttons::yes_no},
-        {mensaje::sync_points_lost, buttons::exclamation, buttons::yes_no},
-        {mensaje::add_origin_sync, buttons::question, buttons::ok_cancel},
-        {mensaje::offer_unit_scale, buttons::question, buttons::yes_no},
-        {mensaje::only_numbers, buttons::exclamation, buttons::ok},
-        {mensaje::no_shape, buttons::exclamation, buttons::ok},
-        {mensaje::cad_not_open, buttons::exclamation, buttons::ok},
-        {mensaje::language_next_start, buttons::information, buttons::ok},
+        {message::confirm_exit, buttons::question, buttons::yes_no},
+        {message::sync_points_lost, buttons::exclamation, buttons::yes_no},
+        {message::add_origin_sync, buttons::question, buttons::ok_cancel},
+        {message::offer_unit_scale, buttons::question, buttons::yes_no},
+        {message::only_numbers, buttons::exclamation, buttons::ok},
+        {message::no_shape, buttons::exclamation, buttons::ok},
+        {message::cad_not_open, buttons::exclamation, buttons::ok},
+        {message::language_next_start, buttons::information, buttons::ok},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.message);
@@ -109,7 +109,7 @@ TEST_F(MessagesTest, texts_that_nothing_calls_stand_in_the_table_too) {
 
 TEST_F(MessagesTest, shows_the_box_of_the_row_and_returns_the_answer) {
     machine.dialogs.answers = {answer::no};
-    EXPECT_EQ(MuestraMensaje(mensaje::confirm_exit), answer::no);
+    EXPECT_EQ(MuestraMensaje(message::confirm_exit), answer::no);
     EXPECT_THAT(machine.dialogs.boxes,
                 ElementsAre(ShownBox{"Estás seguro de querer salir de Velmora?", 4, "Velmora"}));
 }
