@@ -96,7 +96,9 @@ class Record {
             return;
         for (const auto& [name, mark] : marks_)
             file.write(mark + ' ' + name + '\n');
-        file.commit();
+        // What a full disk refuses shows here alone: the commit doesn't tell.
+        if (file.flush())
+            file.commit();
     }
 
   private:

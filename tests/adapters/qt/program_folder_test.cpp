@@ -295,6 +295,14 @@ TEST_F(ProgramFolderTest, AFileArrivesWholeOrNotAtAllAndComesAtTheNextStart) {
     EXPECT_EQ(read(places.user_data / "help" / "index.html").size(), 50000U);
 }
 
+TEST_F(ProgramFolderTest, ARecordThatDoesNotFitIsNotBegun) {
+    write(places.installed / "mdbwav0.wav", "sound");
+    const FileLimit full(40);
+    start_in_users_folder();
+    EXPECT_EQ(read(places.user_data / "mdbwav0.wav"), "sound");
+    EXPECT_FALSE(fs::exists(places.user_data / "installed.txt"));
+}
+
 TEST_F(ProgramFolderTest, AFullDiskLeavesTheUsersDatabaseWhereItIs) {
     put_database(places.installed);
     start_in_users_folder();
