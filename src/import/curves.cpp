@@ -73,6 +73,7 @@ void flatten(const EllipseArc& arc, double tolerance, Pieces& pieces) {
 }
 
 void flatten_between(const EllipseArc& arc, double tolerance, Pieces& pieces) {
+    pieces.mark_curved();
     const std::size_t count = chords_of(arc, tolerance);
     for (std::size_t i = 1; i < count && !pieces.full(); ++i) {
         const double part = static_cast<double>(i) / static_cast<double>(count);
@@ -81,6 +82,7 @@ void flatten_between(const EllipseArc& arc, double tolerance, Pieces& pieces) {
 }
 
 void flatten(const Bezier& curve, double tolerance, Pieces& pieces) {
+    pieces.mark_curved();
     const double bend = std::max(length(curve.p0 - 2 * curve.p1 + curve.p2),
                                  length(curve.p1 - 2 * curve.p2 + curve.p3));
     const std::size_t count = count_of(std::sqrt(0.75 * bend / tolerance));

@@ -53,7 +53,7 @@ Drawing read_at_wanted_tolerance(const Choices& choices, Report& report, Read&& 
     Report first_report;
     Drawing drawing = read(first, first_report);
     const double wanted = wanted_tolerance(drawing, choices);
-    if (wanted >= first && wanted <= 2 * first) {
+    if (!drawing.pieces.curved() || (wanted >= first && wanted <= 2 * first)) {
         report.append(first_report);
         return drawing;
     }

@@ -131,6 +131,7 @@ bool is_whole(const Nurbs& curve) {
 }
 
 void flatten(const Nurbs& curve, double tolerance, Pieces& pieces) {
+    pieces.mark_curved();
     for (std::size_t i = curve.degree; i < curve.points.size() && !pieces.full(); ++i) {
         if (curve.knots[i] < curve.knots[i + 1])
             SpanFlattener(Span(curve, i), tolerance, pieces).run();

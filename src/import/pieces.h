@@ -28,6 +28,9 @@ class Pieces {
     void add(const Point& point);
     /// Ends the run that `begin` began; a run without points leaves none.
     void end(bool closed);
+    /// Some of the points stand for a curve, and so follow from the tolerance.
+    void mark_curved() { curved_ = true; }
+    [[nodiscard]] bool curved() const { return curved_; }
     /// Nothing more is taken. Points beyond all numbers count too, since each took its time.
     [[nodiscard]] bool full() const { return offered_ >= most_points; }
 
@@ -46,6 +49,7 @@ class Pieces {
     std::vector<Piece> pieces_;
     Piece open_;
     std::size_t offered_ = 0;
+    bool curved_ = false;
 };
 
 } // namespace velmora::imports

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 namespace velmora::imports {
 
@@ -42,8 +43,21 @@ int followers(std::uint32_t lead) {
     return lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
 }
 
+/// Most text is ASCII, eight bytes of which are looked at in one.
+bool is_ascii_eight(std::string_view bytes, std::size_t i) {
+    std::uint64_t eight = 0;
+    if (i + sizeof eight > bytes.size())
+        return false;
+    std::memcpy(&eight, bytes.data() + i, sizeof eight);
+    return (eight & 0x8080808080808080U) == 0;
+}
+
 bool is_utf8(std::string_view bytes) {
     for (std::size_t i = 0; i < bytes.size(); ++i) {
+        while (is_ascii_eight(bytes, i))
+            i += 8;
+        if (i >= bytes.size())
+            return true;
         int left = followers(byte_at(bytes, i));
         if (left < 0)
             return false;
