@@ -33,7 +33,7 @@ ROOMS = {
 }
 # The headers of abstract services that stand in the room of their subject.
 ABSTRACT = {"canvas/surface.h", "cad/autocad.h"}
-OUTER = ["adapters", "ui", "main.cpp"]
+OUTER = ["adapters", "ui", "main.cpp", "import_tool", "import_main.cpp"]
 
 STANDARD_HEADERS = re.compile(r"^[a-z_]+$")
 TOOLKITS = re.compile(r"/(qt6|Qt[A-Z]\w*)/|/sqlite3\.h|/dbus|/canberra")
