@@ -3,6 +3,9 @@
 
 run_scenario.py DRIVER NAME.scenario            compares with NAME.transcript, byte for byte
 run_scenario.py --print DRIVER NAME.scenario    prints what the driver prints
+
+A transcript may name a long text that many of them have: $NAME stands for the text of that name in
+texts.txt.
 """
 
 import difflib
@@ -12,6 +15,19 @@ import subprocess
 import sys
 import tempfile
 from pathlib import Path
+
+
+def named_texts(folder):
+    """The lines of texts.txt, "NAME TEXT", as they are looked for and put in."""
+    lines = (folder / "texts.txt").read_bytes().splitlines()
+    return {b"$" + name: text for name, text in (line.split(b" ", 1) for line in lines)}
+
+
+def expected_transcript(path):
+    text = path.read_bytes()
+    for name, meant in named_texts(path.parent).items():
+        text = text.replace(name, meant)
+    return text
 
 
 def expected_status(transcript):
@@ -45,7 +61,7 @@ def main():
     if "--print" in sys.argv:
         sys.stdout.buffer.write(done.stdout)
         return done.returncode
-    expected = scenario.with_suffix(".transcript").read_bytes()
+    expected = expected_transcript(scenario.with_suffix(".transcript"))
     if done.stdout != expected:
         print(difference(expected, done.stdout))
         return 1
