@@ -53,7 +53,8 @@ class Endings(unittest.TestCase):
                      "pick", "font Sans big", "font Sans 8 wide", "cad walk", "cad line 0 0 1 1",
                      "copy missing.dat a.dat", "delete", "show values Nothing",
                      "show", "show wings", "trace maybe", "write a \"\\q\"", "type \"open",
-                     "program-file a.txt move", "menu mnu_exit", "close Velmora",
+                     "shape a.dat ala", "shape a.dat ala 1", "program-file a.txt move",
+                     "menu mnu_exit", "close Velmora",
                      "show text Velmora.pic", "row 0", "wait -1"):
             with self.subTest(line):
                 printed = self.assert_fault(f"# first\n{line}\nanswer 1\n", 2)

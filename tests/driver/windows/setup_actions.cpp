@@ -3,6 +3,7 @@
 #include "runtime/paths.h"
 #include "runtime/text.h"
 #include "script/fault.h"
+#include "script/hand_made_dat.h"
 #include "script/numbers.h"
 #include "script/words.h"
 #include "scripted/cad_lines.h"
@@ -167,6 +168,13 @@ void write(Stage& stage, Words words) {
     write_bytes(place_of(stage, words[0]), words[1], std::ios::trunc);
 }
 
+void shape(Stage& stage, Words words) {
+    if (words.size() < 3)
+        fault("the form is shape PATH DESCRIPTION X,Y|X,Y,S ...");
+    write_bytes(place_of(stage, words[0]), hand_made_dat(words[1], words.subspan(2)),
+                std::ios::trunc);
+}
+
 void append(Stage& stage, Words words) {
     want_words(words, 2, "append PATH TEXT");
     write_bytes(place_of(stage, words[0]), words[1], std::ios::app);
@@ -196,6 +204,7 @@ constexpr auto kActions = std::to_array<NamedAction>({
     {"font-cancel", font_cancel},
     {"copy", copy},
     {"write", write},
+    {"shape", shape},
     {"append", append},
     {"delete", delete_file},
     {"cad", cad},
