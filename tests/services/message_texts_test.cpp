@@ -1,8 +1,15 @@
+#include "platform/database.h"
 #include "services/messages.h"
+#include "support/places.h"
 #include "support/recording_platform.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
+#include <regex>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace velmora {
 namespace {
@@ -98,6 +105,33 @@ constexpr std::pair<int, const char*> kTexts[] = {
     {96, "PROFILI - DAT Generado con la utilidad Profili."},
     {98, "Angulo de rotación :"},
 };
+
+/// The names of services/message_codes.h with their numbers.
+std::vector<std::pair<std::string, std::string>> named_messages() {
+    std::ifstream header(test::source_dir() / "src/services/message_codes.h");
+    const std::string text{std::istreambuf_iterator<char>(header), {}};
+    const std::regex constant("constexpr int (\\w+) = (\\d+);");
+    std::vector<std::pair<std::string, std::string>> found;
+    for (std::sregex_iterator it(text.begin(), text.end(), constant), end; it != end; ++it)
+        found.emplace_back((*it)[1], (*it)[2]);
+    return found;
+}
+
+// The catalogue above ends at 98: a message beyond it could go with no test the wiser.
+TEST(MessageTexts, every_message_that_has_a_name_stands_in_every_language) {
+    test::RecordingPlatform machine;
+    const auto named = named_messages();
+    ASSERT_FALSE(named.empty());
+    const auto rows = machine.database->open_recordset("Mensajes", Access::read_only);
+    for (const auto& [name, code] : named) {
+        for (const char* language : {"E", "I", "F", "P", "T"}) {
+            rows->seek({code, language});
+            ASSERT_FALSE(rows->no_match())
+                << name << ": a row " << code << ',' << language << " in data/tables/Mensajes.csv";
+            EXPECT_FALSE(text_of(rows->field("Descripcion")).empty()) << code << language;
+        }
+    }
+}
 
 TEST(MessageTexts, are_those_of_the_catalogue_to_the_letter) {
     test::RecordingPlatform machine;

@@ -24,14 +24,11 @@ struct VelmoraTableTest : testing::Test {
 };
 
 TEST_F(VelmoraTableTest, holds_the_caption_of_every_menu_entry_as_designed) {
-    int entries = 0;
     for (const MenuEntry& entry : menu_entries()) {
         if (entry.caption == "-" || entry.index > 0)
             continue;
         EXPECT_EQ(text(std::string(entry.name), "Descripcion"), entry.caption);
-        ++entries;
     }
-    EXPECT_EQ(entries, 60);
 }
 
 TEST_F(VelmoraTableTest, holds_the_tip_of_every_toolbar_key_by_its_place) {

@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QToolBar>
 #include <QtTest>
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <set>
 
@@ -76,7 +77,9 @@ TEST_F(MenusTest, NoTwoEntriesShareAShortcut) {
         const QString keys = action->shortcut().toString();
         EXPECT_TRUE(keys.isEmpty() || seen.insert(keys).second) << keys.toStdString();
     }
-    EXPECT_EQ(seen.size(), 17U);
+    const auto with_keys = std::ranges::count_if(
+        menu_entries(), [](const MenuEntry& row) { return !row.shortcut.empty(); });
+    EXPECT_EQ(seen.size(), static_cast<std::size_t>(with_keys));
 }
 
 TEST_F(MenusTest, EachBarHoldsItsKeysWithTipAndIcon) {
