@@ -10,13 +10,10 @@
 #include "document/state/cad.h"
 #include "document/state/document.h"
 #include "document/state/loading.h"
-#include "document/state/options.h"
 #include "document/state/program.h"
 #include "document/state/settings.h"
 #include "document/state/view.h"
-#include "document/windows/intro.h"
 #include "document/windows/velmora.h"
-#include "document/windows/winoptions.h"
 #include "platform/database.h"
 #include "platform/dialogs.h"
 #include "platform/machine.h"
@@ -27,8 +24,7 @@
 #include "runtime/text.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
-#include "services/settings.h"
-#include "services/stand_in_database.h"
+#include "services/sound.h"
 #include "services/window_literals.h"
 
 namespace velmora {
@@ -36,59 +32,6 @@ namespace velmora {
 namespace {
 
 constexpr int kGoodbyeMilliseconds = 3000;
-
-void play(std::string_view file) {
-    if (state::program.Sound == 1)
-        platform().shell.play(program_file(file));
-}
-
-void set_version() {
-    state::program.Ver = "1.0";
-    state::program.SubVer = 1011;
-    save_version();
-}
-
-void show_version() {
-    state::intro.lblVer = "Ver. " + state::program.Ver;
-    state::intro.lblsubver = CStr(std::int32_t{state::program.SubVer});
-}
-
-void take_working_copies() {
-    state::options.PutArc = state::settings.Def_Arc;
-    state::options.PutCircle = state::settings.Def_ACircle;
-    state::options.Precision = state::settings.Def_Dec;
-    state::view.ZoomFactor = state::settings.Def_Zoom;
-}
-
-void set_flags() {
-    state::view.ShowPtos = state::view.ShowPtosCtrl = state::options.GenDATSinc =
-        state::view.ShowCoords = True;
-    state::options.OptimizeOnGen = state::options.RedimCapture = True;
-    state::options.GenSCR = state::options.GenDATPerfil = False;
-}
-
-std::string told(const RuntimeError& failure) {
-    return "nº: " + CStr(std::int32_t{failure.number}) + "  - Desc: " + description_of(failure);
-}
-
-// A file that is missing leaves the program with its design texts and without messages. One that
-// can't be read has another in its place, and the user is told.
-void open_language_database() {
-    state::program.language_database_open = false;
-    state::program.language_database_fault.clear();
-    const std::string file = program_file("\\VELMORA.MDB");
-    if (!runtime::file_exists(file))
-        return;
-    trap(
-        [&] {
-            platform().database.open(file);
-            state::program.language_database_open = true;
-        },
-        [&](const RuntimeError& failure) {
-            state::program.language_database_fault = file + "\n" + told(failure);
-            open_stand_in_database();
-        });
-}
 
 void close_language_database() {
     close_messages();
@@ -149,18 +92,6 @@ void end_with_everything_closed() {
 
 } // namespace
 
-void intro_Load() {
-    set_version();
-    state::program.Sound = read_sound();
-    show_version();
-    play("\\mdbwav0.wav");
-    LeeSettings();
-    take_working_copies();
-    set_flags();
-    open_language_database();
-    load_literals("intro");
-}
-
 void Velmora_Load() {
     reset_modes();
     reset_numbers();
@@ -169,25 +100,6 @@ void Velmora_Load() {
     GetRecentFiles();
     take_defaults();
     take_colours();
-}
-
-void wininfo_Load() {
-    load_literals("wininfo");
-}
-
-void winoptions_Load() {
-    load_literals("winoptions");
-    LeeSettings();
-    take_defaults();
-    WinOptions& box = state::winoptions;
-    box.ChkPtos = state::view.ShowPtos != False;
-    box.ChkPtosCtrl = state::view.ShowPtosCtrl != False;
-    box.ChkCoords = state::view.ShowCoords != False;
-    box.ChkDATSinc = state::options.GenDATSinc != False;
-    box.ChkSCR = state::options.GenSCR != False;
-    box.Chk_DATPerfil = state::options.GenDATPerfil != False;
-    box.chk_optimize = state::options.OptimizeOnGen != False;
-    box.chk_Redim_Capture = state::options.RedimCapture != False;
 }
 
 void Velmora_Activate() {
@@ -217,7 +129,7 @@ void SalVelmora(std::int16_t& cancel) {
         return;
     }
     if (state::program.Sound == 1) {
-        play("\\mdbwav7.wav");
+        play_sound("\\mdbwav7.wav");
         platform().windows.wait(kGoodbyeMilliseconds);
     }
     end_with_everything_closed();

@@ -1,20 +1,12 @@
-// The program from start to end: the start window, the load and first activation of the main
-// window, the way out.
+// The main window from its load and first activation to the way out of the program.
 #pragma once
 
 #include <cstdint>
 
 namespace velmora {
 
-/// Load of the start window `intro`: version, settings, session flags, language database, literals.
-/// Without a database the design texts stay; one that can't be read is stood in for by the design
-/// texts and the Spanish messages. Raises what LeeSettings does.
-void intro_Load();
 /// Load of the main window: session values, separator, caption, literals, recent files.
 void Velmora_Load();
-/// Load of the side windows. Raises what LeeSettings does.
-void wininfo_Load();
-void winoptions_Load();
 /// First activation: connects to the CAD, shows the side windows, tells what became of the
 /// program's own files. Later ones do nothing.
 void Velmora_Activate();

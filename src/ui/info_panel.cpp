@@ -1,8 +1,7 @@
 #include "ui/info_panel.h"
 
 #include "document/windows/wininfo.h"
-#include "forms/velmora.h"
-#include "services/side_windows.h"
+#include "forms/wininfo.h"
 #include "ui/icons.h"
 
 namespace velmora {

@@ -2,7 +2,7 @@
 
 #include "document/state/program.h"
 #include "document/windows/intro.h"
-#include "forms/velmora.h"
+#include "forms/intro.h"
 #include "ui/icons.h"
 #include "ui/translations.h"
 #include "ui/windows_host.h"

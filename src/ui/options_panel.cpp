@@ -2,8 +2,7 @@
 
 #include "document/options.h"
 #include "document/windows/winoptions.h"
-#include "forms/velmora.h"
-#include "services/side_windows.h"
+#include "forms/winoptions.h"
 
 namespace velmora {
 

@@ -1,7 +1,7 @@
 #include "ui/setup_dialog.h"
 
 #include "document/windows/setup.h"
-#include "services/setup.h"
+#include "forms/setup.h"
 #include "ui/controls.h"
 #include "ui/windows_host.h"
 

@@ -1,6 +1,9 @@
-#include "services/side_windows.h"
+#include "forms/winoptions.h"
 
 #include "document/session.h"
+#include "forms/intro.h"
+#include "forms/velmora.h"
+#include "starting.h"
 #include "support/error_number.h"
 #include "support/outline.h"
 #include "support/recording_platform.h"
@@ -12,9 +15,40 @@
 namespace velmora {
 namespace {
 
+using test::FakeForm;
 using test::number_of;
 using test::RecordingPlatform;
 using test::set_shape;
+using test::StartTest;
+
+TEST_F(StartTest, the_options_window_reads_the_settings_and_shows_the_flags) {
+    intro_Load();
+    Velmora_Load();
+    machine.settings.save("Values", "Def_Arc", "17");
+    session.ShowPtos = session.GenDATSinc = session.OptimizeOnGen = False;
+    session.GenSCR = True;
+    winoptions_Load();
+    const WinOptions& box = session.winoptions;
+    EXPECT_EQ(box.TxtPutArc, "17");
+    EXPECT_FALSE(box.ChkPtos);
+    EXPECT_TRUE(box.ChkPtosCtrl);
+    EXPECT_TRUE(box.ChkCoords);
+    EXPECT_FALSE(box.ChkDATSinc);
+    EXPECT_TRUE(box.ChkSCR);
+    EXPECT_FALSE(box.Chk_DATPerfil);
+    EXPECT_FALSE(box.chk_optimize);
+    EXPECT_TRUE(box.chk_Redim_Capture);
+}
+
+TEST_F(StartTest, winoptions_takes_its_literals) {
+    FakeForm form("winoptions");
+    machine.windows.forms["winoptions"] = &form;
+    intro_Load();
+    machine.database->execute("DELETE FROM winoptions");
+    machine.database->execute("INSERT INTO winoptions VALUES ('winoptions','E','Título','')");
+    winoptions_Load();
+    EXPECT_EQ(form.own_caption, "Título");
+}
 
 TEST(OutputChoice, one_type_excludes_the_others) {
     struct Case {
@@ -187,7 +221,7 @@ TEST(WinOptionsWindow, only_the_zoom_heeds_Enter) {
     EXPECT_EQ(session.PutArc, 25);
 }
 
-TEST(RollUp, a_window_rolls_up_when_it_loses_the_activation_unless_pinned) {
+TEST(WinOptionsWindow, it_rolls_up_when_it_loses_the_activation_unless_pinned) {
     RecordingPlatform platform;
     winoptions_Activate();
     EXPECT_EQ(winoptions_height(), 4245);
@@ -198,15 +232,6 @@ TEST(RollUp, a_window_rolls_up_when_it_loses_the_activation_unless_pinned) {
     session.winoptions.chk_winoptions = true;
     winoptions_Deactivate();
     EXPECT_EQ(winoptions_height(), 4245);
-
-    wininfo_Activate();
-    EXPECT_EQ(wininfo_height(), 4245);
-    wininfo_Deactivate();
-    EXPECT_EQ(wininfo_height(), 180);
-    wininfo_Activate();
-    session.wininfo.chk_wininfo = true;
-    wininfo_Deactivate();
-    EXPECT_EQ(wininfo_height(), 4245);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "services/side_windows.h"
+#include "forms/winoptions.h"
 
 #include "document/flag.h"
 #include "document/number_text.h"
@@ -9,11 +9,12 @@
 #include "document/state/program.h"
 #include "document/state/view.h"
 #include "document/windows/velmora.h"
-#include "document/windows/wininfo.h"
 #include "document/windows/winoptions.h"
 #include "runtime/error.h"
 #include "runtime/text.h"
 #include "services/numeric_box.h"
+#include "services/settings.h"
+#include "services/window_literals.h"
 
 #include <cmath>
 
@@ -22,6 +23,8 @@ namespace velmora {
 namespace {
 
 constexpr std::string_view kWindow = "winoptions";
+constexpr int kHeight = 4245;
+constexpr int kRolledUp = 300;
 
 /// The name's last four characters give way to the extension, unless the name has it somewhere.
 void fit_extension(std::string& name, const std::string& extension) {
@@ -62,6 +65,21 @@ void take_zoom() {
 
 } // namespace
 
+void winoptions_Load() {
+    load_literals(kWindow);
+    LeeSettings();
+    take_defaults();
+    WinOptions& box = state::winoptions;
+    box.ChkPtos = state::view.ShowPtos != False;
+    box.ChkPtosCtrl = state::view.ShowPtosCtrl != False;
+    box.ChkCoords = state::view.ShowCoords != False;
+    box.ChkDATSinc = state::options.GenDATSinc != False;
+    box.ChkSCR = state::options.GenSCR != False;
+    box.Chk_DATPerfil = state::options.GenDATPerfil != False;
+    box.chk_optimize = state::options.OptimizeOnGen != False;
+    box.chk_Redim_Capture = state::options.RedimCapture != False;
+}
+
 void winoptions_Activate() {
     state::winoptions.rolled_up = false;
 }
@@ -71,21 +89,8 @@ void winoptions_Deactivate() {
         state::winoptions.rolled_up = true;
 }
 
-void wininfo_Activate() {
-    state::wininfo.rolled_up = false;
-}
-
-void wininfo_Deactivate() {
-    if (!state::wininfo.chk_wininfo)
-        state::wininfo.rolled_up = true;
-}
-
 int winoptions_height() {
-    return state::winoptions.rolled_up ? kWinoptionsRolledUp : kSideWindowHeight;
-}
-
-int wininfo_height() {
-    return state::wininfo.rolled_up ? kWininfoRolledUp : kSideWindowHeight;
+    return state::winoptions.rolled_up ? kRolledUp : kHeight;
 }
 
 void ChkDATSinc_Click() {

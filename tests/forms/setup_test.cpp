@@ -1,4 +1,4 @@
-#include "services/setup.h"
+#include "forms/setup.h"
 
 #include "document/session.h"
 #include "services/fake_form.h"

@@ -1,4 +1,4 @@
-#include "services/setup.h"
+#include "forms/setup.h"
 
 #include "document/number_text.h"
 #include "document/options.h"

@@ -1,23 +1,17 @@
-// What the controls of winoptions do to the session, and how the two side windows roll up.
+// The side window winoptions: its load, what its controls do to the session, how it rolls up.
 #pragma once
 
 #include "document/windows/winoptions.h"
 
 namespace velmora {
 
-/// Heights in twips: activated, and rolled up to the title.
-inline constexpr int kSideWindowHeight = 4245;
-inline constexpr int kWinoptionsRolledUp = 300;
-inline constexpr int kWininfoRolledUp = 180;
-
-/// A window got the activation: it rolls down. It lost it: it rolls up unless pinned.
+/// Load. Raises what LeeSettings does.
+void winoptions_Load();
+/// The window got the activation: it rolls down. It lost it: it rolls up unless pinned.
 void winoptions_Activate();
 void winoptions_Deactivate();
-void wininfo_Activate();
-void wininfo_Deactivate();
-/// The heights that follow from it, in twips.
+/// The height that follows from it, in twips.
 [[nodiscard]] int winoptions_height();
-[[nodiscard]] int wininfo_height();
 
 /// The three output types exclude each other. The file's name takes the type's extension, FileName
 /// the name as it stands in TxtDat_File.
