@@ -4,10 +4,10 @@
 #include "document/state/workbench.h"
 #include "document/text_box.h"
 #include "document/windows/ajuste_opt.h"
+#include "forms/numeric_box.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
-#include "services/numeric_box.h"
 #include "services/window_literals.h"
 
 #include <string>

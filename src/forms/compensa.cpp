@@ -3,10 +3,10 @@
 #include "cutprep/compensation.h"
 #include "document/forma.h"
 #include "document/windows/compensa.h"
+#include "forms/numeric_box.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
-#include "services/numeric_box.h"
 #include "services/window_literals.h"
 
 namespace velmora {

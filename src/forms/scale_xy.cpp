@@ -5,10 +5,10 @@
 #include "document/state/document.h"
 #include "document/text_box.h"
 #include "document/windows/scale_xy.h"
+#include "forms/numeric_box.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
-#include "services/numeric_box.h"
 #include "services/window_literals.h"
 #include "shapeops/transforms.h"
 

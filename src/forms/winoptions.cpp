@@ -10,9 +10,9 @@
 #include "document/state/view.h"
 #include "document/windows/velmora.h"
 #include "document/windows/winoptions.h"
+#include "forms/numeric_box.h"
 #include "runtime/error.h"
 #include "runtime/text.h"
-#include "services/numeric_box.h"
 #include "services/settings.h"
 #include "services/window_literals.h"
 

@@ -1,7 +1,7 @@
 #include "ui/del_npto_dialog.h"
 
 #include "document/windows/del_npto.h"
-#include "shapeops/del_npto.h"
+#include "forms/del_npto.h"
 
 namespace velmora {
 

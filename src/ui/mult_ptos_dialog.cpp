@@ -1,7 +1,7 @@
 #include "ui/mult_ptos_dialog.h"
 
 #include "document/windows/mult_ptos.h"
-#include "shapeops/mult_ptos.h"
+#include "forms/mult_ptos.h"
 #include "ui/windows_host.h"
 
 namespace velmora {

@@ -1,4 +1,4 @@
-#include "services/numeric_box.h"
+#include "forms/numeric_box.h"
 
 #include "support/recording_platform.h"
 

@@ -1,4 +1,4 @@
-#include "shapeops/del_npto.h"
+#include "forms/del_npto.h"
 
 #include "document/feedback.h"
 #include "document/forma.h"
@@ -9,23 +9,20 @@
 #include "document/state/document.h"
 #include "document/text_box.h"
 #include "document/windows/del_npto.h"
+#include "forms/numeric_box.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
 #include "runtime/numbers.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
-#include "services/numeric_box.h"
 #include "services/window_literals.h"
-
-#include <algorithm>
+#include "shapeops/density.h"
 
 namespace velmora {
 
 namespace {
 
 constexpr std::string_view kWindow = "del_Npto";
-constexpr std::int16_t kKeep = -1;
-constexpr std::int16_t kRemove = 0;
 
 NumericBox jump_box() {
     return {.window = kWindow,
@@ -53,47 +50,6 @@ void show_maximum(double points) {
     label = '(';
     label += CStr(points);
     label += ')';
-}
-
-/// Place of the k-th point to go, brought back by at most one turn.
-std::int32_t position(double step, std::int32_t k, std::int32_t upper) {
-    const std::int32_t place = runtime::to_int32(step * k + state::document.PtoSel);
-    return place > upper ? place - upper - 1 : place;
-}
-
-/// Nothing to go stands beyond one turn. An interval that was typed before the number can ask for
-/// that: it was not looked at with this number.
-bool fits(double last) {
-    const double most = 2.0 * static_cast<double>(Forma.Pto.size()) - 1;
-    const double ends[] = {static_cast<double>(state::document.PtoSel),
-                           (jump() + 1) * last + state::document.PtoSel};
-    return std::ranges::all_of(ends, [most](double place) {
-        const double whole = runtime::Round(place, 0);
-        return whole >= 0 && whole <= most;
-    });
-}
-
-/// The outline with every point marked to stay or to go.
-Array<Pto> marked_outline(std::int32_t last) {
-    Array<Pto> marked = Forma.Pto;
-    for (Pto& point : marked.all())
-        point.Marca = kKeep;
-    const std::int32_t upper = marked.upper();
-    const double step = jump() + 1;
-    for (std::int32_t k = 0; k <= last; ++k)
-        marked[position(step, k, upper)].Marca = kRemove;
-    return marked;
-}
-
-/// What is left; one zeroed record when that is nothing, since the outline is never empty.
-Array<Pto> kept_of(const Array<Pto>& marked) {
-    Array<Pto> kept;
-    for (const Pto& point : marked.all())
-        if (point.Marca == kKeep)
-            kept.append({point.X, point.Y, point.Sinc, 0});
-    if (!kept.dimensioned())
-        kept.redim(0);
-    return kept;
 }
 
 } // namespace
@@ -141,16 +97,16 @@ void Txt_Numpoints2del_LostFocus() {
 }
 
 // The shown count is the upper bound less one, and sync total and list stay: on purpose, later
-// commands put them right.
+// commands put them right. An interval that was typed before the number can ask for too many: it
+// was not looked at with this number.
 void del_Npto_cmd_ok_Click() {
     const double points = count();
     if (points <= 0)
         return reset_box(count_box());
-    const double last = runtime::Int(points - 1);
-    if (!fits(last))
+    auto kept = thinned(Forma.Pto, state::document.PtoSel, points, jump());
+    if (!kept)
         return void(MuestraMensaje(message::too_many_deletions));
-    Array<Pto> kept = kept_of(marked_outline(runtime::to_int32(last)));
-    Forma.Pto.swap(kept);
+    Forma.Pto.swap(*kept);
     --state::document.PtoSel;
     if (!has_selection())
         state::document.PtoSel = 0;

@@ -1,4 +1,4 @@
-#include "services/numeric_box.h"
+#include "forms/numeric_box.h"
 
 #include "document/text_box.h"
 #include "platform/platform.h"

@@ -1,4 +1,4 @@
-#include "shapeops/del_npto.h"
+#include "forms/del_npto.h"
 
 #include "commands/handlers.h"
 #include "document/session.h"
@@ -200,14 +200,6 @@ TEST_F(DelNpto, ok_removes_at_the_interval) {
         EXPECT_EQ(platform_.windows.calls, Calls{"unload del_Npto"});
         EXPECT_EQ(std::ranges::count(platform_.pic.operations, "cls"), c.left.size() > 1 ? 1 : 0);
     }
-}
-
-TEST_F(DelNpto, points_that_stay_keep_their_sync_mark_and_lose_the_other) {
-    session.PtoSel = 1;
-    window_.Txt_Numpoints2del = std::string("2");
-    window_.Txt_JumpPoints = std::string("0");
-    del_Npto_cmd_ok_Click();
-    EXPECT_EQ(shape(), (Points{{0, 1, 1}, {3, 1, 1}, {4, 1}, {5, 1}}));
 }
 
 TEST_F(DelNpto, ok_without_a_count_stays_open) {

@@ -1,4 +1,4 @@
-#include "shapeops/mult_ptos.h"
+#include "forms/mult_ptos.h"
 
 #include "commands/handlers.h"
 #include "document/session.h"
@@ -101,40 +101,6 @@ TEST_F(MultPtos, ok_puts_midpoints_into_each_segment_and_the_closing_one) {
     EXPECT_EQ(session.Velmora.Lst_Coords_fill, 0U);
     EXPECT_EQ(std::ranges::count(platform_.pic.operations, "cls"), 1);
     EXPECT_EQ(platform_.windows.calls, Calls{"unload Mult_Ptos"});
-}
-
-TEST_F(MultPtos, the_shift_by_1000_shows_in_the_last_bits) {
-    set_shape({{0.1, 0.2}, {0.7, -0.3}, {-1.1, 0.2}});
-    choose("3");
-    Mult_Ptos_cmd_ok_Click();
-    EXPECT_EQ(shape(), (Points{{0.1, 0.2},
-                               {0x1.3333333333800p-2, 0x1.1111111114000p-5},
-                               {0.5, -0x1.1111111111000p-3},
-                               {0.7, -0.3},
-                               {0x1.999999999a000p-4, -0x1.1111111111000p-3},
-                               {-0.5, 0x1.1111111114000p-5},
-                               {-1.1, 0.2},
-                               {-0x1.6666666666800p-1, 0x1.999999999a000p-3},
-                               {-0x1.3333333333000p-2, 0x1.999999999a000p-3}}));
-}
-
-// Dividing first and multiplying then: the other order, or a share of the whole, is one bit off.
-TEST_F(MultPtos, a_step_is_the_way_by_the_factor_and_that_by_its_number) {
-    set_shape({{0, 1}, {386, 1}, {386, 0}});
-    choose("6");
-    Mult_Ptos_cmd_ok_Click();
-    EXPECT_EQ(shape()[5].X, 0x1.41aaaaaaaaaa8p+8);
-    set_shape({{1, 58}, {1, 0}, {0, 0}});
-    choose("7");
-    Mult_Ptos_cmd_ok_Click();
-    EXPECT_EQ(shape()[6].Y, 0x1.0924924924900p+3);
-}
-
-TEST_F(MultPtos, factor_1_leaves_the_shape) {
-    const Points before = shape();
-    choose("1");
-    Mult_Ptos_cmd_ok_Click();
-    EXPECT_EQ(shape(), before);
 }
 
 TEST_F(MultPtos, a_factor_with_a_fraction_goes_to_the_nearest_whole_one) {
