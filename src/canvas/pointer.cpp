@@ -1,5 +1,6 @@
 #include "canvas/pointer.h"
 
+#include "canvas/mode.h"
 #include "canvas/view.h"
 #include "document/feedback.h"
 #include "document/flag.h"
@@ -143,11 +144,6 @@ void open_point_menu(float X, float Y) {
     open_menu_of_selected();
 }
 
-/// The canvas waits for a place or a point, or shows no shape.
-bool no_point_can_be_picked() {
-    return state::view.MoveShapeMode || state::view.PtosToInsertMode || state::view.NoRedraw;
-}
-
 } // namespace
 
 std::int32_t HitPto(float X, float Y) {
@@ -169,7 +165,7 @@ std::int32_t HitPto(float X, float Y) {
 }
 
 void pic_MouseDown(int Button, int, float X, float Y) {
-    if (no_point_can_be_picked())
+    if (canvas_mode() != CanvasMode::picks_points)
         return;
     state::view.HoverPto = HitPto(X, Y);
     if (state::view.HoverPto < 0)
@@ -180,31 +176,32 @@ void pic_MouseDown(int Button, int, float X, float Y) {
 }
 
 void pic_MouseMove(int, int, float X, float Y) {
-    if (state::view.MoveShapeMode)
+    const CanvasMode mode = canvas_mode();
+    if (mode == CanvasMode::moves_shape)
         return;
-    if (state::view.PtosToInsertMode)
+    if (mode == CanvasMode::adds_points)
         DibujaCreate(world_x(X), world_y(Y));
-    else if (!state::view.NoRedraw)
+    else if (mode == CanvasMode::picks_points)
         hover(X, Y);
     if (state::view.DragPto)
         DibujaDrag(world_x(X), world_y(Y));
 }
 
 void pic_MouseUp(int Button, int, float X, float Y) {
-    if (state::view.MoveShapeMode)
-        drop_shape(X, Y);
-    else if (state::view.PtosToInsertMode)
-        edit_by_hand(Button, X, Y);
-    else if (state::view.NoRedraw)
+    switch (canvas_mode()) {
+    case CanvasMode::moves_shape:
+        return drop_shape(X, Y);
+    case CanvasMode::adds_points:
+        return edit_by_hand(Button, X, Y);
+    case CanvasMode::shows_nothing:
         return;
-    else if (Button == kRightButton)
-        open_point_menu(X, Y);
-    else
-        end_drag();
+    case CanvasMode::picks_points:
+        return Button == kRightButton ? open_point_menu(X, Y) : end_drag();
+    }
 }
 
 void pic_MenuKey() {
-    if (!no_point_can_be_picked() && has_selection())
+    if (canvas_mode() == CanvasMode::picks_points && has_selection())
         open_menu_of_selected();
 }
 
