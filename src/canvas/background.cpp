@@ -21,7 +21,7 @@ void CargaImagen() {
     const std::string file = platform().dialogs.open_file(request);
     if (file.empty())
         return;
-    // What is no picture leaves the background as it was.
+    // A file that is not a picture leaves the background as it was.
     trap(
         [&file] {
             platform().pic.set_picture(file);

@@ -103,7 +103,7 @@ void append_point(float X, float Y) {
     Forma.Pto[Forma.Pto.upper()].Sinc = 1;
 }
 
-/// The shown number of sync points stays behind, on purpose.
+/// The shown number of sync points keeps its old value, on purpose.
 void remove_last_point() {
     const std::int32_t U = Forma.Pto.upper();
     if (Forma.Pto[U].Sinc == 1)

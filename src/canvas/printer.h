@@ -32,7 +32,7 @@ class Printer {
     virtual void Circle(float x, float y, float radius, std::uint32_t colour) = 0;
 
     /// The sheet is complete: it goes to the printer. Raises 482 where there is none or it refuses.
-    /// What is drawn behind it stands on a further sheet, and an empty one is none: a print can be
+    /// What is drawn after it goes on another sheet, and an empty one is none: a print can be
     /// asked for while another lets the windows run.
     virtual void EndDoc() = 0;
 };

@@ -50,7 +50,8 @@ class Surface {
     virtual void FillBox(float x1, float y1, float x2, float y2, std::uint32_t colour) = 0;
 
     /// A picture file for the background; the empty name takes it away. It shows at once, under
-    /// what is drawn. Raises 53, 481 for a file that is no picture, 7 for one too large for memory.
+    /// what is drawn. Raises 53, 481 for a file that is not a picture, 7 for one too large for
+    /// memory.
     virtual void set_picture(std::string_view file) = 0;
     /// Shows what was drawn when the windows get time.
     virtual void present() = 0;

@@ -18,7 +18,7 @@ namespace velmora {
 [[nodiscard]] double world_x(double px);
 [[nodiscard]] double world_y(double py);
 
-/// A pixel position to nearest, ties to even. Raises 6 beyond 32 bits, for what is no number too.
+/// A pixel position to nearest, ties to even. Raises 6 beyond 32 bits, and for NaN.
 [[nodiscard]] std::int32_t to_pixel(double position);
 /// Pixel of a point. Raises 6 as to_pixel does.
 [[nodiscard]] PixelPoint pixel_of(const Pto& point);

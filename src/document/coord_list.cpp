@@ -81,7 +81,7 @@ void Lst_Coords_Key(std::string_view text) {
 }
 
 void Carga_List_Coords(std::string_view key) {
-    // The label told of a point of the shape before.
+    // The label belonged to a point of the previous shape.
     if (key == "NEWFILE")
         state::Velmora.lbl_xyfloat_visible = false;
     if (key == "NEWFILE" || key == "UPDATE")

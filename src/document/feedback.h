@@ -1,4 +1,4 @@
-// What long operations tell the user: the status panel, the pointer, progress, the boxes of traps.
+// What long operations show the user: the status panel, the pointer, progress, the boxes of traps.
 #pragma once
 
 #include "runtime/error.h"

@@ -39,7 +39,7 @@ double Normaliza15(double value) {
     return runtime::normalized_15(value);
 }
 
-// The digits behind the comma are cut by as many places as the exponent has, so that the result
+// The digits after the comma are cut by as many places as the exponent has, so that the result
 // keeps the length of the mantissa; a mantissa too short for that is an error, on purpose.
 double CadenaAReal(std::string& s) {
     const auto exponent_mark = s.find("E-");

@@ -13,7 +13,7 @@ namespace velmora {
 /// Text of a number, at most 15 significant digits.
 [[nodiscard]] std::string CStr(double value);
 [[nodiscard]] std::string CStr(std::int32_t value);
-/// Text to f64. Raises 13 for what is no number, 6 beyond f64.
+/// Text to f64. Raises 13 where the text is not a number, 6 beyond f64.
 [[nodiscard]] double CDbl(std::string_view text);
 /// The pattern "0.00000".
 [[nodiscard]] std::string Format5(double value);

@@ -60,7 +60,7 @@ void add_on_top(const std::string& path) {
     shift_down(count() - 1, path, tag_of);
 }
 
-// The store may have changed behind the menu, by another window of the program: a path that is no
+// Another window of the program may have changed the store meanwhile: a path that is no
 // longer in it takes the last place's.
 void move_to_top(const std::string& path) {
     int index = 1;

@@ -39,7 +39,7 @@ enum class Access { read_only, read_write };
 
 /// An open table, to seek in and to add to, or the rows of a select, read forward from the first.
 /// A table has no current row until a seek finds one. A field's name is taken in either case of
-/// letters. Reading a field without a current row raises 3021, a name that is no field 3265, and
+/// letters. Reading a field without a current row raises 3021, a name that is not a field 3265, and
 /// asking a table for what only a select does, or the other way round, 3251.
 class Recordset {
   public:
@@ -54,7 +54,7 @@ class Recordset {
     [[nodiscard]] virtual Value field(std::string_view name) = 0;
     /// Raises 3021 when there is no row.
     virtual void move_first() = 0;
-    /// Raises 3021 behind the last row.
+    /// Raises 3021 after the last row.
     virtual void move_next() = 0;
     [[nodiscard]] virtual bool eof() const = 0;
 
@@ -69,7 +69,7 @@ class Database {
   public:
     virtual ~Database() = default;
     /// Opens a file that must exist; one that may not be written is open for reading. Raises 3044
-    /// where it is missing, 3343 where it is no database (an empty file is none), 3008 while
+    /// where it is missing, 3343 where it is not a database (an empty file is not), 3008 while
     /// another program has it locked, 3051 where it may not be read. What was open is closed first.
     virtual void open(std::string_view path) = 0;
     /// An empty one without a file, gone when it is closed.
@@ -83,7 +83,7 @@ class Database {
     virtual std::unique_ptr<Recordset> open_recordset(std::string_view table_or_select,
                                                       Access access) = 0;
     /// One statement, failing whole. Raises 91, 3078, 3022, or 3075 for a fault in the statement: a
-    /// comment in it or a second statement behind it is one, and then nothing is executed.
+    /// comment in it or a second statement after it is one, and then nothing is executed.
     virtual void execute(std::string_view statement) = 0;
 
     /// All that comes until commit is one transaction; for many rows added at a time. A begin

@@ -45,7 +45,7 @@ inline constexpr int unrecognized_database = 3343;
 } // namespace error
 
 /// A run-time error. `description` is empty where the number's own text of the table holds. `place`
-/// is one more line of the report: what the user has to mend, empty where the raiser can't tell.
+/// is one more line of the report: what the user has to mend, empty where the raiser doesn't know.
 class RuntimeError : public std::exception {
   public:
     explicit RuntimeError(int error_number, std::string own_description = {});

@@ -34,7 +34,7 @@ class FileBeside {
 [[nodiscard]] std::string link_target(std::string_view path);
 
 /// Removes a file that broke off, or empties it where it can't be removed, so that it takes no
-/// room. What is no regular file, a device for one, is left alone. Never raises.
+/// room. Anything but a regular file, such as a device, is left alone. Never raises.
 void remove_broken_off(std::string_view path);
 
 } // namespace velmora::runtime

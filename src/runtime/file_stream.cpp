@@ -40,7 +40,7 @@ void refuse_folder(const std::filesystem::path& path) {
 /// The longest name of a file on the systems that are reached, in their units.
 constexpr std::size_t longest_name = 255;
 
-// Windows says of each of these that the path is not there; other systems tell them apart.
+// Windows says of each of these that the path is not there; other systems distinguish them.
 int opening_fault(const std::filesystem::path& path, FileNeed need) {
     const std::error_code fault = last_fault();
     if (fault != std::errc::no_such_file_or_directory)

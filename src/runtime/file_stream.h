@@ -32,7 +32,7 @@ class ReadBuffer {
         return {bytes_.data() + start_, end_ - start_};
     }
     void take(std::size_t count) { start_ += count; }
-    /// Reads on behind what waits; false at the end of the file. Views of `waiting` end here.
+    /// Reads on after what waits; false at the end of the file. Views of `waiting` end here.
     /// Raises 57 or 75 when the device fails.
     bool more(std::FILE* file);
     /// Forgets what waits.

@@ -25,7 +25,7 @@ std::size_t end_of_line(std::string_view text, std::size_t start) {
     return static_cast<std::size_t>(found - text.begin());
 }
 
-/// How many bytes of what stands behind a line are its end; byte 26 stays for the next reading.
+/// How many of the bytes after a line are its end; byte 26 stays for the next reading.
 std::size_t end_size(std::string_view rest) {
     if (rest.starts_with("\r\n"))
         return 2;

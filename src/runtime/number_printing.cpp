@@ -94,7 +94,7 @@ void count_up(Decimal& number) {
     ++number.point;
 }
 
-/// Cuts the digits behind `decimals` places.
+/// Cuts the digits after `decimals` places.
 void round_at(Decimal& number, int decimals, Tie tie) {
     const int kept = number.point + decimals;
     if (kept >= number.count)
@@ -114,7 +114,7 @@ void round_at(Decimal& number, int decimals, Tie tie) {
         drop_zeros(number);
 }
 
-/// Digits in their places, at least one before the separator and `decimals` behind it.
+/// Digits in their places, at least one before the separator and `decimals` after it.
 std::string positional(const Decimal& number, int decimals, char separator) {
     std::string text;
     if (number.negative && number.count > 0)

@@ -18,7 +18,7 @@ constexpr std::array<char32_t, 32> letters_128 = {
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 struct Character {
-    char32_t code; ///< no_character for a byte that is no UTF-8
+    char32_t code; ///< no_character for a byte that is not UTF-8
     std::size_t size;
 };
 

@@ -10,7 +10,7 @@ namespace velmora::runtime {
 [[nodiscard]] std::string_view Trim(std::string_view text);
 /// Capitals of a UTF-8 text: ASCII, and the letters of Latin-1 and of Windows-1252.
 [[nodiscard]] std::string UCase(std::string_view text);
-/// Characters of a UTF-8 text (not bytes). A byte that is no UTF-8 counts as one.
+/// Characters of a UTF-8 text (not bytes). A byte that is not UTF-8 counts as one.
 [[nodiscard]] std::size_t Len(std::string_view text);
 /// The first n characters, the last n characters of a UTF-8 text; n < 0 raises 5.
 [[nodiscard]] std::string Left(std::string_view text, int n);
