@@ -30,6 +30,7 @@ struct MessagesTest : testing::Test {
     }
 };
 
+// The filter of the open dialog is held by the scenarios, to the letter.
 TEST_F(MessagesTest, texts_are_those_of_the_table_to_the_letter) {
     const std::pair<int, std::string> texts[] = {
         {4, "Estás seguro de querer salir de Velmora?"},
@@ -42,8 +43,6 @@ TEST_F(MessagesTest, texts_are_those_of_the_table_to_the_letter) {
         {73, "CUT -  Archivo Coordenadas Cnc Francés"},
         {84, "Archivo no encontrado"},
         {95, "Nuevo Nº de puntos :"},
-        {132, "Archivo DAT (*.DAT)|*.DATAutocad DXF (*.DXF)|*.DXF|Acad Script (*.SCR)|*.SCR|"
-              "Archivo CUT (*.CUT)|*.CUT"},
         {144, "Archivos de Imágenes|*.bmp;*.gif;*.jpg| Mapas de Bits (*.bmp;*.dib)|*.bmp;*.dib|"
               "Imágenes GIF (*.gif)|*.gif|Imágenes JPG (*.jpg)|*.jpg|Iconos (*.ico;*.cur)|"
               "*.ico;*.cur"},
