@@ -1,8 +1,8 @@
 // The adjustment of two sides that differ in every run, from the press of the button to the last
 // preview, with the real table behind it.
-#include "cutprep/adjustment.h"
 #include "cutprep/preview_surface.h"
 #include "document/session.h"
+#include "forms/ajuste.h"
 #include "platform/platform.h"
 #include "support/recording_platform.h"
 

@@ -1,24 +1,17 @@
 #include "cutprep/adjustment.h"
 
 #include "cutprep/merged_list.h"
-#include "cutprep/previews.h"
-#include "cutprep/projection.h"
 #include "document/feedback.h"
 #include "document/forma.h"
 #include "document/number_text.h"
 #include "document/state/workbench.h"
-#include "document/windows/ajuste.h"
 #include "runtime/numbers.h"
-#include "runtime/text.h"
 
 #include <string>
 
 namespace velmora {
 
 namespace {
-
-constexpr int kHourglass = 11;
-constexpr int kDefaultPointer = 0;
 
 /// Where a point between two others lies: at `percent` of the way from `a` to `b`.
 double between(double a, double b, double percent) {
@@ -116,14 +109,12 @@ class Runs {
   public:
     explicit Runs(std::int32_t NumSinc) : NumSinc_(NumSinc) {}
 
-    void adjust() {
+    void adjust(const RunTold& tell) {
         for (std::int32_t tramo = 1; tramo <= NumSinc_; ++tramo) {
-            state::ajuste.lbl_estado = std::to_string(tramo) + " / " + std::to_string(NumSinc_);
-            DoEvents();
+            tell(tramo);
             adjust_run(tramo);
         }
         transaction_.commit();
-        state::ajuste.lbl_estado.clear();
     }
 
   private:
@@ -148,17 +139,6 @@ class Runs {
     MergeTransaction transaction_;
 };
 
-/// The path less its last four characters, with "2.DAT" behind it. Raises 5 for a shorter one.
-std::string result_path(const std::string& loaded) {
-    return runtime::Left(loaded, static_cast<int>(runtime::Len(loaded)) - 4) + "2.DAT";
-}
-
-void begin() {
-    state::workbench.PtosA2.redim(0);
-    state::workbench.PtosB2.redim(0);
-    set_pointer(kHourglass);
-}
-
 void copy_to_work() {
     state::workbench.TrabajoA = state::workbench.PtosA;
     state::workbench.TrabajoB = state::workbench.PtosB;
@@ -182,20 +162,9 @@ void InsertaPtoTramo(AdjustedSide& side, std::int32_t destino, std::int32_t indi
     side.side.Ptos2[destino] = point;
 }
 
-void Cmd_Ajuste_Click() {
-    begin();
-    const std::int32_t NumSinc = runtime::to_int32(runtime::Val(state::ajuste.TxtTotalCtrlPtos_A));
+void adjust_sides(std::int32_t NumSinc, const RunTold& tell) {
     copy_to_work();
-    Runs(NumSinc).adjust();
-    DibujaNewMini_A();
-    DibujaNewMini_B();
-    project_results();
-    DibujaDefMini_A();
-    DibujaDefMini_B();
-    state::ajuste.Txt_File_A2 = result_path(state::ajuste.txt_fileA);
-    state::ajuste.Txt_File_B2 = result_path(state::ajuste.Txt_FileB);
-    state::ajuste.Cmd_save_enabled = true;
-    set_pointer(kDefaultPointer);
+    Runs(NumSinc).adjust(tell);
 }
 
 } // namespace velmora

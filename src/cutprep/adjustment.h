@@ -1,11 +1,11 @@
 // The adjustment: two outlines with the same number of sync points become two with the same number
-// of points, point i of one cut together with point i of the other, and each pair is carried
-// outward along the line through its two points.
+// of points, point i of one cut together with point i of the other.
 #pragma once
 
 #include "cutprep/runs.h"
 
 #include <cstdint>
+#include <functional>
 
 namespace velmora {
 
@@ -15,9 +15,12 @@ namespace velmora {
 void InsertaPtoTramo(AdjustedSide& side, std::int32_t destino, std::int32_t indice,
                      std::int32_t tramo, std::int32_t NumSinc);
 
-/// Makes PtosA2 and PtosB2 from PtosA and PtosB. Without an error route of its own: a missing
-/// TEMP_AJUSTE, a side with fewer sync points than TxtTotalCtrlPtos_A says, OptZ of 0 and the like
-/// raise, and leave the hourglass on: the failure is told and stops the command alone.
-void Cmd_Ajuste_Click();
+/// Hears which run begins, from 1.
+using RunTold = std::function<void(std::int32_t tramo)>;
+
+/// Adds `NumSinc` runs of PtosA and PtosB to PtosA2 and PtosB2, and shows their totals as they
+/// grow. Raises 9 for a side with fewer sync points, 11 or 6 where the lengths of a run can't be
+/// divided, the database's faults; the runs made before stay then.
+void adjust_sides(std::int32_t NumSinc, const RunTold& tell);
 
 } // namespace velmora

@@ -1,19 +1,28 @@
 #include "cutprep/side_readers.h"
 
 #include "cutprep/side.h"
+#include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
 #include "document/state/document.h"
 #include "document/state/loading.h"
+#include "document/state/program.h"
 #include "formats/coordinate_limit.h"
+#include "formats/load.h"
 #include "formats/reader_support.h"
 #include "formats/record_file.h"
 #include "formats/slwmd.h"
 #include "formats/slwsinc.h"
 #include "formats/sync_matcher.h"
+#include "platform/dialogs.h"
+#include "runtime/text.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
 
 #include <algorithm>
 #include <optional>
+#include <string>
+#include <string_view>
 
 namespace velmora {
 
@@ -80,6 +89,12 @@ Pass read_slwmd(std::string_view path, Array<Pto>& pts, const Side& side, ReadCo
     return Pass::complete;
 }
 
+void refuse(std::string_view path) {
+    MsgBox(joined_by_blanks({GetMensaje(message::the_file), path, GetMensaje(message::not_loaded)}),
+           buttons::critical, box_title());
+    set_pointer(0);
+}
+
 } // namespace
 
 void CargaSLWSINC2(std::string_view fichero, Array<Pto>& pts, std::string_view lado, Flag& ok) {
@@ -105,6 +120,21 @@ void CargaSLWMD_a(std::string_view fichero, Array<Pto>& pts, std::string_view la
             });
         },
         [&](const RuntimeError& failure) { report({"CargaSLWMD_a"}, failure, counts); });
+}
+
+bool read_side(const Side& side, const std::string& path) {
+    Flag ok = False;
+    switch (GetFileFormat(path, runtime::UCase(path))) {
+    case FileFormat::SLWSINC:
+        CargaSLWSINC2(path, side.Ptos, side.lado, ok);
+        break;
+    case FileFormat::SLWMD:
+        CargaSLWMD_a(path, side.Ptos, side.lado, ok);
+        break;
+    default:
+        refuse(path);
+    }
+    return ok != False;
 }
 
 } // namespace velmora

@@ -2,9 +2,11 @@
 // side. Neither asks whether to go on after a fault: the points read so far stay, `ok` is 0.
 #pragma once
 
+#include "cutprep/side.h"
 #include "document/flag.h"
 #include "document/forma.h"
 
+#include <string>
 #include <string_view>
 
 namespace velmora {
@@ -18,5 +20,9 @@ void CargaSLWSINC2(std::string_view fichero, Array<Pto>& pts, std::string_view l
 /// document the tail isn't searched, with a longer one the first sync point of the file ends in the
 /// error box with 9.
 void CargaSLWMD_a(std::string_view fichero, Array<Pto>& pts, std::string_view lado, Flag& ok);
+
+/// The file into the side by the reader of its dialect: true when it was read whole. A dialect that
+/// is none of the two is refused in a box.
+[[nodiscard]] bool read_side(const Side& side, const std::string& path);
 
 } // namespace velmora

@@ -1,9 +1,7 @@
 #include "ui/ajuste_dialog.h"
 
-#include "cutprep/adjustment.h"
-#include "cutprep/save_sides.h"
-#include "cutprep/sides.h"
 #include "document/windows/ajuste.h"
+#include "forms/ajuste.h"
 #include "platform/platform.h"
 #include "ui/windows_host.h"
 

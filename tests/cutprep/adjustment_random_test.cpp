@@ -153,7 +153,7 @@ TEST(AdjustmentOfRandomSides, gives_both_sides_the_points_of_the_plain_way) {
         const std::size_t syncs = 1 + random() % 5;
         bench.set_sides(random_side(random, syncs + random() % 40, syncs),
                         random_side(random, syncs + random() % 40, syncs));
-        Cmd_Ajuste_Click();
+        bench.adjust();
         const PlainAdjustment plain(static_cast<std::int32_t>(syncs));
         ASSERT_EQ(points_of(session.PtosA2), plain.A2);
         ASSERT_EQ(points_of(session.PtosB2), plain.B2);

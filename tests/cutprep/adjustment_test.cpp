@@ -1,6 +1,6 @@
 #include "cutprep/adjustment.h"
 
-#include "formats/watching_windows.h"
+#include "cutprep/projection.h"
 #include "platform/database.h"
 #include "support/error_number.h"
 #include "workbench.h"
@@ -42,7 +42,7 @@ const Points kFive = {{0, 0, 1}, {2, 0}, {5, 0}, {7, 0}, {10, 0, 1}, {10, 5}};
 
 TEST_F(AdjustmentTest, a_merged_run_interpolates_each_side_for_the_rows_of_the_other) {
     set_sides(kThree, kFive);
-    Cmd_Ajuste_Click();
+    adjust();
 
     // Run 2 has three points on both sides and is copied behind the extra point (10, 3), (10, 5)
     // of run 1, which thereby stays.
@@ -62,7 +62,7 @@ TEST_F(AdjustmentTest, a_merged_run_interpolates_each_side_for_the_rows_of_the_o
 
 TEST_F(AdjustmentTest, the_rows_of_a_pass_stand_in_the_table_by_position) {
     set_sides(kThree, kFive);
-    Cmd_Ajuste_Click();
+    adjust();
 
     // The last pass was B's of run 1. Shares of 13 and 15: the chord behind the run counts.
     EXPECT_EQ(merged_rows(), (Rows{{"B0", 0},
@@ -76,16 +76,16 @@ TEST_F(AdjustmentTest, the_rows_of_a_pass_stand_in_the_table_by_position) {
 
 TEST_F(AdjustmentTest, the_boxes_show_what_the_merged_passes_wrote) {
     set_sides(kThree, kFive);
-    Cmd_Ajuste_Click();
+    adjust();
     EXPECT_EQ(new_points(), "6 6");
     EXPECT_EQ(new_syncs(), "1 1");
 }
 
 TEST_F(AdjustmentTest, the_sync_totals_go_on_from_the_press_before) {
     set_sides(kThree, kFive);
-    Cmd_Ajuste_Click();
+    adjust();
     session.ajuste.TxtTotalCtrlPtosNew_B = "40 puntos";
-    Cmd_Ajuste_Click();
+    adjust();
     EXPECT_EQ(new_syncs(), "2 41");
     EXPECT_EQ(session.PtosA2.upper(), 8);
 }
@@ -95,7 +95,7 @@ TEST_F(AdjustmentTest, sides_of_equal_runs_are_copied_with_doubled_joints_and_wi
     const Points B = {{0, 1, 1}, {9, 1}, {9, 2, 1}, {1, 2}};
     set_sides(A, B);
     platform().database.execute("DROP TABLE TEMP_AJUSTE");
-    Cmd_Ajuste_Click();
+    adjust();
 
     EXPECT_EQ(points_of(session.PtosA2),
               (Points{{0, 0}, {4, 0}, {10, 0}, {10, 0}, {10, 3}, {0, 0}}));
@@ -111,7 +111,7 @@ const Points kEqualMergedB = {{0, 1, 1}, {8, 3}, {8, 1, 1}, {4, 2}};
 
 TEST_F(AdjustmentTest, a_merged_run_overwrites_the_last_point_of_the_equal_run_before) {
     set_sides(kEqualMergedA, kEqualMergedB);
-    Cmd_Ajuste_Click();
+    adjust();
 
     EXPECT_EQ(
         points_of(session.PtosA2),
@@ -127,7 +127,8 @@ TEST_F(AdjustmentTest, the_projection_carries_each_pair_outward) {
     session.OptX = 100;
     session.OptY = 50;
     session.OptZ = 400;
-    Cmd_Ajuste_Click();
+    adjust();
+    project_results();
 
     EXPECT_EQ(points_of(session.PtosA2), (Points{{0, -1.25},
                                                  {12.5, 3},
@@ -147,7 +148,7 @@ TEST_F(AdjustmentTest, the_projection_carries_each_pair_outward) {
 
 TEST_F(AdjustmentTest, one_sync_point_makes_one_run_over_the_end_of_the_array) {
     set_sides({{5, 0}, {10, 0, 1}, {10, 4}, {0, 4}}, {{4, 0}, {8, 0}, {8, 3, 1}, {0, 3}, {0, 0}});
-    Cmd_Ajuste_Click();
+    adjust();
 
     EXPECT_EQ(points_of(session.PtosA2), (Points{{10, 0, 1},
                                                  {10, 4},
@@ -173,7 +174,7 @@ TEST_F(AdjustmentTest, one_sync_point_makes_one_run_over_the_end_of_the_array) {
 TEST_F(AdjustmentTest, rows_of_equal_position_keep_the_own_side_first_and_are_not_merged) {
     set_sides({{0, 0, 1}, {2, 0}, {4, 0, 1}, {4, 4}},
               {{0, 0, 1}, {1, 0}, {2, 0}, {3, 0}, {4, 0, 1}, {4, 4}});
-    Cmd_Ajuste_Click();
+    adjust();
 
     // A1 and B2 both lie at 25 percent: in pass A the row of B2 finds A1 passed already, in pass B
     // the row of A1 finds B2 passed.
@@ -187,117 +188,43 @@ TEST_F(AdjustmentTest, rows_of_equal_position_keep_the_own_side_first_and_are_no
 
 TEST_F(AdjustmentTest, a_side_of_one_point_falls_back_on_its_first_element) {
     set_sides({{3, 4, 1}}, {{0, 0, 1}, {5, 0}});
-    Cmd_Ajuste_Click();
+    adjust();
     EXPECT_EQ(points_of(session.PtosA2), (Points{{3, 4, 1}, {3, 4}, {3, 4}}));
     EXPECT_EQ(points_of(session.PtosB2), (Points{{0, 0, 1}, {5, 0}, {5, 0}}));
 }
 
 TEST_F(AdjustmentTest, without_sync_points_no_run_is_made) {
     set_sides({{1, 1}, {2, 1}, {2, 2}}, {{1, 1}, {3, 3}});
-    Cmd_Ajuste_Click();
+    adjust();
     EXPECT_EQ(points_of(session.PtosA2), Points{Pto{}});
     EXPECT_EQ(points_of(session.PtosB2), Points{Pto{}});
     EXPECT_EQ(points_of(session.TrabajoA), (Points{{1, 1}, {2, 1}, {2, 2}}));
-    EXPECT_TRUE(session.ajuste.Cmd_save_enabled);
-}
-
-TEST_F(AdjustmentTest, a_press_starts_over_and_leaves_the_loaded_sides_alone) {
-    set_sides(kThree, kFive);
-    Cmd_Ajuste_Click();
-    const Points first = points_of(session.PtosA2);
-    Cmd_Ajuste_Click();
-    EXPECT_EQ(points_of(session.PtosA2), first);
-    EXPECT_EQ(points_of(session.PtosA), kThree);
-    EXPECT_EQ(points_of(session.PtosB), kFive);
-    EXPECT_EQ(points_of(session.TrabajoB), kFive);
-}
-
-TEST_F(AdjustmentTest, the_run_count_is_the_number_in_the_box_of_side_A) {
-    set_sides(kThree, kFive);
-    session.ajuste.TxtTotalCtrlPtos_A = "1";
-    Cmd_Ajuste_Click();
-    // Run 1 is the last one then, and the last element follows it.
-    EXPECT_EQ(session.PtosA2.upper(), 5);
-    EXPECT_EQ(session.PtosA2[5], (Pto{10, 3}));
-
-    session.ajuste.TxtTotalCtrlPtos_A = "3";
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::subscript);
 }
 
 TEST_F(AdjustmentTest, a_side_B_with_fewer_sync_points_raises_9) {
     set_sides(kThree, {{0, 0, 1}, {2, 0}, {5, 5}});
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::subscript);
-    EXPECT_EQ(session.Velmora.MousePointer, 11);
-    EXPECT_FALSE(session.ajuste.Cmd_save_enabled);
+    EXPECT_EQ(number_of(adjust), error::subscript);
 }
 
 TEST_F(AdjustmentTest, coincident_points_inside_a_run_raise_6) {
     set_sides({{1, 1, 1}, {1, 1}, {1, 1}}, {{0, 0, 1}, {2, 0}});
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::overflow);
+    EXPECT_EQ(number_of(adjust), error::overflow);
 }
 
-TEST_F(AdjustmentTest, a_distance_OptZ_of_0_raises_11_where_the_sides_differ_and_6_where_not) {
-    set_sides({{0, 0, 1}, {4, 0}}, {{1, 1, 1}, {4, 4}});
-    session.OptX = 0;
-    session.OptY = 3;
-    session.OptZ = 0;
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::overflow);
-    session.OptX = 2;
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::division_by_zero);
-    // The merged outlines stay as they were before the projection.
-    EXPECT_EQ(points_of(session.PtosA2), (Points{{0, 0}, {4, 0}, {0, 0}}));
-    EXPECT_EQ(session.Velmora.MousePointer, 11);
-}
-
-TEST_F(AdjustmentTest, the_results_take_the_loaded_names_with_2_behind) {
+TEST_F(AdjustmentTest, each_run_is_told_before_it_is_made) {
     set_sides(kThree, kFive);
-    session.ajuste.txt_fileA = "/trabajo/ala 2.DAT";
-    session.ajuste.Txt_FileB = "c:\\año\\x";
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), 0);
-    EXPECT_EQ(session.ajuste.Txt_File_A2, "/trabajo/ala 22.DAT");
-    EXPECT_EQ(session.ajuste.Txt_File_B2, "c:\\a2.DAT");
-    session.ajuste.Txt_FileB = "x.d";
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::invalid_call);
-}
-
-TEST_F(AdjustmentTest, a_press_tells_its_runs_and_ends_with_the_save_button) {
-    std::vector<std::string> told;
-    const test::WatchingWindows windows(machine, [&] {
-        if (told.empty() || told.back() != session.ajuste.lbl_estado)
-            told.push_back(session.ajuste.lbl_estado);
-    });
-    show_previews();
-    set_sides(kThree, kFive);
-    Cmd_Ajuste_Click();
-    // Empty again while the pictures are drawn. The main window's panel is left alone.
-    EXPECT_EQ(told, (std::vector<std::string>{"1 / 2", "2 / 2", ""}));
-    EXPECT_TRUE(machine.windows.statuses.empty());
-    EXPECT_TRUE(session.ajuste.Cmd_save_enabled);
-    EXPECT_TRUE(machine.dialogs.boxes.empty());
-}
-
-TEST_F(AdjustmentTest, a_press_shows_the_hourglass_and_lets_the_windows_run) {
-    set_sides(kThree, kFive);
-    Cmd_Ajuste_Click();
-    EXPECT_EQ(machine.windows.pointers, (std::vector<int>{11, 0}));
-    EXPECT_GT(machine.windows.yields, 6);
-}
-
-TEST_F(AdjustmentTest, the_merged_outlines_show_before_the_projected_ones) {
-    set_sides({{0, 0, 1}, {10, 5}}, {{0, 0, 1}, {20, 10}});
-    session.OptX = session.OptY = session.OptZ = 1;
-    Cmd_Ajuste_Click();
-    // Before: 10 twentieths of the width; behind: A at -10, B at 40, and 0.
-    EXPECT_EQ(previews.Pic_A.operations.at(1), "line 100 2100 300 2000 255");
-    EXPECT_EQ(previews.Pic_B.operations.at(1), "line 100 2100 200 2050 255");
-    EXPECT_EQ(previews.New_Pic_B.operations.at(1), "line 100 2100 150 2075 255");
-    EXPECT_EQ(machine.dialogs.boxes.size(), 1U); // no positive X or Y is left on side A
+    session.PtosA2.redim(0);
+    session.PtosB2.redim(0);
+    std::vector<std::pair<std::int32_t, std::int32_t>> told;
+    adjust_sides(2, [&](std::int32_t tramo) { told.emplace_back(tramo, session.PtosA2.upper()); });
+    EXPECT_EQ(told, (std::vector<std::pair<std::int32_t, std::int32_t>>{{1, 0}, {2, 5}}));
 }
 
 TEST_F(AdjustmentTest, Sinc_and_Marca_outlive_the_projection) {
     set_sides(kThree, kFive);
     session.OptX = session.OptY = session.OptZ = 2;
-    Cmd_Ajuste_Click();
+    adjust();
+    project_results();
     EXPECT_EQ(session.PtosA2[0].Sinc, 1);
     EXPECT_EQ(session.PtosB2[0].Sinc, 1);
     EXPECT_EQ(session.PtosA2[1].Sinc, 0);

@@ -1,7 +1,6 @@
 #include "cutprep/merged_list.h"
 
 #include "adapters/sqlite/sqlite_database.h"
-#include "cutprep/adjustment.h"
 #include "support/error_number.h"
 #include "workbench.h"
 
@@ -70,20 +69,18 @@ TEST_F(MergedListTest, a_pass_empties_the_table_and_adds_all_points_but_the_othe
 
 TEST_F(MergedListTest, the_table_must_be_there) {
     execute("DROP TABLE TEMP_AJUSTE");
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::table_not_found);
-    EXPECT_EQ(session.Velmora.MousePointer, 11);
-    EXPECT_FALSE(session.ajuste.Cmd_save_enabled);
+    EXPECT_EQ(number_of(adjust), error::table_not_found);
     expect_no_transaction();
 }
 
 TEST_F(MergedListTest, the_database_must_be_open) {
     platform().database.close();
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::object_not_set);
+    EXPECT_EQ(number_of(adjust), error::object_not_set);
 }
 
 TEST_F(MergedListTest, a_database_that_may_not_be_written_raises_3027) {
     execute("PRAGMA query_only = 1");
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::database_read_only);
+    EXPECT_EQ(number_of(adjust), error::database_read_only);
     expect_no_transaction();
     expect_former_rows();
 }
@@ -92,7 +89,7 @@ TEST_F(MergedListTest, a_database_that_another_program_has_locked_raises_3008) {
     const auto other = make_sqlite_database();
     other->open(machine.path("VELMORA.MDB"));
     other->execute("BEGIN IMMEDIATE");
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::database_locked);
+    EXPECT_EQ(number_of(adjust), error::database_locked);
     other->close();
     expect_no_transaction();
     expect_former_rows();
@@ -103,7 +100,7 @@ TEST_F(MergedListTest, a_folder_that_takes_no_journal_raises_3051) {
     // What a folder that may not be written is to the database; a folder's own rights would not
     // stop an administrator.
     std::filesystem::create_symlink("/missing/folder/journal", machine.path("VELMORA.MDB-journal"));
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::database_not_opened);
+    EXPECT_EQ(number_of(adjust), error::database_not_opened);
     std::filesystem::remove(machine.path("VELMORA.MDB-journal"));
     expect_no_transaction();
     expect_former_rows();
@@ -118,26 +115,24 @@ TEST_F(MergedListTest, a_disk_that_fills_up_raises_61_and_leaves_the_files_of_th
     A[0].Sinc = 1;
     set_sides(A, {{0, 0, 1}, {4, 0}, {4, 4}});
     execute("PRAGMA max_page_count = 1"); // no more than there are
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::disk_full);
+    EXPECT_EQ(number_of(adjust), error::disk_full);
     expect_no_transaction();
     expect_former_rows();
     EXPECT_EQ(test::RecordingPlatform::read(machine.path("raiz2.DAT")), "de antes");
     EXPECT_FALSE(std::filesystem::exists(machine.path("punta2.DAT")));
-    EXPECT_FALSE(session.ajuste.Cmd_save_enabled);
-    EXPECT_EQ(session.Velmora.MousePointer, 11);
 }
 
 TEST_F(MergedListTest, a_fault_in_the_middle_leaves_the_table_as_it_was) {
     execute("CREATE TRIGGER fault BEFORE INSERT ON TEMP_AJUSTE WHEN NEW.ORDEN = 2 "
             "BEGIN SELECT RAISE(ABORT, 'full'); END");
-    EXPECT_NE(number_of(Cmd_Ajuste_Click), 0);
+    EXPECT_NE(number_of(adjust), 0);
     expect_no_transaction();
     expect_former_rows();
 }
 
 TEST_F(MergedListTest, a_table_without_one_of_the_fields_raises_3265) {
     execute("ALTER TABLE TEMP_AJUSTE RENAME COLUMN POS_PERCENT TO POSICION");
-    EXPECT_EQ(number_of(Cmd_Ajuste_Click), error::item_not_found);
+    EXPECT_EQ(number_of(adjust), error::item_not_found);
     expect_no_transaction();
     EXPECT_EQ(rows_where("LADO = 'Z'"), 1);
 }

@@ -1,6 +1,7 @@
 // The adjustment window's arrays and pictures, ready for a test.
 #pragma once
 
+#include "cutprep/adjustment.h"
 #include "cutprep/preview_surface.h"
 #include "document/session.h"
 #include "platform/platform.h"
@@ -93,6 +94,13 @@ struct Workbench {
         fill(session.PtosB, B);
         session.ajuste.TxtTotalCtrlPtos_A = sync_total(A);
         session.ajuste.TxtTotalCtrlPtos_B = sync_total(B);
+    }
+
+    /// The adjustment alone: nothing is drawn or projected.
+    static void adjust() {
+        session.PtosA2.redim(0);
+        session.PtosB2.redim(0);
+        adjust_sides(std::stoi(session.ajuste.TxtTotalCtrlPtos_A), [](std::int32_t) {});
     }
 
     /// Distances by which the projection leaves every point where it is.

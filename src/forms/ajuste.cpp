@@ -1,16 +1,16 @@
-#include "cutprep/sides.h"
+#include "forms/ajuste.h"
 
+#include "cutprep/adjustment.h"
 #include "cutprep/previews.h"
+#include "cutprep/projection.h"
 #include "cutprep/side.h"
 #include "cutprep/side_readers.h"
+#include "cutprep/side_writer.h"
 #include "document/feedback.h"
-#include "document/flag.h"
 #include "document/state/document.h"
 #include "document/state/program.h"
 #include "document/state/workbench.h"
 #include "document/windows/ajuste.h"
-#include "formats/box_text.h"
-#include "formats/load.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/windows.h"
@@ -20,6 +20,7 @@
 #include "services/messages.h"
 #include "services/window_literals.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -28,6 +29,8 @@ namespace velmora {
 namespace {
 
 constexpr std::string_view kWindow = "ajuste";
+constexpr int kHourglass = 11;
+constexpr int kDefaultPointer = 0;
 constexpr std::string_view kNotice =
     "Tened en cuenta que esta funcionalidad, todavia está en fase de pruebas y desarrolo, podeis "
     "jugar con ella, y de paso podeis ir comentando cosillas.";
@@ -39,28 +42,6 @@ std::string ask_for_path() {
                                          .filter = "DAT Files |*.DAT",
                                          .folder = state::document.LastDir,
                                          .name = {}});
-}
-
-void refuse(std::string_view path) {
-    MsgBox(joined_by_blanks({GetMensaje(message::the_file), path, GetMensaje(message::not_loaded)}),
-           buttons::critical, box_title());
-    set_pointer(0);
-}
-
-/// True when the side was read whole.
-bool read_side(const Side& side, const std::string& path) {
-    Flag ok = False;
-    switch (GetFileFormat(path, runtime::UCase(path))) {
-    case FileFormat::SLWSINC:
-        CargaSLWSINC2(path, side.Ptos, side.lado, ok);
-        break;
-    case FileFormat::SLWMD:
-        CargaSLWMD_a(path, side.Ptos, side.lado, ok);
-        break;
-    default:
-        refuse(path);
-    }
-    return ok != False;
 }
 
 void compare_sync_totals() {
@@ -82,6 +63,25 @@ void select_side(const Side& side, const Side& other, void (*draw)()) {
     draw();
     if (other.Ptos.upper() > 0)
         compare_sync_totals();
+}
+
+void empty_results() {
+    state::workbench.PtosA2.redim(0);
+    state::workbench.PtosB2.redim(0);
+}
+
+void adjust() {
+    const std::int32_t NumSinc = runtime::to_int32(runtime::Val(state::ajuste.TxtTotalCtrlPtos_A));
+    adjust_sides(NumSinc, [NumSinc](std::int32_t tramo) {
+        state::ajuste.lbl_estado = std::to_string(tramo) + " / " + std::to_string(NumSinc);
+        DoEvents();
+    });
+    state::ajuste.lbl_estado.clear();
+}
+
+/// The path less its last four characters, with "2.DAT" after it. Raises 5 for a shorter one.
+std::string result_path(const std::string& loaded) {
+    return runtime::Left(loaded, static_cast<int>(runtime::Len(loaded)) - 4) + "2.DAT";
 }
 
 } // namespace
@@ -108,6 +108,34 @@ void cmd_selB_Click() {
 void cmd_opt_Click() {
     platform().windows.show_modal("ajuste_opt");
     state::ajuste.Cmd_Ajuste_enabled = true;
+}
+
+void Cmd_Ajuste_Click() {
+    empty_results();
+    set_pointer(kHourglass);
+    adjust();
+    DibujaNewMini_A();
+    DibujaNewMini_B();
+    project_results();
+    DibujaDefMini_A();
+    DibujaDefMini_B();
+    state::ajuste.Txt_File_A2 = result_path(state::ajuste.txt_fileA);
+    state::ajuste.Txt_File_B2 = result_path(state::ajuste.Txt_FileB);
+    state::ajuste.Cmd_save_enabled = true;
+    set_pointer(kDefaultPointer);
+}
+
+void Cmd_save_Click() {
+    const Side A = side_of("A");
+    const Side B = side_of("B");
+    state::ajuste.cmd_exit_enabled = false;
+    set_pointer(kHourglass);
+    remove_earlier_result(A);
+    remove_earlier_result(B);
+    write_result(A, state::ajuste.ChkPtosCtrl);
+    write_result(B, state::ajuste.ChkPtosCtrl);
+    set_pointer(kDefaultPointer);
+    state::ajuste.cmd_exit_enabled = true;
 }
 
 void ajuste_cmd_exit_Click() {
