@@ -8,7 +8,7 @@
 #include "document/state/document.h"
 #include "document/windows/wininfo.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 

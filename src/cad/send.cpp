@@ -9,7 +9,7 @@
 #include "document/state/program.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 
 #include <utility>
 

@@ -20,7 +20,7 @@
 #include "formats/save.h"
 #include "forms/velmora.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "runtime/text.h"
 #include "services/settings.h"
 #include "services/shape_at_hand.h"

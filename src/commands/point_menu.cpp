@@ -10,7 +10,7 @@
 #include "document/state/view.h"
 #include "document/windows/velmora.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "runtime/numbers.h"
 #include "services/message_codes.h"
 #include "services/messages.h"

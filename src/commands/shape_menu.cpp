@@ -9,7 +9,7 @@
 #include "document/state/view.h"
 #include "document/windows/winoptions.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "services/shape_at_hand.h"
 #include "shapeops/transforms.h"
 

@@ -3,8 +3,8 @@
 #include "document/refresh.h"
 #include "document/state/program.h"
 #include "platform/platform.h"
+#include "platform/program_windows.h"
 #include "platform/shell.h"
-#include "platform/windows.h"
 #include "services/help.h"
 #include "services/shape_at_hand.h"
 

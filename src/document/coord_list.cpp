@@ -7,7 +7,7 @@
 #include "document/state/program.h"
 #include "document/windows/velmora.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "runtime/numbers.h"
 
 namespace velmora {

@@ -4,7 +4,7 @@
 #include "document/windows/velmora.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 
 namespace velmora {
 

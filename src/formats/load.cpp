@@ -16,7 +16,7 @@
 #include "formats/readers.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "runtime/numbers.h"
 #include "runtime/paths.h"
 #include "runtime/text.h"

@@ -3,7 +3,7 @@
 #include "document/state/program.h"
 #include "document/windows/acerca.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "services/deployment.h"
 #include "services/help.h"
 #include "services/window_literals.h"

@@ -13,7 +13,7 @@
 #include "document/windows/ajuste.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "services/message_codes.h"

@@ -8,7 +8,7 @@
 #include "document/windows/mult_ptos.h"
 #include "platform/form.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "runtime/numbers.h"
 #include "services/literals.h"
 #include "services/message_codes.h"

@@ -15,7 +15,7 @@
 #include "document/windows/winoptions.h"
 #include "generators/figures.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "runtime/numbers.h"
 #include "services/message_codes.h"
 #include "services/messages.h"

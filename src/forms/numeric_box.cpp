@@ -2,7 +2,7 @@
 
 #include "document/text_box.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 

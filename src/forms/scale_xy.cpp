@@ -7,7 +7,7 @@
 #include "document/windows/scale_xy.h"
 #include "forms/numeric_box.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "runtime/numbers.h"
 #include "services/window_literals.h"
 #include "shapeops/transforms.h"

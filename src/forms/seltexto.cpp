@@ -6,7 +6,7 @@
 #include "generators/text_path.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "runtime/error.h"
 #include "runtime/text.h"
 #include "services/window_literals.h"

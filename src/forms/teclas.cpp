@@ -1,7 +1,7 @@
 #include "forms/teclas.h"
 
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "services/window_literals.h"
 
 namespace velmora {

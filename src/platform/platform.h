@@ -5,7 +5,7 @@
 namespace velmora {
 
 class Dialogs;
-class Windows;
+class ProgramWindows;
 class Shell;
 class SettingsStore;
 class Database;
@@ -19,7 +19,7 @@ class TextOutlines;
 
 struct Platform {
     Dialogs& dialogs;
-    Windows& windows;
+    ProgramWindows& windows;
     Shell& shell;
     SettingsStore& settings;
     Database& database;

@@ -1,7 +1,7 @@
 #include "services/window_literals.h"
 
 #include "platform/platform.h"
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "services/literals.h"
 
 namespace velmora {

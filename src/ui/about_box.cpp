@@ -3,7 +3,7 @@
 #include "document/windows/acerca.h"
 #include "forms/acerca.h"
 #include "ui/icons.h"
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 
 namespace velmora {
 
@@ -11,7 +11,7 @@ namespace {
 constexpr double kNameSize = 1.8; ///< of the desktop's font
 } // namespace
 
-AboutBox::AboutBox(WindowsHost& windows) : FormWindow(windows) {
+AboutBox::AboutBox(WindowHost& windows) : FormWindow(windows) {
     ui.Image1->set_picture(app_icon());
     QFont font = ui.lblVelmora->font();
     font.setPointSizeF(font.pointSizeF() * kNameSize);

@@ -9,7 +9,7 @@ namespace velmora {
 
 class AboutBox : public FormWindow<Ui::acerca> {
   public:
-    explicit AboutBox(WindowsHost& windows);
+    explicit AboutBox(WindowHost& windows);
 
     void Load() override;
     void Activate() override;

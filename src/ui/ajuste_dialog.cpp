@@ -3,7 +3,7 @@
 #include "document/windows/ajuste.h"
 #include "forms/ajuste.h"
 #include "platform/platform.h"
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 
 #include <QEvent>
 
@@ -19,7 +19,7 @@ void set_previews(Previews* pictures) {
 
 } // namespace
 
-AjusteDialog::AjusteDialog(WindowsHost& windows) : FormWindow(windows) {
+AjusteDialog::AjusteDialog(WindowHost& windows) : FormWindow(windows) {
     bind_sides();
     bind_results();
     bind_status();

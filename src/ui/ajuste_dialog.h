@@ -10,7 +10,7 @@ namespace velmora {
 
 class AjusteDialog : public FormWindow<Ui::ajuste>, private Previews {
   public:
-    explicit AjusteDialog(WindowsHost& windows);
+    explicit AjusteDialog(WindowHost& windows);
     ~AjusteDialog() override;
 
     void Load() override;

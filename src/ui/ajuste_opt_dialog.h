@@ -9,7 +9,7 @@ namespace velmora {
 
 class AjusteOptDialog : public FormWindow<Ui::ajuste_opt> {
   public:
-    explicit AjusteOptDialog(WindowsHost& windows);
+    explicit AjusteOptDialog(WindowHost& windows);
 
     void Load() override;
 

@@ -1,6 +1,7 @@
 #include "ui/command_actions.h"
 
 #include "commands/command_table.h"
+#include "toolkit/qt_text.h"
 #include "ui/controls.h"
 #include "ui/icons.h"
 
@@ -19,10 +20,6 @@ namespace {
 constexpr int kSmallestIcon = 24;
 constexpr std::string_view kRecentFile = "mnuRecentFile";
 constexpr std::string_view kRecentFileSep = "mnuRecentFileSep";
-
-QString qt_text(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 bool is_separator(const MenuEntry& row) {
     return row.caption == "-";

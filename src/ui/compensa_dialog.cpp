@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-CompensaDialog::CompensaDialog(WindowsHost& windows) : FormWindow(windows) {
+CompensaDialog::CompensaDialog(WindowHost& windows) : FormWindow(windows) {
     bind();
     wire();
     list_controls({"Label1", "Label3", "Label2", "Txt_merma", "cmd_ok", "cmd_cancel"});

@@ -9,7 +9,7 @@ namespace velmora {
 
 class CompensaDialog : public FormWindow<Ui::Compensa> {
   public:
-    explicit CompensaDialog(WindowsHost& windows);
+    explicit CompensaDialog(WindowHost& windows);
 
     void Load() override;
 

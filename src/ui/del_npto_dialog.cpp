@@ -10,7 +10,7 @@ namespace {
 constexpr auto kLongestMaximum = "(1000.33333333333)";
 } // namespace
 
-DelNptoDialog::DelNptoDialog(WindowsHost& windows) : FormWindow(windows) {
+DelNptoDialog::DelNptoDialog(WindowHost& windows) : FormWindow(windows) {
     QLabel& maximum = *ui.Lbl_Maxpoints;
     maximum.setMinimumWidth(maximum.fontMetrics().horizontalAdvance(kLongestMaximum));
     bind();

@@ -9,7 +9,7 @@ namespace velmora {
 
 class DelNptoDialog : public FormWindow<Ui::del_Npto> {
   public:
-    explicit DelNptoDialog(WindowsHost& windows);
+    explicit DelNptoDialog(WindowHost& windows);
 
     void Load() override;
 

@@ -1,10 +1,10 @@
-// The dispatcher of WindowsHost: events to handlers, faults, yields, the end of the program.
+// The dispatcher of WindowHost: events to handlers, faults, yields, the end of the program.
 #include "document/feedback.h"
 #include "formats/recovery.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
-#include "ui/windows_host_state.h"
+#include "ui/window_host_state.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -54,7 +54,7 @@ void exit_event_loops(int status) {
 
 } // namespace
 
-void WindowsHost::run(const std::function<void()>& handler) {
+void WindowHost::run(const std::function<void()>& handler) {
     if (d->ended)
         return;
     if (d->open_popup)
@@ -77,23 +77,23 @@ void WindowsHost::run(const std::function<void()>& handler) {
     d->show_popup();
 }
 
-void WindowsHost::run_alone(const std::function<void()>& handler) {
+void WindowHost::run_alone(const std::function<void()>& handler) {
     run([&] {
         if (const auto failure = failure_of(handler))
             d->tell_stopped(*failure);
     });
 }
 
-bool WindowsHost::idle() const {
+bool WindowHost::idle() const {
     return d->running == (d->modals.empty() ? 0 : d->modals.back().depth);
 }
 
-void WindowsHost::refresh() {
+void WindowHost::refresh() {
     d->pull();
     d->push();
 }
 
-void WindowsHost::yield() {
+void WindowHost::yield() {
     const auto now = platform().clock.now();
     if (now - d->last_yield < kYieldInterval)
         return;
@@ -103,7 +103,7 @@ void WindowsHost::yield() {
     d->leave_if_ended();
 }
 
-void WindowsHost::wait(int milliseconds) {
+void WindowHost::wait(int milliseconds) {
     refresh();
     QEventLoop loop;
     QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
@@ -111,26 +111,26 @@ void WindowsHost::wait(int milliseconds) {
     d->leave_if_ended();
 }
 
-void WindowsHost::end_program() {
+void WindowHost::end_program() {
     if (d->running == 0)
         return d->finish(0);
     if (d->ending_depth == 0)
         d->ending_depth = d->running;
 }
 
-void WindowsHost::Private::pull() const {
+void WindowHost::Private::pull() const {
     for (const auto& window : all())
         if (window)
             window->bindings().pull();
 }
 
-void WindowsHost::Private::push() const {
+void WindowHost::Private::push() const {
     for (const auto& window : all())
         if (window)
             window->bindings().push();
 }
 
-void WindowsHost::Private::fail(const RuntimeError& failure) {
+void WindowHost::Private::fail(const RuntimeError& failure) {
     if (ended)
         return;
     const std::string recovered = save_recovery();
@@ -141,14 +141,14 @@ void WindowsHost::Private::fail(const RuntimeError& failure) {
     finish(kFaultStatus);
 }
 
-void WindowsHost::Private::tell_stopped(const RuntimeError& failure) const {
+void WindowHost::Private::tell_stopped(const RuntimeError& failure) const {
     if (host.events.stopped)
         host.events.stopped(failure);
     else
         report(failure, {});
 }
 
-void WindowsHost::Private::finish(int status) {
+void WindowHost::Private::finish(int status) {
     if (ended)
         return;
     ended = true;
@@ -158,7 +158,7 @@ void WindowsHost::Private::finish(int status) {
     exit_event_loops(status);
 }
 
-void WindowsHost::Private::leave_if_ended() const {
+void WindowHost::Private::leave_if_ended() const {
     if (ended)
         throw EndOfProgram{};
 }

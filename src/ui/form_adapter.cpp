@@ -1,6 +1,7 @@
 #include "ui/form_adapter.h"
 
 #include "runtime/error.h"
+#include "toolkit/qt_text.h"
 #include "ui/controls.h"
 
 #include <QAbstractButton>
@@ -16,10 +17,6 @@
 namespace velmora {
 
 namespace {
-
-QString qt_text(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// A control that is one piece: a name, at most one text and one tip.
 class WidgetControl : public FormControl {

@@ -1,5 +1,7 @@
 #include "ui/icons.h"
 
+#include "toolkit/qt_text.h"
+
 #include <QPalette>
 
 namespace velmora {
@@ -26,7 +28,7 @@ QIcon icon_of(const QString& folder, const QString& name) {
 } // namespace
 
 QIcon tool_icon(std::string_view key, const QPalette& palette) {
-    const QString name = QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
+    const QString name = qt_text(key);
     return icon_of(is_dark(palette) ? "dark" : "light", name);
 }
 

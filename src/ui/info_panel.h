@@ -9,7 +9,7 @@ namespace velmora {
 
 class InfoPanel : public SidePanel<Ui::wininfo> {
   public:
-    explicit InfoPanel(WindowsHost& windows);
+    explicit InfoPanel(WindowHost& windows);
 
     void Load() override;
     void Activate() override;

@@ -5,7 +5,7 @@
 #include "forms/intro.h"
 #include "ui/icons.h"
 #include "ui/translations.h"
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 
 #include <QTimer>
 
@@ -26,7 +26,7 @@ void set_look(QLabel& label, double size_factor, const QColor& colour) {
 
 } // namespace
 
-IntroScreen::IntroScreen(WindowsHost& windows)
+IntroScreen::IntroScreen(WindowHost& windows)
     : FormWindow(windows), timer_(*new QTimer(&widget())) {
     widget().setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     timer_.setObjectName("Timer1");
@@ -62,7 +62,7 @@ void IntroScreen::Load() {
 void IntroScreen::leave() {
     timer_.stop();
     host().run([this] {
-        WindowsHost& windows = host();
+        WindowHost& windows = host();
         windows.load("Velmora");
         windows.unload("intro");
         windows.show("Velmora");

@@ -12,7 +12,7 @@ namespace velmora {
 
 class IntroScreen : public FormWindow<Ui::intro, QWidget> {
   public:
-    explicit IntroScreen(WindowsHost& windows);
+    explicit IntroScreen(WindowHost& windows);
 
     void Load() override;
 

@@ -4,7 +4,7 @@
 #include "document/windows/velmora.h"
 #include "forms/velmora.h"
 #include "ui/shortcuts_first.h"
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -32,7 +32,7 @@ void add_part(QObject* part, const char* name) {
 
 } // namespace
 
-MainWindow::MainWindow(WindowsHost& windows)
+MainWindow::MainWindow(WindowHost& windows)
     : FormWindow(windows), window_(static_cast<QMainWindow&>(widget())),
       commands_(window_, [this](void (*handler)()) { host().run(handler); }),
       status_(*new ElidedLabel(ui.StatusBar1)), pbar1_(*new QProgressBar(ui.StatusBar1)),

@@ -14,7 +14,7 @@ namespace velmora {
 
 class MainWindow : public FormWindow<Ui::Velmora, QMainWindow> {
   public:
-    explicit MainWindow(WindowsHost& windows);
+    explicit MainWindow(WindowHost& windows);
 
     void Load() override;
     void Activate() override;

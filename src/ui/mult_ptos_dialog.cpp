@@ -2,7 +2,7 @@
 
 #include "document/windows/mult_ptos.h"
 #include "forms/mult_ptos.h"
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 
 namespace velmora {
 
@@ -11,7 +11,7 @@ constexpr int kFirstFactor = 2;
 constexpr int kLastFactor = 10;
 } // namespace
 
-MultPtosDialog::MultPtosDialog(WindowsHost& windows) : FormWindow(windows) {
+MultPtosDialog::MultPtosDialog(WindowHost& windows) : FormWindow(windows) {
     for (int factor = kFirstFactor; factor <= kLastFactor; ++factor)
         ui.Combo1->addItem(QString::number(factor));
     ui.Combo1->setCompleter(nullptr); // "1" is a factor of its own, not the beginning of "10"

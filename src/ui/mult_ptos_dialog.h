@@ -9,7 +9,7 @@ namespace velmora {
 
 class MultPtosDialog : public FormWindow<Ui::Mult_Ptos> {
   public:
-    explicit MultPtosDialog(WindowsHost& windows);
+    explicit MultPtosDialog(WindowHost& windows);
 
     void Load() override;
 

@@ -10,7 +10,7 @@
 
 namespace velmora {
 
-NewDatDialog::NewDatDialog(WindowsHost& windows) : FormWindow(windows) {
+NewDatDialog::NewDatDialog(WindowHost& windows) : FormWindow(windows) {
     draw_tiles();
     bind();
     wire();

@@ -9,7 +9,7 @@ namespace velmora {
 
 class NewDatDialog : public FormWindow<Ui::New_Dat> {
   public:
-    explicit NewDatDialog(WindowsHost& windows);
+    explicit NewDatDialog(WindowHost& windows);
 
     void Load() override;
 

@@ -10,7 +10,7 @@ namespace {
 constexpr int kRow = 4800; // twips below the main window's top, clear of the open wininfo
 } // namespace
 
-OptionsPanel::OptionsPanel(WindowsHost& windows) : SidePanel(windows, kRow) {
+OptionsPanel::OptionsPanel(WindowHost& windows) : SidePanel(windows, kRow) {
     bind();
     wire();
     list_controls({"frm_Format",    "Label1",         "TxtPutCircle", "TxtPutArc",

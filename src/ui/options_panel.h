@@ -9,7 +9,7 @@ namespace velmora {
 
 class OptionsPanel : public SidePanel<Ui::winoptions> {
   public:
-    explicit OptionsPanel(WindowsHost& windows);
+    explicit OptionsPanel(WindowHost& windows);
 
     void Load() override;
     void Activate() override;

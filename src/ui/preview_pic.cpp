@@ -1,7 +1,7 @@
 #include "ui/preview_pic.h"
 
-#include "adapters/qt/line_clip.h"
 #include "canvas/colours.h"
+#include "toolkit/line_clip.h"
 
 #include <QPainter>
 #include <algorithm>

@@ -9,7 +9,7 @@ namespace velmora {
 
 class ScaleXyDialog : public FormWindow<Ui::Scale_xy> {
   public:
-    explicit ScaleXyDialog(WindowsHost& windows);
+    explicit ScaleXyDialog(WindowHost& windows);
 
     void Load() override;
 

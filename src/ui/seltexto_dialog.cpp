@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-SeltextoDialog::SeltextoDialog(WindowsHost& windows) : FormWindow(windows) {
+SeltextoDialog::SeltextoDialog(WindowHost& windows) : FormWindow(windows) {
     // The form's member cannot have the box's name, which is a word of the language.
     ui.char_->setObjectName("char");
     bind();

@@ -9,7 +9,7 @@ namespace velmora {
 
 class SeltextoDialog : public FormWindow<Ui::seltexto> {
   public:
-    explicit SeltextoDialog(WindowsHost& windows);
+    explicit SeltextoDialog(WindowHost& windows);
 
     void Load() override;
 

@@ -2,16 +2,17 @@
 
 #include "document/windows/setup.h"
 #include "forms/setup.h"
+#include "toolkit/qt_text.h"
 #include "ui/controls.h"
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 
 #include <array>
 
 namespace velmora {
 
-SetupDialog::SetupDialog(WindowsHost& windows) : FormWindow(windows) {
+SetupDialog::SetupDialog(WindowHost& windows) : FormWindow(windows) {
     for (const std::string_view name : setup_languages())
-        ui.Cmb_Lang->addItem(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+        ui.Cmb_Lang->addItem(qt_text(name));
     bind();
     bind_colours();
     wire();

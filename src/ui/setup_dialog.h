@@ -9,7 +9,7 @@ namespace velmora {
 
 class SetupDialog : public FormWindow<Ui::setup> {
   public:
-    explicit SetupDialog(WindowsHost& windows);
+    explicit SetupDialog(WindowHost& windows);
 
     void Load() override;
     void Activate() override;

@@ -23,7 +23,7 @@ std::vector<std::string> control_names() {
 
 } // namespace
 
-ShortcutList::ShortcutList(WindowsHost& windows) : FormWindow(windows) {
+ShortcutList::ShortcutList(WindowHost& windows) : FormWindow(windows) {
     on_click(*ui.Command1, teclas_Command1_Click);
     list_controls(control_names());
 }

@@ -9,7 +9,7 @@ namespace velmora {
 
 class ShortcutList : public FormWindow<Ui::teclas> {
   public:
-    explicit ShortcutList(WindowsHost& windows);
+    explicit ShortcutList(WindowHost& windows);
 
     void Load() override;
 };

@@ -3,7 +3,7 @@
 
 #include "ui/roll_up.h"
 #include "ui/window.h"
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 
 #include <QEvent>
 #include <utility>
@@ -37,7 +37,7 @@ class SidePanel : public FormWindow<Ui, QWidget> {
 
   protected:
     /// `row` is the window's place below the main window's top, in twips.
-    SidePanel(WindowsHost& windows, int row)
+    SidePanel(WindowHost& windows, int row)
         : FormWindow<Ui, QWidget>(windows), roll_up_(this->widget(), *this->ui.content), row_(row) {
         this->widget().setWindowFlags(Qt::Tool);
         if (QWidget* main = windows.window("Velmora"))

@@ -2,7 +2,7 @@
 
 #include "ui/controls.h"
 #include "ui/key_filter.h"
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -12,7 +12,7 @@
 
 namespace velmora {
 
-Window::Window(WindowsHost& host, std::unique_ptr<QWidget> widget)
+Window::Window(WindowHost& host, std::unique_ptr<QWidget> widget)
     : host_(host), widget_(std::move(widget)), form_(*widget_, [this] { bindings_.pull(); }) {
     widget_->installEventFilter(this);
 }

@@ -19,14 +19,14 @@ class QLineEdit;
 
 namespace velmora {
 
-class WindowsHost;
+class WindowHost;
 
 class Window : public QObject {
     Q_OBJECT
   public:
     using Handler = std::function<void()>;
 
-    Window(WindowsHost& host, std::unique_ptr<QWidget> widget);
+    Window(WindowHost& host, std::unique_ptr<QWidget> widget);
     ~Window() override;
 
     [[nodiscard]] QWidget& widget() const { return *widget_; }
@@ -55,7 +55,7 @@ class Window : public QObject {
   protected:
     /// Ends the construction: the names of the controls in the form's own order.
     void list_controls(const std::vector<std::string>& names);
-    [[nodiscard]] WindowsHost& host() const { return host_; }
+    [[nodiscard]] WindowHost& host() const { return host_; }
 
     void on_click(QAbstractButton& button, Handler handler);
     /// The user changed the text, or the driver put one in.
@@ -70,7 +70,7 @@ class Window : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    WindowsHost& host_;
+    WindowHost& host_;
     std::unique_ptr<QWidget> widget_;
     WidgetForm form_;
     Bindings bindings_;
@@ -80,7 +80,7 @@ class Window : public QObject {
 template <class Ui, class Widget = FormDialog>
 class FormWindow : public Window {
   protected:
-    explicit FormWindow(WindowsHost& windows) : Window(windows, std::make_unique<Widget>()) {
+    explicit FormWindow(WindowHost& windows) : Window(windows, std::make_unique<Widget>()) {
         ui.setupUi(static_cast<Widget*>(&widget()));
     }
     Ui ui;

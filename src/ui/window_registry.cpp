@@ -25,11 +25,11 @@ namespace {
 
 struct Row {
     std::string_view name;
-    std::unique_ptr<Window> (*make)(WindowsHost&);
+    std::unique_ptr<Window> (*make)(WindowHost&);
 };
 
 template <class Made>
-std::unique_ptr<Window> make(WindowsHost& host) {
+std::unique_ptr<Window> make(WindowHost& host) {
     return std::make_unique<Made>(host);
 }
 
@@ -53,7 +53,7 @@ constexpr auto kWindows = std::to_array<Row>({
 
 } // namespace
 
-std::unique_ptr<Window> make_window(std::string_view name, WindowsHost& host) {
+std::unique_ptr<Window> make_window(std::string_view name, WindowHost& host) {
     const auto found = std::ranges::find(kWindows, name, &Row::name);
     return found == kWindows.end() ? nullptr : found->make(host);
 }

@@ -8,10 +8,10 @@
 namespace velmora {
 
 class Window;
-class WindowsHost;
+class WindowHost;
 
 /// A new window, its controls as designed; nullptr for a name that no window has.
-[[nodiscard]] std::unique_ptr<Window> make_window(std::string_view name, WindowsHost& host);
+[[nodiscard]] std::unique_ptr<Window> make_window(std::string_view name, WindowHost& host);
 
 [[nodiscard]] std::vector<std::string_view> window_names();
 

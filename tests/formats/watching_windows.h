@@ -24,7 +24,7 @@ class WatchingWindows : public RecordingWindows {
     }
 
   private:
-    void install(Windows& windows) {
+    void install(ProgramWindows& windows) {
         set_platform({platform_.dialogs, windows, platform_.shell, platform_.settings,
                       *platform_.database, platform_.clock, platform_.machine, platform_.pic,
                       platform_.cad});

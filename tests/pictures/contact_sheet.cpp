@@ -1,6 +1,7 @@
 #include "pictures/contact_sheet.h"
 
 #include "pictures/gallery.h"
+#include "toolkit/qt_text.h"
 
 #include <QDir>
 #include <QImage>
@@ -34,9 +35,7 @@ std::vector<Column> columns() {
 
 QString title(const Column& column) {
     return QString("%1  %2  %3 %")
-        .arg(QString::fromUtf8(column.language.data(),
-                               static_cast<qsizetype>(column.language.size())),
-             name_of(column.theme))
+        .arg(qt_text(column.language), name_of(column.theme))
         .arg(column.scale);
 }
 

@@ -1,6 +1,7 @@
 #include "pictures/gallery.h"
 
 #include "pictures/stage.h"
+#include "toolkit/qt_text.h"
 #include "ui/window_registry.h"
 
 #include <QApplication>
@@ -84,7 +85,7 @@ class Camera {
 
   private:
     void take_window(std::string_view name) {
-        const QString page = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+        const QString page = qt_text(name);
         QWidget* shown = stage_.show(name);
         take_tabs(page, shown);
         for (const Face& face : kFaces) {
@@ -151,10 +152,7 @@ int present_scale() {
 }
 
 QString file_name(const QString& page, std::string_view language, Theme theme, int scale) {
-    return QString("%1.%2.%3.%4.png")
-        .arg(page, QString::fromUtf8(language.data(), static_cast<qsizetype>(language.size())),
-             name_of(theme))
-        .arg(scale);
+    return QString("%1.%2.%3.%4.png").arg(page, qt_text(language), name_of(theme)).arg(scale);
 }
 
 bool take_pictures(const QString& folder, std::string_view language, Theme theme) {

@@ -6,6 +6,7 @@
 #include "document/session.h"
 #include "services/messages.h"
 #include "support/places.h"
+#include "toolkit/qt_text.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -107,7 +108,7 @@ void Stage::click(std::string_view window, std::string_view name) {
 
 void Stage::fill(std::string_view window, std::string_view name, std::string_view text) {
     if (auto* box = qobject_cast<QLineEdit*>(platform_->windows->control(window, name)))
-        box->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+        box->setText(qt_text(text));
     settle();
 }
 

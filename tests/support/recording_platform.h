@@ -13,9 +13,9 @@
 #include "platform/form.h"
 #include "platform/machine.h"
 #include "platform/platform.h"
+#include "platform/program_windows.h"
 #include "platform/settings_store.h"
 #include "platform/shell.h"
-#include "platform/windows.h"
 
 #include <deque>
 #include <filesystem>
@@ -57,7 +57,7 @@ class RecordingDialogs : public Dialogs {
     std::optional<FontChoice> choose_font(const FontChoice& present) override;
 };
 
-class RecordingWindows : public Windows {
+class RecordingWindows : public ProgramWindows {
   public:
     std::vector<std::string>
         calls; ///< "show wininfo", "focus winoptions.TxtPrecision", "popup OPT_PTO"

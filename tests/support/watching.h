@@ -11,7 +11,8 @@
 namespace velmora::test {
 
 /// Puts these in, keeping the other services as they are.
-inline void replace_services(Dialogs& dialogs, Windows& windows, Shell& shell, Surface& pic) {
+inline void replace_services(Dialogs& dialogs, ProgramWindows& windows, Shell& shell,
+                             Surface& pic) {
     const Platform& now = platform();
     set_platform({dialogs, windows, shell, now.settings, now.database, now.clock, now.machine, pic,
                   now.cad, now.previews, now.printer, now.text_outlines});
@@ -116,13 +117,13 @@ class WatchingTurns : public RecordingWindows {
     }
 
   private:
-    static void replace(Windows& windows) {
+    static void replace(ProgramWindows& windows) {
         const Platform& now = platform();
         replace_services(now.dialogs, windows, now.shell, now.pic);
     }
 
     std::function<void()> look_;
-    Windows& former_;
+    ProgramWindows& former_;
 };
 
 } // namespace velmora::test

@@ -1,5 +1,5 @@
 // Every control stands in its window under its name, in the form's order, with its kind.
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 #include "windows/windows_test.h"
 
 #include "commands/command_table.h"

@@ -3,8 +3,8 @@
 #include "services/literals.h"
 #include "support/recording_platform.h"
 #include "ui/window.h"
+#include "ui/window_host.h"
 #include "ui/window_registry.h"
-#include "ui/windows_host.h"
 #include "windows/shown_texts.h"
 
 #include <QWidget>
@@ -22,7 +22,7 @@ class LanguagesTest : public testing::TestWithParam<const char*> {
     LanguagesTest() { session.Idioma = GetParam(); }
 
     RecordingPlatform machine;
-    WindowsHost host;
+    WindowHost host;
 };
 
 TEST_P(LanguagesTest, EveryWindowShowsItsTextsWhole) {

@@ -6,8 +6,8 @@
 #include "services/literals.h"
 #include "support/recording_platform.h"
 #include "ui/window.h"
+#include "ui/window_host.h"
 #include "ui/window_registry.h"
-#include "ui/windows_host.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -44,7 +44,7 @@ Texts spanish_rows(std::string_view table) {
     return texts;
 }
 
-Texts design_of(std::string_view name, WindowsHost& host) {
+Texts design_of(std::string_view name, WindowHost& host) {
     const auto window = make_window(name, host);
     CreaLiterales(window->form());
     Texts design = spanish_rows(name);
@@ -68,7 +68,7 @@ void expect_rows_of(const Texts& design, const Texts& table, const std::string& 
 
 TEST(TablesTest, EveryWindowHasItsTextsAsDesigned) {
     const RecordingPlatform machine;
-    WindowsHost host;
+    WindowHost host;
     for (const std::string_view name : window_names()) {
         if (name == kMadeByItsWindow)
             continue;

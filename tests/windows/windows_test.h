@@ -23,7 +23,7 @@ class WindowsTest : public testing::Test {
     WindowsTest();
     ~WindowsTest() override;
 
-    WindowsHost& windows() { return *platform_->windows; }
+    WindowHost& windows() { return *platform_->windows; }
     RecordingDialogs& dialogs() { return *dialogs_; }
     RecordingShell& shell() { return *shell_; }
     MemorySettings& settings() { return *settings_; }

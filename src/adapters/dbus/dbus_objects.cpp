@@ -1,6 +1,7 @@
 #include "adapters/dbus/dbus_objects.h"
 
 #include "runtime/error.h"
+#include "toolkit/qt_text.h"
 
 #include <QDBusArgument>
 #include <QStringList>
@@ -8,14 +9,6 @@
 #include <utility>
 
 namespace velmora {
-
-namespace {
-
-QString qt_text(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-} // namespace
 
 DbusDocument::DbusDocument(std::shared_ptr<const CadLink> link, QString document)
     : link_(link), document_(document), entities_(std::move(link), std::move(document)) {}

@@ -1,5 +1,7 @@
 #include "adapters/qt/file_filter.h"
 
+#include "toolkit/qt_text.h"
+
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -56,8 +58,7 @@ QString name_alone(QString name) {
 } // namespace
 
 QString toolkit_filter(std::string_view filter) {
-    const QStringList pieces =
-        separated(QString::fromUtf8(filter.data(), static_cast<qsizetype>(filter.size())));
+    const QStringList pieces = separated(qt_text(filter));
     QStringList lines;
     for (qsizetype i = 0; i + 1 < pieces.size(); i += 2)
         if (is_pattern_list(pieces[i + 1]))

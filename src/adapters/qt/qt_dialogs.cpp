@@ -3,6 +3,7 @@
 #include "adapters/qt/file_filter.h"
 #include "canvas/colours.h"
 #include "runtime/paths.h"
+#include "toolkit/qt_text.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -25,10 +26,6 @@ namespace {
 
 constexpr int kButtonMask = 0x7;
 constexpr int kIconMask = 0x70;
-
-QString qt_text(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QWidget* owner() {
     if (QWidget* modal = QApplication::activeModalWidget())

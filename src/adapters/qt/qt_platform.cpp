@@ -39,7 +39,7 @@ void fill(std::unique_ptr<Service>& place, Make make) {
 
 } // namespace
 
-QtPlatform::QtPlatform() : windows(std::make_unique<WindowsHost>()) {}
+QtPlatform::QtPlatform() : windows(std::make_unique<WindowHost>()) {}
 
 QtPlatform::~QtPlatform() = default;
 

@@ -4,7 +4,7 @@
 
 #include "adapters/qt/program_folder.h"
 #include "platform/platform.h"
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 
 #include <memory>
 #include <string>
@@ -30,7 +30,7 @@ struct QtPlatform {
     std::unique_ptr<Autocad> cad;
     std::unique_ptr<Printer> printer;
     std::unique_ptr<TextOutlines> text_outlines;
-    std::unique_ptr<WindowsHost> windows; ///< last: the windows go before what they show
+    std::unique_ptr<WindowHost> windows; ///< last: the windows go before what they show
 
     /// Sets the process's platform. Needs a QApplication.
     void install();

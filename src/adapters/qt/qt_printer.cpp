@@ -1,8 +1,8 @@
 #include "adapters/qt/qt_printer.h"
 
-#include "adapters/qt/line_clip.h"
 #include "canvas/colours.h"
 #include "runtime/error.h"
+#include "toolkit/line_clip.h"
 
 #include <QCoreApplication>
 #include <QPainter>

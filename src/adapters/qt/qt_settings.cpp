@@ -1,5 +1,7 @@
 #include "adapters/qt/qt_settings.h"
 
+#include "toolkit/qt_text.h"
+
 #include <QSettings>
 
 namespace velmora {
@@ -24,8 +26,7 @@ class QtSettings : public SettingsStore {
     }
 
     void save(std::string_view section, std::string_view key, std::string_view value) override {
-        store_->setValue(key_of(section, key),
-                         QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size())));
+        store_->setValue(key_of(section, key), qt_text(value));
     }
 
   private:

@@ -4,6 +4,7 @@
 #include "adapters/qt/recycle_bin.h"
 #include "adapters/qt/sound.h"
 #include "runtime/paths.h"
+#include "toolkit/qt_text.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -42,8 +43,7 @@ QString shown_help(const QString& help_file) {
 class QtShell : public Shell {
   public:
     int open(std::string_view target) override {
-        const QString text =
-            QString::fromUtf8(target.data(), static_cast<qsizetype>(target.size()));
+        const QString text = qt_text(target);
         if (is_address(text))
             return started(QUrl(text, QUrl::TolerantMode));
         QString path = path_of(target);

@@ -1,5 +1,7 @@
 #include "adapters/qt/qt_text_outlines.h"
 
+#include "toolkit/qt_text.h"
+
 #include <QFont>
 #include <QFontMetrics>
 #include <QGlyphRun>
@@ -32,7 +34,7 @@ QFont font_of(const FontChoice& choice) {
 
 /// A pasted text can have tabs and line ends; they are blanks, as the box shows them.
 QString one_line(std::string_view text) {
-    QString line = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    QString line = qt_text(text);
     for (QChar& letter : line)
         if (letter.category() == QChar::Other_Control ||
             letter.category() == QChar::Separator_Line ||

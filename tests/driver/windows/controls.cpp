@@ -2,7 +2,7 @@
 
 #include "script/fault.h"
 #include "script/words.h"
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 
 #include <QAction>
 #include <QApplication>
@@ -17,14 +17,14 @@ ControlName control_name_of(std::string_view word) {
     return {std::string(word.substr(0, point)), std::string(word.substr(point + 1))};
 }
 
-QWidget& find_window(const WindowsHost& windows, const std::string& name) {
+QWidget& find_window(const WindowHost& windows, const std::string& name) {
     QWidget* window = windows.window(name);
     if (window == nullptr || !window->isVisible())
         fault("the window " + word_text(name) + " is not open");
     return *window;
 }
 
-QObject& find_control(const WindowsHost& windows, std::string_view word) {
+QObject& find_control(const WindowHost& windows, std::string_view word) {
     const ControlName name = control_name_of(word);
     QWidget* window = windows.window(name.window);
     if (window == nullptr)
@@ -37,7 +37,7 @@ QObject& find_control(const WindowsHost& windows, std::string_view word) {
     return *control;
 }
 
-QWidget& find_widget(const WindowsHost& windows, std::string_view word) {
+QWidget& find_widget(const WindowHost& windows, std::string_view word) {
     check_reachable(find_window(windows, control_name_of(word).window));
     auto* widget = qobject_cast<QWidget*>(&find_control(windows, word));
     if (widget == nullptr)

@@ -10,7 +10,7 @@ class QObject;
 class QWidget;
 
 namespace velmora {
-class WindowsHost;
+class WindowHost;
 }
 
 namespace velmora::driver {
@@ -23,12 +23,12 @@ struct ControlName {
 [[nodiscard]] ControlName control_name_of(std::string_view word);
 
 /// A window that is open.
-[[nodiscard]] QWidget& find_window(const WindowsHost& windows, const std::string& name);
+[[nodiscard]] QWidget& find_window(const WindowHost& windows, const std::string& name);
 /// A control of a loaded window, or the window itself: a widget, or the action of a menu entry or a
 /// toolbar key.
-[[nodiscard]] QObject& find_control(const WindowsHost& windows, std::string_view word);
+[[nodiscard]] QObject& find_control(const WindowHost& windows, std::string_view word);
 /// A control of an open window that a person can reach: no modal window stands above it.
-[[nodiscard]] QWidget& find_widget(const WindowsHost& windows, std::string_view word);
+[[nodiscard]] QWidget& find_widget(const WindowHost& windows, std::string_view word);
 /// A ScriptFault when a modal window stands above this one.
 void check_reachable(const QWidget& window);
 

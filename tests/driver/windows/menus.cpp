@@ -5,7 +5,7 @@
 #include "script/fault.h"
 #include "script/numbers.h"
 #include "script/words.h"
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 #include "windows/controls.h"
 
 #include <QAction>
@@ -34,7 +34,7 @@ bool is_entry_enabled(const QAction& entry, const std::string& name) {
     return found == session.Velmora.menus.end() || found->second.enabled;
 }
 
-void click_menu(WindowsHost& windows, Transcript& transcript, const std::string& name) {
+void click_menu(WindowHost& windows, Transcript& transcript, const std::string& name) {
     const MenuEntry& entry = entry_of(name);
     auto* action = qobject_cast<QAction*>(&find_control(windows, "Velmora." + name));
     if (action == nullptr)

@@ -9,7 +9,7 @@
 class QAction;
 
 namespace velmora {
-class WindowsHost;
+class WindowHost;
 }
 
 namespace velmora::driver {
@@ -19,6 +19,6 @@ namespace velmora::driver {
 
 /// A click on an entry, "mnu_exit", "mnuRecentFile(3)"; a line when it is disabled. A ScriptFault
 /// for what is no entry with a command.
-void click_menu(WindowsHost& windows, Transcript& transcript, const std::string& name);
+void click_menu(WindowHost& windows, Transcript& transcript, const std::string& name);
 
 } // namespace velmora::driver

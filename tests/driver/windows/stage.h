@@ -28,7 +28,7 @@ class Stage {
     bool ctrl_held = false; ///< by `key-down`
     int line = 0;           ///< of the script
 
-    [[nodiscard]] WindowsHost& windows() const { return *platform_.windows; }
+    [[nodiscard]] WindowHost& windows() const { return *platform_.windows; }
     [[nodiscard]] ScriptedMachine& machine() const { return *machine_; }
     [[nodiscard]] ScriptedSettings& settings() const { return *settings_; }
 

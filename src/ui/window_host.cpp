@@ -1,9 +1,9 @@
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 
 #include "document/windows/velmora.h"
 #include "ui/icons.h"
+#include "ui/window_host_state.h"
 #include "ui/window_registry.h"
-#include "ui/windows_host_state.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -44,29 +44,29 @@ Qt::CursorShape cursor_of(int pointer) {
 
 } // namespace
 
-WindowsHost::WindowsHost() : d(std::make_unique<Private>(*this)) {
+WindowHost::WindowHost() : d(std::make_unique<Private>(*this)) {
     // Between the start window and the main one there is none.
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
-WindowsHost::~WindowsHost() {
+WindowHost::~WindowHost() {
     d->windows.clear();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-Window* WindowsHost::Private::find(std::string_view name) const {
+Window* WindowHost::Private::find(std::string_view name) const {
     const auto found = windows.find(name);
     return found == windows.end() ? nullptr : found->second.get();
 }
 
-std::vector<QPointer<Window>> WindowsHost::Private::all() const {
+std::vector<QPointer<Window>> WindowHost::Private::all() const {
     std::vector<QPointer<Window>> result;
     for (const auto& [name, window] : windows)
         result.emplace_back(window.get());
     return result;
 }
 
-Window& WindowsHost::Private::loaded(std::string_view name) {
+Window& WindowHost::Private::loaded(std::string_view name) {
     if (Window* found = find(name))
         return *found;
     auto made = make_window(name, host);
@@ -78,7 +78,7 @@ Window& WindowsHost::Private::loaded(std::string_view name) {
     return window;
 }
 
-void WindowsHost::Private::present(Window& window) {
+void WindowHost::Private::present(Window& window) {
     QWidget& widget = window.widget();
     const bool appears = !widget.isVisible();
     const QPointer<Window> alive(&window);
@@ -107,7 +107,7 @@ void WindowsHost::Private::present(Window& window) {
     beside = active == alive && !alive->takes_focus();
 }
 
-void WindowsHost::Private::set_active(Window* window) {
+void WindowHost::Private::set_active(Window* window) {
     const bool behind_modal =
         window != nullptr && !modals.empty() && modals.back().window != window->name();
     if (window == active || behind_modal)
@@ -122,48 +122,48 @@ void WindowsHost::Private::set_active(Window* window) {
         now->Activate();
 }
 
-void WindowsHost::Private::ask_for_activation() {
+void WindowHost::Private::ask_for_activation() {
     if (!std::exchange(activation_due, false) || !active)
         return;
     if (QWidget* widget = beside ? host.window(kMain) : &active->widget())
         widget->activateWindow();
 }
 
-void WindowsHost::start() {
+void WindowHost::start() {
     QApplication::setWindowIcon(app_icon()); // of message boxes too
     run([this] { show("intro"); });
 }
 
-QWidget* WindowsHost::window(std::string_view name) const {
+QWidget* WindowHost::window(std::string_view name) const {
     const Window* found = d->find(name);
     return found == nullptr ? nullptr : &found->widget();
 }
 
-QObject* WindowsHost::control(std::string_view window, std::string_view name) const {
+QObject* WindowHost::control(std::string_view window, std::string_view name) const {
     const Window* found = d->find(window);
     return found == nullptr ? nullptr : found->control(name);
 }
 
-void WindowsHost::activate(std::string_view window) {
+void WindowHost::activate(std::string_view window) {
     const QPointer<Window> found = d->find(window);
     if (!found || found == d->active || d->presenting)
         return;
     run([&] { d->set_active(found); });
 }
 
-void WindowsHost::focused(std::string_view window) {
+void WindowHost::focused(std::string_view window) {
     if (d->beside && window == kMain)
         return;
     d->beside = false;
     activate(window);
 }
 
-void WindowsHost::deactivate(std::string_view window) {
+void WindowHost::deactivate(std::string_view window) {
     if (d->active && d->active == d->find(window))
         run([&] { d->set_active(nullptr); });
 }
 
-void WindowsHost::close(std::string_view window) {
+void WindowHost::close(std::string_view window) {
     const std::string name(window);
     run([&] {
         if (Window* found = d->find(name))
@@ -174,15 +174,15 @@ void WindowsHost::close(std::string_view window) {
     });
 }
 
-void WindowsHost::load(std::string_view window) {
+void WindowHost::load(std::string_view window) {
     (void)d->loaded(window);
 }
 
-void WindowsHost::show(std::string_view window) {
+void WindowHost::show(std::string_view window) {
     d->present(d->loaded(window));
 }
 
-void WindowsHost::show_modal(std::string_view window) {
+void WindowHost::show_modal(std::string_view window) {
     const std::string name(window);
     const QPointer<Window> before = d->active;
     Window& shown = d->loaded(name);
@@ -206,13 +206,13 @@ void WindowsHost::show_modal(std::string_view window) {
         d->set_active(before);
 }
 
-void WindowsHost::Private::leave_modal(const std::string& window) {
+void WindowHost::Private::leave_modal(const std::string& window) {
     for (const Modal& modal : modals)
         if (modal.window == window)
             modal.loop->quit();
 }
 
-void WindowsHost::unload(std::string_view window) {
+void WindowHost::unload(std::string_view window) {
     const std::string name(window);
     const QPointer<Window> leaving = d->find(name);
     if (!leaving)
@@ -235,12 +235,12 @@ void WindowsHost::unload(std::string_view window) {
     gone.release()->deleteLater();
 }
 
-void WindowsHost::minimize(std::string_view window) {
+void WindowHost::minimize(std::string_view window) {
     if (QWidget* found = this->window(window))
         found->showMinimized();
 }
 
-void WindowsHost::set_focus(std::string_view window, std::string_view control) {
+void WindowHost::set_focus(std::string_view window, std::string_view control) {
     Window* found = d->find(window);
     if (found == nullptr)
         return;
@@ -252,11 +252,11 @@ void WindowsHost::set_focus(std::string_view window, std::string_view control) {
         widget->setFocus(Qt::OtherFocusReason);
 }
 
-void WindowsHost::popup_menu(std::string_view menu) {
+void WindowHost::popup_menu(std::string_view menu) {
     d->popup = menu;
 }
 
-void WindowsHost::Private::show_popup() {
+void WindowHost::Private::show_popup() {
     if (popup.empty())
         return;
     const QString name = QString::fromStdString(std::exchange(popup, {}));
@@ -266,19 +266,19 @@ void WindowsHost::Private::show_popup() {
         open_popup->popup(popup_place(*main));
 }
 
-Form* WindowsHost::form(std::string_view window) {
+Form* WindowHost::form(std::string_view window) {
     Window* found = d->find(window);
     return found == nullptr ? nullptr : &found->form();
 }
 
-void WindowsHost::status_changed() {
+void WindowHost::status_changed() {
     if (events.status)
         events.status(state::Velmora.StatusBar1);
     for (const auto& [name, window] : d->windows)
         window->status_changed();
 }
 
-void WindowsHost::pointer_changed() {
+void WindowHost::pointer_changed() {
     const int pointer = state::Velmora.MousePointer;
     if (events.pointer)
         events.pointer(pointer);

@@ -1,4 +1,4 @@
-#include "adapters/qt/line_clip.h"
+#include "toolkit/line_clip.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-// What WindowsHost keeps: the loaded windows, who is active, which handlers run and wait.
+// What WindowHost keeps: the loaded windows, who is active, which handlers run and wait.
 #pragma once
 
 #include "ui/window.h"
-#include "ui/windows_host.h"
+#include "ui/window_host.h"
 
 #include <QEventLoop>
 #include <QMenu>
@@ -19,16 +19,16 @@ namespace velmora {
 /// std::exception and no run-time error, so that no trap of the logic takes it.
 struct EndOfProgram {};
 
-struct WindowsHost::Private {
+struct WindowHost::Private {
     struct Modal {
         std::string window;
         QEventLoop* loop;
         int depth; ///< of the handler that waits
     };
 
-    explicit Private(WindowsHost& owner) : host(owner) {}
+    explicit Private(WindowHost& owner) : host(owner) {}
 
-    WindowsHost& host;
+    WindowHost& host;
     std::map<std::string, std::unique_ptr<Window>, std::less<>> windows;
     std::vector<Modal> modals;
     QPointer<Window> active;

@@ -3,7 +3,7 @@
 // windows after it, and a run-time error that nothing handled ends here.
 #pragma once
 
-#include "platform/windows.h"
+#include "platform/program_windows.h"
 #include "runtime/error.h"
 
 #include <QObject>
@@ -39,11 +39,11 @@ struct SidePlace {
     QSize main;
 };
 
-class WindowsHost : public QObject, public Windows {
+class WindowHost : public QObject, public ProgramWindows {
     Q_OBJECT
   public:
-    WindowsHost();
-    ~WindowsHost() override;
+    WindowHost();
+    ~WindowHost() override;
 
     WindowEvents events;
     std::map<std::string, SidePlace, std::less<>> side_places; ///< of those unloaded, by name

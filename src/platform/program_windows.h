@@ -7,9 +7,9 @@ namespace velmora {
 
 class Form;
 
-class Windows {
+class ProgramWindows {
   public:
-    virtual ~Windows() = default;
+    virtual ~ProgramWindows() = default;
     /// Loads the window if need be, shows it, brings it to the front.
     virtual void show(std::string_view window) = 0;
     /// Shows it and returns when it was unloaded.
