@@ -1,7 +1,7 @@
 // What a move of the pointer costs a user: the event, the handler, the windows brought up to date
 // and the paint, over outlines of growing size.
 #include "adapters/qt/image_surface.h"
-#include "adapters/qt/qt_platform.h"
+#include "app/qt_platform.h"
 #include "canvas/view.h"
 #include "commands/handlers.h"
 #include "document/refresh.h"

@@ -16,6 +16,11 @@ void set_platform(const Platform& services) {
     current().emplace(services);
 }
 
+void set_previews(Previews* pictures) {
+    assert(current().has_value());
+    current()->previews = pictures;
+}
+
 const Platform& platform() {
     assert(current().has_value());
     return *current();

@@ -33,6 +33,8 @@ struct Platform {
 };
 
 void set_platform(const Platform& services);
+/// The adjustment's window opens or shuts; the rest stays.
+void set_previews(Previews* pictures);
 [[nodiscard]] const Platform& platform();
 
 } // namespace velmora

@@ -3,7 +3,6 @@
 #include "document/windows/acerca.h"
 #include "forms/acerca.h"
 #include "ui/icons.h"
-#include "ui/window_host.h"
 
 namespace velmora {
 
@@ -11,7 +10,7 @@ namespace {
 constexpr double kNameSize = 1.8; ///< of the desktop's font
 } // namespace
 
-AboutBox::AboutBox(WindowHost& windows) : FormWindow(windows) {
+AboutBox::AboutBox(EventSink& events) : FormWindow(events) {
     ui.Image1->set_picture(app_icon());
     QFont font = ui.lblVelmora->font();
     font.setPointSizeF(font.pointSizeF() * kNameSize);
@@ -37,8 +36,9 @@ void AboutBox::bind() {
 
 void AboutBox::wire() {
     on_click(*ui.Command1, acerca_Command1_Click);
-    connect(ui.lbl_web, &LinkLabel::clicked, this, [this] { host().run(acerca_lbl_web_Click); });
-    connect(ui.lbl_mail, &LinkLabel::clicked, this, [this] { host().run(acerca_lbl_mail_Click); });
+    connect(ui.lbl_web, &LinkLabel::clicked, this, [this] { events().run(acerca_lbl_web_Click); });
+    connect(ui.lbl_mail, &LinkLabel::clicked, this,
+            [this] { events().run(acerca_lbl_mail_Click); });
 }
 
 void AboutBox::Load() {

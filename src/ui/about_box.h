@@ -9,7 +9,7 @@ namespace velmora {
 
 class AboutBox : public FormWindow<Ui::acerca> {
   public:
-    explicit AboutBox(WindowHost& windows);
+    explicit AboutBox(EventSink& events);
 
     void Load() override;
     void Activate() override;

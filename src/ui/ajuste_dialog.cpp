@@ -3,23 +3,12 @@
 #include "document/windows/ajuste.h"
 #include "forms/ajuste.h"
 #include "platform/platform.h"
-#include "ui/window_host.h"
 
 #include <QEvent>
 
 namespace velmora {
 
-namespace {
-
-void set_previews(Previews* pictures) {
-    Platform services = platform();
-    services.previews = pictures;
-    set_platform(services);
-}
-
-} // namespace
-
-AjusteDialog::AjusteDialog(WindowHost& windows) : FormWindow(windows) {
+AjusteDialog::AjusteDialog(EventSink& events) : FormWindow(events) {
     bind_sides();
     bind_results();
     bind_status();
@@ -108,8 +97,8 @@ void AjusteDialog::wire() {
     on_idle_click(*ui.cmd_selB, cmd_selB_Click);
     on_idle_click(*ui.cmd_opt, cmd_opt_Click);
     connect(ui.Cmd_Ajuste, &QAbstractButton::clicked, this, [this] {
-        if (host().idle())
-            host().run_alone(Cmd_Ajuste_Click);
+        if (events().idle())
+            events().run_alone(Cmd_Ajuste_Click);
     });
     on_idle_click(*ui.Cmd_save, Cmd_save_Click);
     on_idle_click(*ui.cmd_exit, ajuste_cmd_exit_Click);
@@ -117,8 +106,8 @@ void AjusteDialog::wire() {
 
 void AjusteDialog::on_idle_click(QAbstractButton& button, void (*handler)()) {
     connect(&button, &QAbstractButton::clicked, this, [this, handler] {
-        if (host().idle())
-            host().run(handler);
+        if (events().idle())
+            events().run(handler);
     });
 }
 
@@ -137,7 +126,7 @@ void AjusteDialog::Unload() {
 
 bool AjusteDialog::eventFilter(QObject* watched, QEvent* event) {
     const bool closing = watched == &widget() && event->type() == QEvent::Close;
-    if (!closing || host().idle())
+    if (!closing || events().idle())
         return Window::eventFilter(watched, event);
     event->ignore();
     return true;

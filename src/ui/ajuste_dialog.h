@@ -10,7 +10,7 @@ namespace velmora {
 
 class AjusteDialog : public FormWindow<Ui::ajuste>, private Previews {
   public:
-    explicit AjusteDialog(WindowHost& windows);
+    explicit AjusteDialog(EventSink& events);
     ~AjusteDialog() override;
 
     void Load() override;

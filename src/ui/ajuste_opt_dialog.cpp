@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-AjusteOptDialog::AjusteOptDialog(WindowHost& windows) : FormWindow(windows) {
+AjusteOptDialog::AjusteOptDialog(EventSink& events) : FormWindow(events) {
     bind();
     wire();
     list_controls({"Picture1", "Label1", "txt_X", "Label2", "txt_Y", "Label3", "txt_Z", "cmb_ok"});

@@ -9,7 +9,7 @@ namespace velmora {
 
 class AjusteOptDialog : public FormWindow<Ui::ajuste_opt> {
   public:
-    explicit AjusteOptDialog(WindowHost& windows);
+    explicit AjusteOptDialog(EventSink& events);
 
     void Load() override;
 

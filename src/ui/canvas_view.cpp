@@ -1,11 +1,12 @@
 #include "ui/canvas_view.h"
 
-#include "adapters/qt/image_surface.h"
 #include "canvas/colours.h"
 #include "canvas/keys.h"
 #include "canvas/pointer.h"
+#include "canvas/surface.h"
 #include "document/refresh.h"
 #include "platform/platform.h"
+#include "toolkit/shown_image.h"
 #include "ui/binding.h"
 #include "ui/pic_widget.h"
 
@@ -40,22 +41,18 @@ int share_of(const QScrollBar& bar, double share) {
 
 } // namespace
 
-CanvasView::CanvasView(PicWidget& pic, QLabel& lbl_xyfloat, QScrollArea& scroll)
-    : pic_(pic), label_(lbl_xyfloat), scroll_(scroll),
-      surface_(dynamic_cast<ImageSurface*>(&platform().pic)) {
+CanvasView::CanvasView(ShownImage& image, PicWidget& pic, QLabel& lbl_xyfloat, QScrollArea& scroll)
+    : image_(image), pic_(pic), label_(lbl_xyfloat), scroll_(scroll) {
     label_.setAutoFillBackground(true);
     label_.setAttribute(Qt::WA_TransparentForMouseEvents);
-    if (surface_ == nullptr)
-        return;
-    pic_.show_image(surface_->image());
-    surface_->changed = [this](const QRect& part) {
+    pic_.show_image(image_.image());
+    image_.changed = [this](const QRect& part) {
         pic_.update(part);
     };
 }
 
 CanvasView::~CanvasView() {
-    if (surface_ != nullptr)
-        surface_->changed = {};
+    image_.changed = {};
 }
 
 void CanvasView::bind(Bindings& bindings, VelmoraWindow& state) {

@@ -1,5 +1,5 @@
-// The canvas in the main window: the surface's image in its scrolling container, the floating
-// label, and the events that go to the logic.
+// The canvas in the main window: the image that the logic draws in its scrolling container, the
+// floating label, and the events that go to the logic.
 #pragma once
 
 #include "document/windows/velmora.h"
@@ -13,15 +13,15 @@ class QScrollArea;
 namespace velmora {
 
 class Bindings;
-class ImageSurface;
 class PicWidget;
+class ShownImage;
 
 class CanvasView : public QObject {
     Q_OBJECT
   public:
     using Dispatch = std::function<void(const std::function<void()>&)>;
 
-    CanvasView(PicWidget& pic, QLabel& lbl_xyfloat, QScrollArea& scroll);
+    CanvasView(ShownImage& image, PicWidget& pic, QLabel& lbl_xyfloat, QScrollArea& scroll);
     ~CanvasView() override;
 
     void bind(Bindings& bindings, VelmoraWindow& state);
@@ -35,10 +35,10 @@ class CanvasView : public QObject {
     void scroll_to(double x, double y);
     void repaint_after_scroll();
 
+    ShownImage& image_;
     PicWidget& pic_;
     QLabel& label_;
     QScrollArea& scroll_;
-    ImageSurface* surface_;
     Dispatch dispatch_;
     double scroll_x_ = 0; ///< shares of the bars' maximum, as the program set them last
     double scroll_y_ = 1;

@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-CompensaDialog::CompensaDialog(WindowHost& windows) : FormWindow(windows) {
+CompensaDialog::CompensaDialog(EventSink& events) : FormWindow(events) {
     bind();
     wire();
     list_controls({"Label1", "Label3", "Label2", "Txt_merma", "cmd_ok", "cmd_cancel"});

@@ -9,7 +9,7 @@ namespace velmora {
 
 class CompensaDialog : public FormWindow<Ui::Compensa> {
   public:
-    explicit CompensaDialog(WindowHost& windows);
+    explicit CompensaDialog(EventSink& events);
 
     void Load() override;
 

@@ -10,7 +10,7 @@ namespace {
 constexpr auto kLongestMaximum = "(1000.33333333333)";
 } // namespace
 
-DelNptoDialog::DelNptoDialog(WindowHost& windows) : FormWindow(windows) {
+DelNptoDialog::DelNptoDialog(EventSink& events) : FormWindow(events) {
     QLabel& maximum = *ui.Lbl_Maxpoints;
     maximum.setMinimumWidth(maximum.fontMetrics().horizontalAdvance(kLongestMaximum));
     bind();

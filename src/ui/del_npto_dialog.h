@@ -9,7 +9,7 @@ namespace velmora {
 
 class DelNptoDialog : public FormWindow<Ui::del_Npto> {
   public:
-    explicit DelNptoDialog(WindowHost& windows);
+    explicit DelNptoDialog(EventSink& events);
 
     void Load() override;
 

@@ -11,7 +11,7 @@ constexpr int kRow = 0; // twips below the main window's top
 constexpr int kPictureSize = 24;
 } // namespace
 
-InfoPanel::InfoPanel(WindowHost& windows) : SidePanel(windows, kRow) {
+InfoPanel::InfoPanel(EventSink& events, SideGround& ground) : SidePanel(events, ground, kRow) {
     ui.Image1->setPixmap(app_icon().pixmap(kPictureSize));
     colour_boxes();
     bind();

@@ -9,7 +9,7 @@ namespace velmora {
 
 class InfoPanel : public SidePanel<Ui::wininfo> {
   public:
-    explicit InfoPanel(WindowHost& windows);
+    InfoPanel(EventSink& events, SideGround& ground);
 
     void Load() override;
     void Activate() override;

@@ -3,11 +3,13 @@
 #include "document/state/program.h"
 #include "document/windows/intro.h"
 #include "forms/intro.h"
+#include "platform/platform.h"
+#include "platform/program_windows.h"
 #include "ui/icons.h"
 #include "ui/translations.h"
-#include "ui/window_host.h"
 
 #include <QTimer>
+#include <utility>
 
 namespace velmora {
 
@@ -26,8 +28,8 @@ void set_look(QLabel& label, double size_factor, const QColor& colour) {
 
 } // namespace
 
-IntroScreen::IntroScreen(WindowHost& windows)
-    : FormWindow(windows), timer_(*new QTimer(&widget())) {
+IntroScreen::IntroScreen(EventSink& events, LoadWindow load)
+    : FormWindow(events), load_(std::move(load)), timer_(*new QTimer(&widget())) {
     widget().setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     timer_.setObjectName("Timer1");
     timer_.setInterval(kTimerInterval);
@@ -61,11 +63,10 @@ void IntroScreen::Load() {
 
 void IntroScreen::leave() {
     timer_.stop();
-    host().run([this] {
-        WindowHost& windows = host();
-        windows.load("Velmora");
-        windows.unload("intro");
-        windows.show("Velmora");
+    events().run([this] {
+        load_("Velmora");
+        platform().windows.unload("intro");
+        platform().windows.show("Velmora");
     });
 }
 

@@ -12,7 +12,10 @@ namespace velmora {
 
 class IntroScreen : public FormWindow<Ui::intro, QWidget> {
   public:
-    explicit IntroScreen(WindowHost& windows);
+    /// Loads a window without showing it. Part of a handler.
+    using LoadWindow = std::function<void(std::string_view window)>;
+
+    IntroScreen(EventSink& events, LoadWindow load);
 
     void Load() override;
 
@@ -21,6 +24,7 @@ class IntroScreen : public FormWindow<Ui::intro, QWidget> {
     /// The main window takes over.
     void leave();
 
+    LoadWindow load_;
     QTimer& timer_;
 };
 

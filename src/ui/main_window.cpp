@@ -4,7 +4,6 @@
 #include "document/windows/velmora.h"
 #include "forms/velmora.h"
 #include "ui/shortcuts_first.h"
-#include "ui/window_host.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -32,11 +31,12 @@ void add_part(QObject* part, const char* name) {
 
 } // namespace
 
-MainWindow::MainWindow(WindowHost& windows)
-    : FormWindow(windows), window_(static_cast<QMainWindow&>(widget())),
-      commands_(window_, [this](void (*handler)()) { host().run(handler); }),
+MainWindow::MainWindow(EventSink& events, ShownImage& canvas)
+    : FormWindow(events), window_(static_cast<QMainWindow&>(widget())),
+      commands_(window_, [&events](void (*handler)()) { events.run(handler); }),
       status_(*new ElidedLabel(ui.StatusBar1)), pbar1_(*new QProgressBar(ui.StatusBar1)),
-      pbar2_(*new QProgressBar(ui.StatusBar1)), canvas_(*ui.pic, *ui.lbl_xyfloat, *ui.SSScroll) {
+      pbar2_(*new QProgressBar(ui.StatusBar1)),
+      canvas_(canvas, *ui.pic, *ui.lbl_xyfloat, *ui.SSScroll) {
     commands_.add_menus();
     commands_.add_bars(*ui.bands);
     ui.bands->addStretch(1);
@@ -86,12 +86,12 @@ void MainWindow::bind() {
 void MainWindow::wire() {
     for (QLineEdit* box : {ui.TxtDat_File, ui.TxtDescDat})
         new ShortcutsFirst(*box);
-    canvas_.wire([this](const Handler& handler) { host().run(handler); });
+    canvas_.wire([this](const Handler& handler) { events().run(handler); });
     connect(ui.Lst_Coords, &CoordList::row_clicked, this, [this](const QString& row) {
-        host().run([text = row.toStdString()] { Lst_Coords_Click(text); });
+        events().run([text = row.toStdString()] { Lst_Coords_Click(text); });
     });
     connect(ui.Lst_Coords, &CoordList::row_reached, this, [this](const QString& row) {
-        host().run([text = row.toStdString()] { Lst_Coords_Key(text); });
+        events().run([text = row.toStdString()] { Lst_Coords_Key(text); });
     });
 }
 
@@ -149,7 +149,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         !window_.screen()->availableGeometry().contains(window_.frameGeometry()))
         fit_to_screen();
     if (watched == window_.windowHandle() && is_use(*event))
-        host().activate(name());
+        events().activate(name());
     if (watched == &window_ && event->type() == QEvent::WindowStateChange)
         state::Velmora.minimized = window_.isMinimized();
     return Window::eventFilter(watched, event);

@@ -14,7 +14,7 @@ namespace velmora {
 
 class MainWindow : public FormWindow<Ui::Velmora, QMainWindow> {
   public:
-    explicit MainWindow(WindowHost& windows);
+    MainWindow(EventSink& events, ShownImage& canvas);
 
     void Load() override;
     void Activate() override;

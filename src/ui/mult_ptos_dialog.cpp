@@ -2,7 +2,6 @@
 
 #include "document/windows/mult_ptos.h"
 #include "forms/mult_ptos.h"
-#include "ui/window_host.h"
 
 namespace velmora {
 
@@ -11,7 +10,7 @@ constexpr int kFirstFactor = 2;
 constexpr int kLastFactor = 10;
 } // namespace
 
-MultPtosDialog::MultPtosDialog(WindowHost& windows) : FormWindow(windows) {
+MultPtosDialog::MultPtosDialog(EventSink& events) : FormWindow(events) {
     for (int factor = kFirstFactor; factor <= kLastFactor; ++factor)
         ui.Combo1->addItem(QString::number(factor));
     ui.Combo1->setCompleter(nullptr); // "1" is a factor of its own, not the beginning of "10"
@@ -31,7 +30,7 @@ void MultPtosDialog::bind() {
 
 void MultPtosDialog::wire() {
     on_change(*ui.Combo1->lineEdit(), Combo1_Change);
-    connect(ui.Combo1, &QComboBox::activated, this, [this] { host().run(Combo1_Click); });
+    connect(ui.Combo1, &QComboBox::activated, this, [this] { events().run(Combo1_Click); });
     on_click(*ui.cmd_ok, Mult_Ptos_cmd_ok_Click);
     on_click(*ui.cmd_cancel, Mult_Ptos_cmd_cancel_Click);
 }

@@ -9,7 +9,7 @@ namespace velmora {
 
 class MultPtosDialog : public FormWindow<Ui::Mult_Ptos> {
   public:
-    explicit MultPtosDialog(WindowHost& windows);
+    explicit MultPtosDialog(EventSink& events);
 
     void Load() override;
 

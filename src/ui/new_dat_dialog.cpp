@@ -10,7 +10,7 @@
 
 namespace velmora {
 
-NewDatDialog::NewDatDialog(WindowHost& windows) : FormWindow(windows) {
+NewDatDialog::NewDatDialog(EventSink& events) : FormWindow(events) {
     draw_tiles();
     bind();
     wire();

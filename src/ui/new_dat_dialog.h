@@ -9,7 +9,7 @@ namespace velmora {
 
 class NewDatDialog : public FormWindow<Ui::New_Dat> {
   public:
-    explicit NewDatDialog(WindowHost& windows);
+    explicit NewDatDialog(EventSink& events);
 
     void Load() override;
 

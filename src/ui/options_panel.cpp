@@ -10,7 +10,8 @@ namespace {
 constexpr int kRow = 4800; // twips below the main window's top, clear of the open wininfo
 } // namespace
 
-OptionsPanel::OptionsPanel(WindowHost& windows) : SidePanel(windows, kRow) {
+OptionsPanel::OptionsPanel(EventSink& events, SideGround& ground)
+    : SidePanel(events, ground, kRow) {
     bind();
     wire();
     list_controls({"frm_Format",    "Label1",         "TxtPutCircle", "TxtPutArc",

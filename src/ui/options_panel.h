@@ -9,7 +9,7 @@ namespace velmora {
 
 class OptionsPanel : public SidePanel<Ui::winoptions> {
   public:
-    explicit OptionsPanel(WindowHost& windows);
+    OptionsPanel(EventSink& events, SideGround& ground);
 
     void Load() override;
     void Activate() override;

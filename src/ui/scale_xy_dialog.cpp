@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-ScaleXyDialog::ScaleXyDialog(WindowHost& windows) : FormWindow(windows) {
+ScaleXyDialog::ScaleXyDialog(EventSink& events) : FormWindow(events) {
     bind();
     wire();
     list_controls({"Opt_fixed", "Opt_percent", "frm_fixed", "frm_percent", "txt_fixed_x",

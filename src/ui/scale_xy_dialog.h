@@ -9,7 +9,7 @@ namespace velmora {
 
 class ScaleXyDialog : public FormWindow<Ui::Scale_xy> {
   public:
-    explicit ScaleXyDialog(WindowHost& windows);
+    explicit ScaleXyDialog(EventSink& events);
 
     void Load() override;
 

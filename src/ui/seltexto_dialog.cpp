@@ -5,7 +5,7 @@
 
 namespace velmora {
 
-SeltextoDialog::SeltextoDialog(WindowHost& windows) : FormWindow(windows) {
+SeltextoDialog::SeltextoDialog(EventSink& events) : FormWindow(events) {
     // The form's member cannot have the box's name, which is a word of the language.
     ui.char_->setObjectName("char");
     bind();

@@ -9,7 +9,7 @@ namespace velmora {
 
 class SeltextoDialog : public FormWindow<Ui::seltexto> {
   public:
-    explicit SeltextoDialog(WindowHost& windows);
+    explicit SeltextoDialog(EventSink& events);
 
     void Load() override;
 

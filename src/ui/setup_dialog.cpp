@@ -4,13 +4,12 @@
 #include "forms/setup.h"
 #include "toolkit/qt_text.h"
 #include "ui/controls.h"
-#include "ui/window_host.h"
 
 #include <array>
 
 namespace velmora {
 
-SetupDialog::SetupDialog(WindowHost& windows) : FormWindow(windows) {
+SetupDialog::SetupDialog(EventSink& events) : FormWindow(events) {
     for (const std::string_view name : setup_languages())
         ui.Cmb_Lang->addItem(qt_text(name));
     bind();
@@ -84,14 +83,14 @@ void SetupDialog::bind_colours() {
         bindings().shows<std::uint32_t>([colour] { return *colour; },
                                         [label](std::uint32_t now) { label->show_colour(now); });
         connect(label, &ColourLabel::clicked, this, [this, name = control_name(*label)] {
-            host().run([&name] { lblcolor_Click(name); });
+            events().run([&name] { lblcolor_Click(name); });
         });
     }
 }
 
 void SetupDialog::wire() {
     connect(ui.SSTab1, &QTabWidget::currentChanged, this,
-            [this](int tab) { host().run([tab] { setup_SSTab1_Click(tab); }); });
+            [this](int tab) { events().run([tab] { setup_SSTab1_Click(tab); }); });
     on_click(*ui.cmd_ok, setup_cmd_ok_Click);
     on_click(*ui.cmd_cancel, setup_cmd_cancel_Click);
 }

@@ -9,7 +9,7 @@ namespace velmora {
 
 class SetupDialog : public FormWindow<Ui::setup> {
   public:
-    explicit SetupDialog(WindowHost& windows);
+    explicit SetupDialog(EventSink& events);
 
     void Load() override;
     void Activate() override;

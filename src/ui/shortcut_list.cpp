@@ -23,7 +23,7 @@ std::vector<std::string> control_names() {
 
 } // namespace
 
-ShortcutList::ShortcutList(WindowHost& windows) : FormWindow(windows) {
+ShortcutList::ShortcutList(EventSink& events) : FormWindow(events) {
     on_click(*ui.Command1, teclas_Command1_Click);
     list_controls(control_names());
 }

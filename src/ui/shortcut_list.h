@@ -9,7 +9,7 @@ namespace velmora {
 
 class ShortcutList : public FormWindow<Ui::teclas> {
   public:
-    explicit ShortcutList(WindowHost& windows);
+    explicit ShortcutList(EventSink& events);
 
     void Load() override;
 };

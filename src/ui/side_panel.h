@@ -2,8 +2,8 @@
 #pragma once
 
 #include "ui/roll_up.h"
+#include "ui/side_ground.h"
 #include "ui/window.h"
-#include "ui/window_host.h"
 
 #include <QEvent>
 #include <utility>
@@ -16,10 +16,10 @@ class SidePanel : public FormWindow<Ui, QWidget> {
     /// Shown again, a window keeps the place where the user put it, until a resize of the main
     /// window moves it.
     void place() override {
-        const auto kept = this->host().side_places.find(this->name());
-        const QWidget* main = this->host().window("Velmora");
-        at_users_place_ = kept != this->host().side_places.end() && main != nullptr &&
-                          kept->second.main == main->size();
+        const auto kept = ground_.places.find(this->name());
+        const QWidget* main = ground_.main_window();
+        at_users_place_ =
+            kept != ground_.places.end() && main != nullptr && kept->second.main == main->size();
         if (at_users_place_)
             this->widget().move(kept->second.place);
         else
@@ -30,17 +30,18 @@ class SidePanel : public FormWindow<Ui, QWidget> {
     bool takes_focus() const override { return false; }
 
     void Unload() override {
-        const QWidget* main = this->host().window("Velmora");
+        const QWidget* main = ground_.main_window();
         if (looked_at_ && main != nullptr)
-            this->host().side_places[this->name()] = {this->widget().pos(), main->size()};
+            ground_.places[this->name()] = {this->widget().pos(), main->size()};
     }
 
   protected:
     /// `row` is the window's place below the main window's top, in twips.
-    SidePanel(WindowHost& windows, int row)
-        : FormWindow<Ui, QWidget>(windows), roll_up_(this->widget(), *this->ui.content), row_(row) {
+    SidePanel(EventSink& events, SideGround& ground, int row)
+        : FormWindow<Ui, QWidget>(events), ground_(ground),
+          roll_up_(this->widget(), *this->ui.content), row_(row) {
         this->widget().setWindowFlags(Qt::Tool);
-        if (QWidget* main = windows.window("Velmora"))
+        if (QWidget* main = ground_.main_window())
             main->installEventFilter(this);
     }
 
@@ -65,11 +66,12 @@ class SidePanel : public FormWindow<Ui, QWidget> {
     }
 
     void keep_to_main() {
-        const QWidget* main = this->host().window("Velmora");
+        const QWidget* main = ground_.main_window();
         if (main != nullptr && !main->isMinimized())
             roll_up_.keep_to(*main, row_);
     }
 
+    SideGround& ground_;
     RollUp roll_up_;
     int row_;
     bool looked_at_ = false;

@@ -2,7 +2,6 @@
 
 #include "ui/controls.h"
 #include "ui/key_filter.h"
-#include "ui/window_host.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -12,8 +11,8 @@
 
 namespace velmora {
 
-Window::Window(WindowHost& host, std::unique_ptr<QWidget> widget)
-    : host_(host), widget_(std::move(widget)), form_(*widget_, [this] { bindings_.pull(); }) {
+Window::Window(EventSink& events, std::unique_ptr<QWidget> widget)
+    : events_(events), widget_(std::move(widget)), form_(*widget_, [this] { bindings_.pull(); }) {
     widget_->installEventFilter(this);
 }
 
@@ -54,35 +53,35 @@ void Window::list_controls(const std::vector<std::string>& names) {
 
 void Window::on_click(QAbstractButton& button, Handler handler) {
     connect(&button, &QAbstractButton::clicked, this,
-            [this, handler = std::move(handler)] { host_.run(handler); });
+            [this, handler = std::move(handler)] { events_.run(handler); });
 }
 
 void Window::on_change(QLineEdit& box, Handler handler) {
     connect(&box, &QLineEdit::textChanged, this,
-            [this, handler = std::move(handler)] { host_.run(handler); });
+            [this, handler = std::move(handler)] { events_.run(handler); });
 }
 
 void Window::on_key_press(QLineEdit& box, std::function<int(int)> handler) {
     new KeyFilter(box, [this, handler = std::move(handler)](int typed) {
         int taken = 0;
-        host_.run([&] { taken = handler(typed); });
+        events_.run([&] { taken = handler(typed); });
         return taken;
     });
 }
 
 void Window::on_lost_focus(QLineEdit& box, Handler handler) {
-    new LostFocusFilter(box, [this, handler = std::move(handler)] { host_.run(handler); });
+    new LostFocusFilter(box, [this, handler = std::move(handler)] { events_.run(handler); });
 }
 
 bool Window::eventFilter(QObject* watched, QEvent* event) {
     if (watched != widget_.get())
         return false;
     if (event->type() == QEvent::WindowActivate)
-        host_.focused(name());
+        events_.focused(name());
     if (event->type() != QEvent::Close)
         return false;
     event->ignore();
-    host_.close(name());
+    events_.close(name());
     return true;
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "ui/binding.h"
+#include "ui/event_sink.h"
 #include "ui/form_adapter.h"
 #include "ui/form_dialog.h"
 
@@ -19,14 +20,12 @@ class QLineEdit;
 
 namespace velmora {
 
-class WindowHost;
-
 class Window : public QObject {
     Q_OBJECT
   public:
     using Handler = std::function<void()>;
 
-    Window(WindowHost& host, std::unique_ptr<QWidget> widget);
+    Window(EventSink& events, std::unique_ptr<QWidget> widget);
     ~Window() override;
 
     [[nodiscard]] QWidget& widget() const { return *widget_; }
@@ -55,7 +54,7 @@ class Window : public QObject {
   protected:
     /// Ends the construction: the names of the controls in the form's own order.
     void list_controls(const std::vector<std::string>& names);
-    [[nodiscard]] WindowHost& host() const { return host_; }
+    [[nodiscard]] EventSink& events() const { return events_; }
 
     void on_click(QAbstractButton& button, Handler handler);
     /// The user changed the text, or the driver put one in.
@@ -70,7 +69,7 @@ class Window : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    WindowHost& host_;
+    EventSink& events_;
     std::unique_ptr<QWidget> widget_;
     WidgetForm form_;
     Bindings bindings_;
@@ -80,7 +79,7 @@ class Window : public QObject {
 template <class Ui, class Widget = FormDialog>
 class FormWindow : public Window {
   protected:
-    explicit FormWindow(WindowHost& windows) : Window(windows, std::make_unique<Widget>()) {
+    explicit FormWindow(EventSink& events) : Window(events, std::make_unique<Widget>()) {
         ui.setupUi(static_cast<Widget*>(&widget()));
     }
     Ui ui;

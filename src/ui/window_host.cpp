@@ -3,7 +3,6 @@
 #include "document/windows/velmora.h"
 #include "ui/icons.h"
 #include "ui/window_host_state.h"
-#include "ui/window_registry.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -44,7 +43,7 @@ Qt::CursorShape cursor_of(int pointer) {
 
 } // namespace
 
-WindowHost::WindowHost() : d(std::make_unique<Private>(*this)) {
+WindowHost::WindowHost(ShownImage& canvas) : d(std::make_unique<Private>(*this, canvas)) {
     // Between the start window and the main one there is none.
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
@@ -69,7 +68,7 @@ std::vector<QPointer<Window>> WindowHost::Private::all() const {
 Window& WindowHost::Private::loaded(std::string_view name) {
     if (Window* found = find(name))
         return *found;
-    auto made = make_window(name, host);
+    auto made = make_window(name, around);
     if (made == nullptr)
         raise(error::object_required);
     Window& window = *made;

@@ -5,12 +5,10 @@
 
 #include "platform/program_windows.h"
 #include "runtime/error.h"
+#include "ui/event_sink.h"
 
 #include <QObject>
-#include <QPoint>
-#include <QSize>
 #include <functional>
-#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -18,6 +16,8 @@
 class QWidget;
 
 namespace velmora {
+
+class ShownImage;
 
 /// What someone who watches the windows is told; each may be empty.
 struct WindowEvents {
@@ -33,20 +33,14 @@ struct WindowEvents {
     std::function<void()> ended;
 };
 
-/// Where a side window stood when it was unloaded, and the main window's size then.
-struct SidePlace {
-    QPoint place;
-    QSize main;
-};
-
-class WindowHost : public QObject, public ProgramWindows {
+class WindowHost : public QObject, public ProgramWindows, public EventSink {
     Q_OBJECT
   public:
-    WindowHost();
+    /// `canvas` is what the main window shows; it outlives the host.
+    explicit WindowHost(ShownImage& canvas);
     ~WindowHost() override;
 
     WindowEvents events;
-    std::map<std::string, SidePlace, std::less<>> side_places; ///< of those unloaded, by name
 
     /// Shows the start window; it gives way to the main window.
     void start();
@@ -55,24 +49,19 @@ class WindowHost : public QObject, public ProgramWindows {
     /// The control `name` of a loaded window, "Picture1(2)" for a member of a control array; a menu
     /// entry's QAction for the main window's. nullptr when there is none.
     [[nodiscard]] QObject* control(std::string_view window, std::string_view name) const;
-    /// No handler is running or, where one waits in a modal window, nothing runs above that window.
-    [[nodiscard]] bool idle() const;
-    /// Runs a handler of the logic as an event of a window.
-    void run(const std::function<void()>& handler);
-    /// The same for one whose run-time error stops it alone: it is told, and the program goes on.
-    void run_alone(const std::function<void()>& handler);
-    /// The window gets the activation from another window of the program, or loses it, as an event.
-    void activate(std::string_view window);
+    /// The window loses the activation, as an event.
     void deactivate(std::string_view window);
-    /// The desktop gave a window its focus. A side window that was shown without it keeps the
-    /// activation when the focus comes to the main window, until that one is used.
-    void focused(std::string_view window);
-    /// The close box of a window, as an event. The program ends with its last window.
-    void close(std::string_view window);
     /// Loads a window without showing it. Part of a handler.
     void load(std::string_view window);
     /// Shows the session's structs in all loaded windows; pulls what was typed into them first.
     void refresh();
+
+    void run(const std::function<void()>& handler) override;
+    void run_alone(const std::function<void()>& handler) override;
+    [[nodiscard]] bool idle() const override;
+    void activate(std::string_view window) override;
+    void focused(std::string_view window) override;
+    void close(std::string_view window) override;
 
     void show(std::string_view window) override;
     void show_modal(std::string_view window) override;

@@ -1,8 +1,10 @@
 // What WindowHost keeps: the loaded windows, who is active, which handlers run and wait.
 #pragma once
 
+#include "ui/side_ground.h"
 #include "ui/window.h"
 #include "ui/window_host.h"
+#include "ui/window_registry.h"
 
 #include <QEventLoop>
 #include <QMenu>
@@ -26,9 +28,14 @@ struct WindowHost::Private {
         int depth; ///< of the handler that waits
     };
 
-    explicit Private(WindowHost& owner) : host(owner) {}
+    Private(WindowHost& owner, ShownImage& canvas)
+        : host(owner), around{owner, canvas, beside_main, [&owner](std::string_view window) {
+                                  owner.load(window);
+                              }} {}
 
     WindowHost& host;
+    SideGround beside_main{[this] { return host.window("Velmora"); }, {}};
+    Surroundings around;
     std::map<std::string, std::unique_ptr<Window>, std::less<>> windows;
     std::vector<Modal> modals;
     QPointer<Window> active;

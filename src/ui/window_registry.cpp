@@ -25,19 +25,32 @@ namespace {
 
 struct Row {
     std::string_view name;
-    std::unique_ptr<Window> (*make)(WindowHost&);
+    std::unique_ptr<Window> (*make)(const Surroundings&);
 };
 
 template <class Made>
-std::unique_ptr<Window> make(WindowHost& host) {
-    return std::make_unique<Made>(host);
+std::unique_ptr<Window> make(const Surroundings& around) {
+    return std::make_unique<Made>(around.events);
+}
+
+template <class Made>
+std::unique_ptr<Window> make_beside(const Surroundings& around) {
+    return std::make_unique<Made>(around.events, around.beside);
+}
+
+std::unique_ptr<Window> make_intro(const Surroundings& around) {
+    return std::make_unique<IntroScreen>(around.events, around.load);
+}
+
+std::unique_ptr<Window> make_main(const Surroundings& around) {
+    return std::make_unique<MainWindow>(around.events, around.canvas);
 }
 
 constexpr auto kWindows = std::to_array<Row>({
-    {"intro", make<IntroScreen>},
-    {"Velmora", make<MainWindow>},
-    {"wininfo", make<InfoPanel>},
-    {"winoptions", make<OptionsPanel>},
+    {"intro", make_intro},
+    {"Velmora", make_main},
+    {"wininfo", make_beside<InfoPanel>},
+    {"winoptions", make_beside<OptionsPanel>},
     {"Scale_xy", make<ScaleXyDialog>},
     {"New_Dat", make<NewDatDialog>},
     {"del_Npto", make<DelNptoDialog>},
@@ -53,9 +66,9 @@ constexpr auto kWindows = std::to_array<Row>({
 
 } // namespace
 
-std::unique_ptr<Window> make_window(std::string_view name, WindowHost& host) {
+std::unique_ptr<Window> make_window(std::string_view name, const Surroundings& around) {
     const auto found = std::ranges::find(kWindows, name, &Row::name);
-    return found == kWindows.end() ? nullptr : found->make(host);
+    return found == kWindows.end() ? nullptr : found->make(around);
 }
 
 std::vector<std::string_view> window_names() {

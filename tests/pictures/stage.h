@@ -2,7 +2,7 @@
 // settings and the outside world are those of the tests; nothing of the user's is touched.
 #pragma once
 
-#include "adapters/qt/qt_platform.h"
+#include "app/qt_platform.h"
 #include "support/recording_platform.h"
 
 #include <QTemporaryDir>

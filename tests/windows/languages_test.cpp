@@ -3,8 +3,7 @@
 #include "services/literals.h"
 #include "support/recording_platform.h"
 #include "ui/window.h"
-#include "ui/window_host.h"
-#include "ui/window_registry.h"
+#include "windows/bare_windows.h"
 #include "windows/shown_texts.h"
 
 #include <QWidget>
@@ -22,12 +21,12 @@ class LanguagesTest : public testing::TestWithParam<const char*> {
     LanguagesTest() { session.Idioma = GetParam(); }
 
     RecordingPlatform machine;
-    WindowHost host;
+    BareWindows windows;
 };
 
 TEST_P(LanguagesTest, EveryWindowShowsItsTextsWhole) {
     for (const std::string_view name : window_names()) {
-        const auto window = make_window(name, host);
+        const auto window = make_window(name, windows.around);
         AplicaLiterales(window->form(), "");
         window->widget().show();
         EXPECT_THAT(cut_texts(window->widget()), IsEmpty()) << name;

@@ -6,8 +6,7 @@
 #include "services/literals.h"
 #include "support/recording_platform.h"
 #include "ui/window.h"
-#include "ui/window_host.h"
-#include "ui/window_registry.h"
+#include "windows/bare_windows.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -44,8 +43,8 @@ Texts spanish_rows(std::string_view table) {
     return texts;
 }
 
-Texts design_of(std::string_view name, WindowHost& host) {
-    const auto window = make_window(name, host);
+Texts design_of(std::string_view name, const Surroundings& around) {
+    const auto window = make_window(name, around);
     CreaLiterales(window->form());
     Texts design = spanish_rows(name);
     // The main window's caption carries the version; a row for it would take its place.
@@ -68,12 +67,13 @@ void expect_rows_of(const Texts& design, const Texts& table, const std::string& 
 
 TEST(TablesTest, EveryWindowHasItsTextsAsDesigned) {
     const RecordingPlatform machine;
-    WindowHost host;
+    const BareWindows windows;
     for (const std::string_view name : window_names()) {
         if (name == kMadeByItsWindow)
             continue;
         const Texts table = spanish_rows(name);
-        expect_rows_of(design_of(name, host), table, "data/tables/" + std::string(name) + ".csv");
+        expect_rows_of(design_of(name, windows.around), table,
+                       "data/tables/" + std::string(name) + ".csv");
     }
 }
 

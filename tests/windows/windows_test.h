@@ -1,7 +1,7 @@
 // The program's real windows over answers that a test lays out, in a folder of its own.
 #pragma once
 
-#include "adapters/qt/qt_platform.h"
+#include "app/qt_platform.h"
 #include "document/session.h"
 #include "support/recording_platform.h"
 

@@ -2,23 +2,19 @@
 #pragma once
 
 #include "canvas/raster_surface.h"
+#include "toolkit/shown_image.h"
 
 #include <QImage>
-#include <QRect>
-#include <functional>
 #include <string_view>
 
 namespace velmora {
 
-class ImageSurface : public RasterSurface {
+class ImageSurface : public RasterSurface, public ShownImage {
   public:
     ImageSurface();
 
-    /// Called with what changed, so that a window repaints no more than that; may be empty.
-    std::function<void(const QRect& changed)> changed;
-
     /// A view of the living pixels, not a copy; it must not outlive the surface.
-    [[nodiscard]] const QImage& image() const { return image_; }
+    [[nodiscard]] const QImage& image() const override { return image_; }
 
     /// Raises 53 for a file that is not there, 481 for one that is no picture, 7 for a picture
     /// larger than a gigabyte.

@@ -2,7 +2,7 @@
 // what a person, the desktop and the CAD would answer.
 #pragma once
 
-#include "adapters/qt/qt_platform.h"
+#include "app/qt_platform.h"
 #include "script/places.h"
 #include "script/transcript.h"
 #include "scripted/answers.h"

@@ -1,17 +1,16 @@
-// Builds the program's platform from Qt, SQLite and the desktop. Any part can be put in another's
-// place before `install`, as the scenario driver does with what a person would answer.
+// Builds the program's platform from Qt, SQLite and the desktop. A part that stands empty can be
+// filled before `install`, as the scenario driver does with what a person would answer.
 #pragma once
 
-#include "adapters/qt/program_folder.h"
 #include "platform/platform.h"
 #include "ui/window_host.h"
 
 #include <memory>
-#include <string>
 
 namespace velmora {
 
 class Autocad;
+class ImageSurface;
 class Printer;
 class TextOutlines;
 
@@ -26,7 +25,7 @@ struct QtPlatform {
     std::unique_ptr<Database> database;
     std::unique_ptr<Machine> machine;
     std::unique_ptr<Clock> clock;
-    std::unique_ptr<Surface> pic;
+    std::unique_ptr<ImageSurface> pic; ///< drawn on by the logic, shown by the windows
     std::unique_ptr<Autocad> cad;
     std::unique_ptr<Printer> printer;
     std::unique_ptr<TextOutlines> text_outlines;

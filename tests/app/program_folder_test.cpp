@@ -1,4 +1,4 @@
-#include "adapters/qt/program_folder.h"
+#include "app/program_folder.h"
 
 #include "adapters/sqlite/sqlite_database.h"
 #include "runtime/paths.h"

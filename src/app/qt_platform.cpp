@@ -1,4 +1,4 @@
-#include "adapters/qt/qt_platform.h"
+#include "app/qt_platform.h"
 
 #include "adapters/qt/image_surface.h"
 #include "adapters/qt/qt_dialogs.h"
@@ -39,7 +39,8 @@ void fill(std::unique_ptr<Service>& place, Make make) {
 
 } // namespace
 
-QtPlatform::QtPlatform() : windows(std::make_unique<WindowHost>()) {}
+QtPlatform::QtPlatform()
+    : pic(std::make_unique<ImageSurface>()), windows(std::make_unique<WindowHost>(*pic)) {}
 
 QtPlatform::~QtPlatform() = default;
 
@@ -50,7 +51,6 @@ void QtPlatform::install() {
     fill(database, make_sqlite_database);
     fill(machine, [] { return std::make_unique<QtMachine>(); });
     fill(clock, [] { return std::make_unique<SteadyClock>(); });
-    fill(pic, [] { return std::make_unique<ImageSurface>(); });
     fill(cad, make_running_cad);
     fill(printer, [] { return make_qt_printer(); });
     fill(text_outlines, make_qt_text_outlines);

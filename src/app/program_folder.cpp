@@ -1,6 +1,6 @@
-#include "adapters/qt/program_folder.h"
+#include "app/program_folder.h"
 
-#include "adapters/qt/data_files.h"
+#include "app/data_files.h"
 #include "runtime/paths.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "adapters/qt/data_files.h"
+#include "app/data_files.h"
 
 #include "adapters/sqlite/language_texts.h"
 #include "platform/database.h"

@@ -1,4 +1,5 @@
-#include "adapters/qt/qt_platform.h"
+#include "app/program_folder.h"
+#include "app/qt_platform.h"
 #include "document/state/program.h"
 #include "runtime/paths.h"
 
