@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Holds the arrows between the rooms of velmora_core for calls, by the symbols of its objects.
+"""Holds the arrows between the rooms for calls, by the symbols of the libraries' objects.
 
 check_calls.py SOURCE_DIR BUILD_DIR
 
@@ -12,7 +12,7 @@ import subprocess
 import sys
 from pathlib import Path
 
-from check_style import ROOMS
+from check_style import ROOMS, room_of
 
 REFRESH = "src/document/refresh.h"
 DEFINED = set("TDBRVW")
@@ -22,13 +22,13 @@ def refresh_routines(root):
     return set(re.findall(r"^\w[\w:]* (\w+)\(", (root / REFRESH).read_text(), re.M))
 
 
-def core_objects(root, build):
+def objects(root, build):
     """The objects of sources that still exist, by their source below src/."""
-    folder = build / "src/CMakeFiles/velmora_core.dir"
-    for path in sorted(folder.rglob("*.o*")):
-        source = path.relative_to(folder).with_suffix("")
-        if path.suffix in (".o", ".obj") and (root / "src" / source).is_file():
-            yield source, path
+    for folder in sorted((build / "src/CMakeFiles").glob("velmora_*.dir")):
+        for path in sorted(folder.rglob("*.o*")):
+            source = path.relative_to(folder).with_suffix("")
+            if path.suffix in (".o", ".obj") and (root / "src" / source).is_file():
+                yield source, path
 
 
 def symbols(path):
@@ -40,19 +40,19 @@ def symbols(path):
 def check_calls(root, build):
     allowed = refresh_routines(root)
     defined, called = {}, []
-    for source, path in core_objects(root, build):
+    for source, path in objects(root, build):
         for kind, name in symbols(path):
             if kind in DEFINED:
                 defined.setdefault(name, source)
             elif kind == "U":
                 called.append((source, name))
     if not called:
-        yield "no object of velmora_core found"
+        yield "no object found"
     for source, name in called:
         target = defined.get(name)
         if target is None:
             continue
-        room, other = source.parts[0], target.parts[0]
+        room, other = room_of(source), room_of(target)
         if other == room or other in ROOMS[room]:
             continue
         routine = re.match(r"velmora::(\w+)\(", name)

@@ -16,6 +16,8 @@ MAX_LINES = 500
 # Who may include whom, besides oneself. An arrow points one way.
 LOGIC = ["runtime", "platform", "document", "services"]
 OPERATIONS = LOGIC + ["shapeops", "canvas", "cad", "formats", "cutprep", "generators", "import"]
+# Where the headers stand that an adapter answers for, and what all adapters share.
+CONTRACTS = ["runtime", "platform", "canvas", "cad", "generators", "adapters"]
 ROOMS = {
     "runtime": [],
     "platform": ["runtime"],
@@ -30,10 +32,22 @@ ROOMS = {
     "import": ["runtime"],
     "forms": OPERATIONS,
     "commands": OPERATIONS + ["forms"],
+    "toolkit": [],
+    "ui": OPERATIONS + ["forms", "commands", "toolkit"],
+    "adapters": ["cad"],
+    "adapters/com": CONTRACTS,
+    "adapters/dbus": CONTRACTS + ["toolkit"],
+    "adapters/qt": CONTRACTS + ["toolkit"],
+    "adapters/sqlite": CONTRACTS,
 }
+ROOMS["app"] = list(ROOMS)
+# The command that imports is a program of its own.
+ROOMS["import_tool"] = ["runtime", "document", "formats", "import"]
+ROOMS["import_main.cpp"] = ["import_tool"]
 # The headers of abstract services that stand in the room of their subject.
 ABSTRACT = {"canvas/surface.h", "cad/autocad.h"}
-OUTER = ["adapters", "ui", "main.cpp", "import_tool", "import_main.cpp"]
+# The rooms that see more than the standard library.
+OUTER = {"adapters", "toolkit", "ui", "app", "import_main.cpp"}
 
 STANDARD_HEADERS = re.compile(r"^[a-z_]+$")
 TOOLKITS = re.compile(r"/(qt6|Qt[A-Z]\w*)/|/sqlite3\.h|/dbus|/canberra")
@@ -80,25 +94,30 @@ def check_size(root):
             yield f"{path.relative_to(root)}: {lines} lines; what is its second subject?"
 
 
+def room_of(path):
+    """Of a path below src/. Each adapter is a room of its own."""
+    parts = Path(path).parts
+    return "/".join(parts[:2]) if parts[0] == "adapters" and len(parts) > 2 else parts[0]
+
+
 def check_arrows(root):
     include = re.compile(r'^#include\s+(?:"([^"]+)"|<([^>]+)>)')
     for path in sources(root, ".cpp", ".h"):
         if not path.is_relative_to(root / "src"):
             continue
         name = path.relative_to(root / "src")
-        room = name.parts[0]
-        if room in OUTER:
-            continue
+        room = room_of(name)
+        inner = name.parts[0] not in OUTER
         for number, line in enumerate(path.read_text().splitlines(), 1):
             match = include.match(line)
             if not match:
                 continue
             own, system = match.groups()
             where = f"src/{name}:{number}"
-            if system and not STANDARD_HEADERS.match(system):
+            if inner and system and not STANDARD_HEADERS.match(system):
                 yield f"{where}: the logic includes <{system}>; the standard library alone is its"
             if own and own not in ABSTRACT:
-                target = own.split("/")[0]
+                target = room_of(own)
                 if target != room and target not in ROOMS.get(room, []):
                     yield f"{where}: {room} may not include {target}"
 
