@@ -1,5 +1,5 @@
-#include "cad/dxf.h"
 #include "document/forma.h"
+#include "formats/dxf.h"
 #include "support/recording_platform.h"
 
 #include <benchmark/benchmark.h>

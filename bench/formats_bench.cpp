@@ -4,7 +4,7 @@
 #include "document/session.h"
 #include "formats/files.h"
 #include "formats/fixed_record.h"
-#include "formats/readers.h"
+#include "formats/fixed_record_readers.h"
 #include "formats/save.h"
 #include "support/recording_platform.h"
 

@@ -1,5 +1,6 @@
 #include "document/forma.h"
-#include "formats/readers.h"
+#include "formats/free_text_readers.h"
+#include "formats/scr_cut_readers.h"
 #include "support/recording_platform.h"
 
 #include <benchmark/benchmark.h>

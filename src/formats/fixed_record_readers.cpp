@@ -1,17 +1,19 @@
+#include "formats/fixed_record_readers.h"
+
+#include "document/feedback.h"
 #include "document/flag.h"
-#include "document/forma.h"
+#include "document/number_text.h"
 #include "document/state/document.h"
 #include "document/state/loading.h"
 #include "document/windows/velmora.h"
 #include "document/windows/wininfo.h"
-#include "formats/readers.h"
-
-#include "document/feedback.h"
-#include "formats/reader_support.h"
 #include "formats/record_file.h"
-#include "formats/slwsinc.h"
+#include "formats/sync_matcher.h"
+#include "formats/totals.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+
+#include <optional>
 
 namespace velmora {
 
@@ -31,10 +33,7 @@ std::int16_t read_slws(std::string_view path, ReadCounts& counts) {
     } while (!state::loading.files.eof(1));
     state::loading.files.close(1);
     drop_closing_point(Forma.Pto, counts.points);
-    state::document.UltimoPto = state::document.TotalPtos = counts.points + 1;
-    show_count(state::wininfo.TxtTotalPtos, state::document.TotalPtos);
-    state::document.TotalSinc = 0;
-    show_count(state::wininfo.TxtTotalCtrlPtos, 0);
+    publish_totals(Totals::all, counts.points + 1);
     DoEvents();
     return True;
 }
@@ -45,8 +44,7 @@ std::int16_t read_slwsinc(std::string_view path, ReadCounts& counts) {
     (void)next_record(counts);
     read_slwsinc_outline(Forma.Pto, state::wininfo.TxtTotalPtos, counts);
     drop_closing_point(Forma.Pto, counts.points);
-    state::document.UltimoPto = state::document.TotalPtos = counts.points;
-    show_count(state::wininfo.TxtTotalPtos, counts.points);
+    publish_totals(Totals::points, counts.points);
     match_slwsinc_sync_points(Forma.Pto, state::wininfo.TxtTotalCtrlPtos, counts);
     state::document.TotalSinc = runtime::to_int32(runtime::Val(state::wininfo.TxtTotalCtrlPtos));
     state::loading.files.close(1);
@@ -54,6 +52,37 @@ std::int16_t read_slwsinc(std::string_view path, ReadCounts& counts) {
 }
 
 } // namespace
+
+void read_slwsinc_outline(Array<Pto>& points, std::string& total_box, ReadCounts& counts) {
+    FixedRecord record = next_record(counts);
+    points.redim(0);
+    do {
+        take_point(record, points, counts.points);
+        record = next_record(counts);
+        show_count(total_box, counts.points);
+        DoEvents();
+    } while (record.field1().find(sync_section_mark) == std::string_view::npos);
+}
+
+void match_slwsinc_sync_points(Array<Pto>& points, std::string& total_box, ReadCounts& counts) {
+    std::optional<SyncMatcher> matcher;
+    std::int64_t total = 0;
+    (void)next_record(counts);
+    do {
+        const FixedRecord record = next_record(counts);
+        if (record.blank())
+            continue;
+        const double x = CDbl(record.field1());
+        const double y = CDbl(record.field2());
+        if (!matcher)
+            matcher.emplace(points);
+        const std::int32_t marked = matcher->mark(x, y);
+        total += marked;
+        if (marked > 0)
+            show_count(total_box, total);
+        DoEvents();
+    } while (!state::loading.files.eof(1));
+}
 
 std::int16_t CargaSLWS(std::string_view path) {
     ReadCounts counts;

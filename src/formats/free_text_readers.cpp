@@ -1,20 +1,17 @@
-#include "document/forma.h"
-#include "document/state/document.h"
-#include "document/state/loading.h"
-#include "document/windows/velmora.h"
-#include "formats/readers.h"
+#include "formats/free_text_readers.h"
 
 #include "document/feedback.h"
-#include "formats/coordinate_limit.h"
+#include "document/number_text.h"
+#include "document/state/loading.h"
+#include "document/windows/velmora.h"
+#include "formats/fixed_record.h"
 #include "formats/point_lines.h"
-#include "formats/reader_support.h"
-#include "formats/slwmd.h"
 #include "formats/sync_matcher.h"
+#include "formats/totals.h"
 #include "runtime/text.h"
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace velmora {
 
@@ -43,7 +40,7 @@ Pass read_slwmd(std::string_view path, ReadCounts& counts, CoordinateLimit& limi
     read_line(counts);
     if (!read_slwmd_outline(Forma.Pto, counts, limit))
         return Pass::over_limit;
-    state::document.UltimoPto = counts.points - 1;
+    publish_totals(Totals::last_point, counts.points - 1);
     drop_closing_point(Forma.Pto, counts.points);
     mark_slwmd_sync_points(counts);
     state::loading.files.close(1);
@@ -61,7 +58,7 @@ Pass read_noslw(std::string_view path, ReadCounts& counts, CoordinateLimit& limi
         DoEvents();
     }
     drop_closing_point_if_any(counts);
-    leave_totals(counts.points);
+    publish_totals(Totals::sync_box, counts.points - 1);
     state::loading.files.close(1);
     return Pass::complete;
 }
@@ -118,11 +115,37 @@ Pass read_profili(std::string_view path, ReadCounts& counts, CoordinateLimit& li
     surfaces.append_lower();
     state::loading.files.close(1);
     drop_closing_point_if_any(counts);
-    leave_totals(counts.points);
+    publish_totals(Totals::sync_box, counts.points - 1);
     return Pass::complete;
 }
 
 } // namespace
+
+bool read_slwmd_outline(Array<Pto>& points, ReadCounts& counts, CoordinateLimit& limit) {
+    std::string room;
+    std::string_view line = read_line(counts);
+    points.redim(0);
+    do {
+        const auto text = point_of_line(line, room);
+        if (text && !take_point(*text, points, counts.points, limit))
+            return false;
+        DoEvents();
+        line = read_line(counts);
+    } while (line.find(sync_section_mark) == std::string_view::npos);
+    return true;
+}
+
+void read_slwmd_sync_points(ReadCounts& counts, const std::function<void(double, double)>& place) {
+    std::string room;
+    read_line(counts);
+    while (!state::loading.files.eof(1)) {
+        if (const auto text = point_of_line(read_line(counts), room)) {
+            const double X = CDbl(text->X);
+            place(X, CDbl(text->Y));
+        }
+        DoEvents();
+    }
+}
 
 std::int16_t CargaSLWMD(std::string_view path) {
     return CargaSLWMD(path, path);

@@ -1,6 +1,5 @@
 #include "formats/load.h"
 
-#include "cad/dxf.h"
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
@@ -13,44 +12,18 @@
 #include "document/windows/wininfo.h"
 #include "formats/box_text.h"
 #include "formats/files.h"
-#include "formats/readers.h"
+#include "formats/origin.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"
-#include "runtime/numbers.h"
 #include "runtime/paths.h"
 #include "runtime/text.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 
-#include <array>
-
 namespace velmora {
 
 namespace {
-
-using Reader = std::int16_t (*)(std::string_view);
-
-/// A format that its extension alone decides.
-struct PlainFormat {
-    std::string_view extension;
-    Reader reader;
-    int text; ///< message
-};
-
-constexpr auto kPlainFormats = std::to_array<PlainFormat>({
-    {"SCR", CargaSCR, message::format_scr},
-    {"CUT", CargaCUT, message::format_cut},
-    {"DXF", CargaDXF, message::format_dxf},
-});
-
-/// The texts of the dialects, by their code.
-constexpr std::array<int, 6> kDialectTexts = {0,
-                                              message::format_slws,
-                                              message::format_slwsinc,
-                                              message::format_noslw,
-                                              message::format_slwmd,
-                                              message::format_profili};
 
 std::string ask_for_path() {
     if (state::document.LastDir.empty())
@@ -74,15 +47,13 @@ std::string read_by_kind(const std::string& path) {
         if (format == FileFormat::undecided)
             return {};
         state::document.LoadOk = CargaDAT(path, format);
-        return GetMensaje(kDialectTexts[static_cast<std::size_t>(format)]);
+        return GetMensaje(format_of(format)->text);
     }
-    for (const PlainFormat& format : kPlainFormats) {
-        if (format.extension != extension)
-            continue;
-        state::document.LoadOk = format.reader(path);
-        return GetMensaje(format.text);
-    }
-    return {};
+    const Format* const format = format_of(extension);
+    if (format == nullptr)
+        return {};
+    state::document.LoadOk = format->read(path, path);
+    return GetMensaje(format->text);
 }
 
 void clear_object_counts() {
@@ -144,51 +115,13 @@ class PassedFile {
     std::string to_read_;
 };
 
-std::int16_t read_dialect_file(PassedFile& file, FileFormat format) {
-    switch (format) {
-    case FileFormat::SLWS:
-        return CargaSLWS(file.to_read());
-    case FileFormat::SLWSINC:
-        return CargaSLWSINC(file.to_read());
-    case FileFormat::NOSLW:
+std::int16_t read_dialect_file(PassedFile& file, FileFormat code) {
+    const Format* const format = format_of(code);
+    if (format == nullptr)
+        return False;
+    if (format->passes == Passes::separator_and_tabs)
         file.tabs_to_blanks();
-        return CargaNOSLW(file.to_read(), file.path());
-    case FileFormat::SLWMD:
-        return CargaSLWMD(file.to_read(), file.path());
-    case FileFormat::PROFILI:
-        file.tabs_to_blanks();
-        return CargaPROFILI(file.to_read(), file.path());
-    case FileFormat::undecided:
-        break;
-    }
-    return False;
-}
-
-bool has_origin() {
-    for (const Pto& point : Forma.Pto.all())
-        if (point.X == 0 && point.Y == 0)
-            return true;
-    return false;
-}
-
-void move_to_origin(std::int32_t index) {
-    const Pto origin = Forma.Pto[index];
-    for (Pto& point : Forma.Pto.all()) {
-        point.X = runtime::checked(point.X - origin.X);
-        point.Y = runtime::checked(point.Y - origin.Y);
-    }
-}
-
-std::int32_t leftmost() {
-    double smallest = 100000.0;
-    std::int32_t position = 0;
-    for (std::int32_t i = 0; i <= Forma.Pto.upper(); ++i) {
-        if (Forma.Pto[i].X < smallest) {
-            smallest = Forma.Pto[i].X;
-            position = i;
-        }
-    }
-    return position;
+    return format->read(file.to_read(), file.path());
 }
 
 } // namespace
@@ -221,24 +154,6 @@ std::int16_t CargaDAT(std::string_view path, FileFormat format) {
     set_status("");
     DoEvents();
     return result;
-}
-
-void Check00() {
-    if (has_origin())
-        return;
-    const int reply =
-        MsgBox(joined_by_blanks({GetMensaje(message::the_file), state::document.FileName,
-                                 GetMensaje(message::no_origin)}),
-               buttons::yes_no + buttons::question, box_title());
-    if (reply == answer::yes)
-        move_to_origin(GetMinXPos());
-}
-
-std::int32_t GetMinXPos() {
-    std::int32_t position = 0;
-    trap([&] { position = leftmost(); },
-         [](const RuntimeError& failure) { show_trap("Error GetMinXPos nº: ", failure); });
-    return position;
 }
 
 } // namespace velmora

@@ -3,9 +3,7 @@
 #include "document/forma.h"
 #include "document/number_text.h"
 #include "document/separator.h"
-#include "document/state/document.h"
 #include "document/state/loading.h"
-#include "document/windows/wininfo.h"
 #include "runtime/text.h"
 
 namespace velmora {
@@ -33,12 +31,6 @@ bool take_point(const PointText& text, Array<Pto>& points, std::int32_t& count,
         return false;
     ++count;
     return true;
-}
-
-void leave_totals(std::int32_t count) {
-    state::document.UltimoPto = state::document.TotalPtos = count - 1;
-    show_count(state::wininfo.TxtTotalPtos, state::document.TotalPtos);
-    show_count(state::wininfo.TxtTotalCtrlPtos, 0);
 }
 
 } // namespace velmora

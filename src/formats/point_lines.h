@@ -32,8 +32,4 @@ struct PointText {
 [[nodiscard]] bool take_point(const PointText& text, Array<Pto>& points, std::int32_t& count,
                               CoordinateLimit& limit);
 
-/// What several readers leave as their totals: UltimoPto, TotalPtos and its box one below the
-/// count, and a 0 in the box of the sync points.
-void leave_totals(std::int32_t count);
-
 } // namespace velmora

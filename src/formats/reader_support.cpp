@@ -3,9 +3,8 @@
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
-#include "document/state/document.h"
 #include "document/state/loading.h"
-#include "document/windows/wininfo.h"
+#include "formats/totals.h"
 #include "platform/dialogs.h"
 
 #include <string>
@@ -16,7 +15,7 @@ namespace {
 
 std::int16_t empty_document() {
     Forma.Pto.redim(0);
-    state::document.UltimoPto = 0;
+    publish_totals(Totals::last_point, 0);
     return False;
 }
 
@@ -30,11 +29,7 @@ void cut_to_whole_points(std::int32_t points) {
 
 std::int16_t keep_points_so_far(std::int32_t points) {
     cut_to_whole_points(points);
-    state::document.TotalPtos = points;
-    show_count(state::wininfo.TxtTotalPtos, points);
-    state::document.TotalSinc = 0;
-    show_count(state::wininfo.TxtTotalCtrlPtos, 0);
-    state::document.UltimoPto = points;
+    publish_totals(Totals::all, points);
     return True;
 }
 

@@ -1,13 +1,13 @@
-#include "document/forma.h"
-#include "document/state/document.h"
-#include "document/state/loading.h"
-#include "formats/readers.h"
+#include "formats/scr_cut_readers.h"
 
 #include "document/feedback.h"
+#include "document/forma.h"
 #include "document/separator.h"
+#include "document/state/loading.h"
 #include "formats/coordinate_limit.h"
 #include "formats/point_lines.h"
 #include "formats/reader_support.h"
+#include "formats/totals.h"
 #include "runtime/error.h"
 #include "runtime/text.h"
 
@@ -64,7 +64,7 @@ Pass read_scr(std::string_view path, ReadCounts& counts, CoordinateLimit& limit)
         DoEvents();
     }
     drop_closing_point(Forma.Pto, counts.points);
-    leave_totals(counts.points);
+    publish_totals(Totals::sync_box, counts.points - 1);
     state::loading.files.close(1);
     return Pass::complete;
 }
@@ -95,7 +95,7 @@ Pass read_cut(std::string_view path, ReadCounts& counts, CoordinateLimit& limit)
         DoEvents();
     }
     drop_closing_point(Forma.Pto, counts.points);
-    state::document.UltimoPto = counts.points - 1;
+    publish_totals(Totals::last_point, counts.points - 1);
     state::loading.files.close(1);
     return Pass::complete;
 }

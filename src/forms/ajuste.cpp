@@ -31,9 +31,9 @@ namespace {
 constexpr std::string_view kWindow = "ajuste";
 constexpr int kHourglass = 11;
 constexpr int kDefaultPointer = 0;
-constexpr std::string_view kNotice =
-    "Tened en cuenta que esta funcionalidad, todavia está en fase de pruebas y desarrolo, podeis "
-    "jugar con ella, y de paso podeis ir comentando cosillas.";
+constexpr std::string_view kNotice = "Tened en cuenta que esta funcionalidad, todavia está en "
+                                     "fase de pruebas y desarrolo, podeis "
+                                     "jugar con ella, y de paso podeis ir comentando cosillas.";
 
 std::string ask_for_path() {
     if (state::document.LastDir.empty())

@@ -21,7 +21,6 @@ inline constexpr int no_new_row = 3020; ///< set_field, update without add_new
 inline constexpr int database_read_only = 3027;
 inline constexpr int database_not_opened = 3051;
 inline constexpr int null_key = 3058;
-inline constexpr int statement_fault = 3075;
 inline constexpr int field_too_small = 3163;
 inline constexpr int operation_not_supported = 3251;
 inline constexpr int not_a_database = 3343;

@@ -1,6 +1,5 @@
 #include "cutprep/side_readers.h"
 
-#include "formats/readers.h"
 #include "formats/sample_files.h"
 #include "workbench.h"
 

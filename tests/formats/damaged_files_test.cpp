@@ -1,10 +1,11 @@
 // Files with bytes changed, lost and doubled: every reader ends, with an outline and its file
 // closed, whatever stands in them.
 #include "cad/drawing.h"
-#include "cad/dxf.h"
-#include "cad/dxf_sheet.h"
 #include "document/session.h"
-#include "formats/readers.h"
+#include "formats/dxf.h"
+#include "formats/dxf_sheet.h"
+#include "formats/free_text_readers.h"
+#include "formats/scr_cut_readers.h"
 #include "platform/dialogs.h"
 #include "support/recording_platform.h"
 

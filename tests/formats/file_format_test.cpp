@@ -1,4 +1,4 @@
-#include "formats/load.h"
+#include "formats/file_format.h"
 
 #include "document/session.h"
 #include "formats/sample_files.h"

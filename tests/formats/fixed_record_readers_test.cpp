@@ -1,4 +1,4 @@
-#include "formats/readers.h"
+#include "formats/fixed_record_readers.h"
 
 #include "document/session.h"
 #include "formats/sample_files.h"

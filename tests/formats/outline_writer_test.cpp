@@ -1,8 +1,8 @@
 #include "formats/save.h"
 
 #include "document/session.h"
+#include "formats/fixed_record_readers.h"
 #include "formats/load.h"
-#include "formats/readers.h"
 #include "formats/sample_files.h"
 #include "platform/dialogs.h"
 #include "runtime/paths.h"

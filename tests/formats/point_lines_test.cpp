@@ -122,15 +122,5 @@ TEST_F(PointLines, an_answer_of_1_scales_by_tens_until_the_coordinate_fits) {
     }
 }
 
-TEST_F(PointLines, the_totals_stand_one_below_the_count) {
-    session.TotalSinc = 4;
-    leave_totals(8);
-    EXPECT_EQ(session.UltimoPto, 7);
-    EXPECT_EQ(session.TotalPtos, 7);
-    EXPECT_EQ(session.wininfo.TxtTotalPtos, "7");
-    EXPECT_EQ(session.wininfo.TxtTotalCtrlPtos, "0");
-    EXPECT_EQ(session.TotalSinc, 4);
-}
-
 } // namespace
 } // namespace velmora

@@ -1,4 +1,4 @@
-#include "formats/readers.h"
+#include "formats/scr_cut_readers.h"
 
 #include "document/session.h"
 #include "platform/dialogs.h"

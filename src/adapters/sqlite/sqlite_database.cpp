@@ -61,11 +61,11 @@ class SqliteDatabase : public Database {
     void execute(std::string_view statement) override {
         require_open();
         if (is_blank(statement) || has_comment(statement))
-            raise(error::statement_fault, "no statement, or a comment in it");
+            raise(error::statement_syntax, "no statement, or a comment in it");
         std::string_view rest;
         Statement prepared(connection_, statement, &rest);
         if (!is_blank(rest))
-            raise(error::statement_fault, "characters found after the end of the statement");
+            raise(error::statement_syntax, "characters found after the end of the statement");
         prepared.step();
     }
     void begin() override {

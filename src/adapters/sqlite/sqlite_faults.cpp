@@ -25,7 +25,7 @@ int number_of_statement_fault(std::string_view text) {
         return error::table_not_found;
     if (text.starts_with("table ") && text.ends_with(" already exists"))
         return error::table_exists;
-    return error::statement_fault;
+    return error::statement_syntax;
 }
 
 int number_of(int extended_code, std::string_view text) {

@@ -2,10 +2,10 @@
 // never looked at.
 #pragma once
 
-#include "cad/dxf_text.h"
 #include "document/forma.h"
 #include "document/obj_cad.h"
 #include "document/state/cad.h"
+#include "formats/dxf_text.h"
 
 #include <cstdint>
 #include <string_view>

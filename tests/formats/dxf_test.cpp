@@ -1,7 +1,7 @@
-#include "cad/dxf.h"
+#include "formats/dxf.h"
 
 #include "cad/drawing.h"
-#include "cad/dxf_sheet.h"
+#include "formats/dxf_sheet.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 #include "support/recording_platform.h"

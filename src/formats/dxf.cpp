@@ -1,18 +1,18 @@
-#include "cad/dxf.h"
+#include "formats/dxf.h"
 
 #include "cad/assembly.h"
 #include "cad/chain_walk.h"
-#include "cad/dxf_entities.h"
-#include "cad/dxf_text.h"
 #include "cad/entity_counters.h"
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
 #include "document/number_text.h"
-#include "document/state/document.h"
 #include "document/state/loading.h"
 #include "document/state/program.h"
 #include "document/windows/velmora.h"
+#include "formats/dxf_entities.h"
+#include "formats/dxf_text.h"
+#include "formats/totals.h"
 #include "platform/dialogs.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
@@ -83,7 +83,7 @@ Flag ask_cancel(const RuntimeError& failure, std::int32_t lines) {
     if (MsgBox("Cancel Load?", buttons::yes_no + buttons::critical) != answer::yes)
         return True;
     Forma.Pto.redim(0);
-    state::document.UltimoPto = 0;
+    publish_totals(Totals::last_point, 0);
     return False;
 }
 

@@ -1,4 +1,4 @@
-#include "cad/dxf_entities.h"
+#include "formats/dxf_entities.h"
 
 #include "cad/entities.h"
 #include "cad/entity_counters.h"

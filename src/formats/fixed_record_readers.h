@@ -1,12 +1,20 @@
-// The two sections of a SLWSINC file, read from file 1 into an outline of the caller's choice.
+// The readers of fixed records: SLWS and SLWSINC. Each Carga routine fills Forma.Pto from a file
+// and returns -1 on success, 0 on failure, with its own error box and "Cancel Load?" question.
 #pragma once
 
 #include "document/forma.h"
 #include "formats/reader_support.h"
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace velmora {
+
+std::int16_t CargaSLWS(std::string_view path);
+std::int16_t CargaSLWSINC(std::string_view path);
+
+// The two sections of a SLWSINC file, read from file 1 into an outline of the caller's choice.
 
 /// From record 3 to the section's title. Once record 3 was read the outline is emptied; `total_box`
 /// shows the points as they come. Nothing but the title ends the outline: without it a field that

@@ -1,4 +1,4 @@
-#include "cad/dxf_text.h"
+#include "formats/dxf_text.h"
 
 #include "document/number_text.h"
 #include "document/separator.h"
