@@ -210,9 +210,6 @@ class Bringing {
             fs::rename(target, aside, failure);
         if (failure)
             return false;
-        // It belongs to the former file and would be played back into the new one.
-        if (is_database(name))
-            fs::remove(target.string() + "-journal", failure);
         if (!file.commit()) {
             if (keep)
                 fs::rename(aside, target, failure);
