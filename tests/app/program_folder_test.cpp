@@ -77,13 +77,13 @@ class ProgramFolderTest : public testing::Test {
     fs::path kept = places.user_data / "VELMORA-1.MDB";
 };
 
-TEST_F(ProgramFolderTest, IsTheExecutablesWhereTheDatabaseLiesBesideIt) {
+TEST_F(ProgramFolderTest, is_the_executables_where_the_database_lies_beside_it) {
     write(places.executable / "VELMORA.MDB", "portable");
     EXPECT_EQ(start().path, places.executable);
     EXPECT_FALSE(fs::exists(places.user_data));
 }
 
-TEST_F(ProgramFolderTest, IsTheUsersFilledFromTheInstalledFiles) {
+TEST_F(ProgramFolderTest, is_the_users_filled_from_the_installed_files) {
     for (const char* name : {"mdbwav0.wav", "velmora.chm", "deployment.txt"})
         write(places.installed / name, name);
     put_database(places.installed);
@@ -98,12 +98,12 @@ TEST_F(ProgramFolderTest, IsTheUsersFilledFromTheInstalledFiles) {
     EXPECT_TRUE(writable(places.user_data / "VELMORA.MDB"));
 }
 
-TEST_F(ProgramFolderTest, IsTheUsersWithNothingInstalledToo) {
+TEST_F(ProgramFolderTest, is_the_users_with_nothing_installed_too) {
     EXPECT_EQ(start().path, places.user_data);
     EXPECT_TRUE(fs::is_directory(places.user_data));
 }
 
-TEST_F(ProgramFolderTest, ACopyNobodyTouchedIsRenewedWithTheProgram) {
+TEST_F(ProgramFolderTest, a_copy_nobody_touched_is_renewed_with_the_program) {
     put_database(places.installed);
     write(places.installed / "mdbwav0.wav", "old sound");
     write(places.installed / "help" / "index.html", "old page");
@@ -119,7 +119,7 @@ TEST_F(ProgramFolderTest, ACopyNobodyTouchedIsRenewedWithTheProgram) {
     EXPECT_FALSE(fs::exists(kept));
 }
 
-TEST_F(ProgramFolderTest, WhatTheProgramWritesIntoItsDatabaseIsNoChangeOfTheUsers) {
+TEST_F(ProgramFolderTest, what_the_program_writes_into_its_database_is_no_change_of_the_users) {
     put_database(places.installed);
     start_in_users_folder();
     change(places.user_data, "INSERT INTO TEMP_AJUSTE VALUES (1, 2, 3, 4, 'A')");
@@ -129,7 +129,7 @@ TEST_F(ProgramFolderTest, WhatTheProgramWritesIntoItsDatabaseIsNoChangeOfTheUser
     EXPECT_EQ(users_message(), "Nuevo");
 }
 
-TEST_F(ProgramFolderTest, ADatabaseTheUserChangedStaysUntilANewerOneComes) {
+TEST_F(ProgramFolderTest, a_database_the_user_changed_stays_until_a_newer_one_comes) {
     put_database(places.installed);
     start_in_users_folder();
     set_message(places.user_data, "Mío");
@@ -142,7 +142,7 @@ TEST_F(ProgramFolderTest, ADatabaseTheUserChangedStaysUntilANewerOneComes) {
     EXPECT_THAT(start().kept_aside, IsEmpty());
 }
 
-TEST_F(ProgramFolderTest, ACopyOfAProgramWithoutARecordIsKeptAsideWhereItDiffers) {
+TEST_F(ProgramFolderTest, a_copy_of_a_program_without_a_record_is_kept_aside_where_it_differs) {
     put_database(places.installed);
     write(places.installed / "mdbwav0.wav", "new sound");
     fs::create_directories(places.user_data);
@@ -157,7 +157,7 @@ TEST_F(ProgramFolderTest, ACopyOfAProgramWithoutARecordIsKeptAsideWhereItDiffers
     EXPECT_EQ(read(places.user_data / "mdbwav0.wav"), "new sound");
 }
 
-TEST_F(ProgramFolderTest, ADamagedDatabaseIsKeptAsideAndRenewed) {
+TEST_F(ProgramFolderTest, a_damaged_database_is_kept_aside_and_renewed) {
     put_database(places.installed);
     start_in_users_folder();
     const std::string half = read(test::built_database()).substr(0, 133120);
@@ -167,7 +167,7 @@ TEST_F(ProgramFolderTest, ADamagedDatabaseIsKeptAsideAndRenewed) {
     EXPECT_EQ(users_message(), message_in(test::built_database()));
 }
 
-TEST_F(ProgramFolderTest, ADamagedInstalledDatabaseTakesNothingsPlace) {
+TEST_F(ProgramFolderTest, a_damaged_installed_database_takes_nothings_place) {
     put_database(places.installed);
     start_in_users_folder();
     write(places.installed / "VELMORA.MDB", "rubbish");
@@ -175,7 +175,7 @@ TEST_F(ProgramFolderTest, ADamagedInstalledDatabaseTakesNothingsPlace) {
     EXPECT_EQ(users_message(), message_in(test::built_database()));
 }
 
-TEST_F(ProgramFolderTest, ADatabaseThatAnotherOneHasLockedStays) {
+TEST_F(ProgramFolderTest, a_database_that_another_one_has_locked_stays) {
     put_database(places.installed);
     start_in_users_folder();
     set_message(places.installed, "Nuevo");
@@ -189,7 +189,7 @@ TEST_F(ProgramFolderTest, ADatabaseThatAnotherOneHasLockedStays) {
     EXPECT_EQ(users_message(), "Nuevo");
 }
 
-TEST_F(ProgramFolderTest, AUsersOwnTemplateAndSoundStay) {
+TEST_F(ProgramFolderTest, a_users_own_template_and_sound_stay) {
     for (const char* name : {"acad.dwt", "mdbwav7.wav"})
         write(places.installed / name, "the program's");
     start_in_users_folder();
@@ -205,21 +205,21 @@ TEST_F(ProgramFolderTest, AUsersOwnTemplateAndSoundStay) {
 // A file in the way of a folder stands for every place that can't be written; permissions mean
 // nothing to root.
 
-TEST_F(ProgramFolderTest, WithoutAUsersFolderTheNextPlaceServes) {
+TEST_F(ProgramFolderTest, without_a_users_folder_the_next_place_serves) {
     put_database(places.installed);
     write(root / "data", "in the way");
     EXPECT_EQ(start().path, places.stand_ins[0]);
     EXPECT_EQ(message_in(places.stand_ins[0] / "VELMORA.MDB"), message_in(test::built_database()));
 }
 
-TEST_F(ProgramFolderTest, ATemporaryFolderServesWhereNothingElseDoes) {
+TEST_F(ProgramFolderTest, a_temporary_folder_serves_where_nothing_else_does) {
     put_database(places.installed);
     write(root / "data", "in the way");
     write(root / "run", "in the way");
     EXPECT_EQ(start().path, places.stand_ins[1]);
 }
 
-TEST_F(ProgramFolderTest, AStandInThatIsALinkIsLeftAlone) {
+TEST_F(ProgramFolderTest, a_stand_in_that_is_a_link_is_left_alone) {
     put_database(places.installed);
     write(root / "data", "in the way");
     fs::create_directories(root / "elsewhere");
@@ -229,7 +229,7 @@ TEST_F(ProgramFolderTest, AStandInThatIsALinkIsLeftAlone) {
     EXPECT_TRUE(fs::is_empty(root / "elsewhere"));
 }
 
-TEST_F(ProgramFolderTest, TheInstalledDatabaseIsReadWhereNothingCanBeWritten) {
+TEST_F(ProgramFolderTest, the_installed_database_is_read_where_nothing_can_be_written) {
     put_database(places.installed);
     for (const char* name : {"data", "run", "tmp"})
         write(root / name, "in the way");
@@ -241,7 +241,7 @@ TEST_F(ProgramFolderTest, TheInstalledDatabaseIsReadWhereNothingCanBeWritten) {
 /// As the user whom permissions bind; root can write anywhere.
 struct ReadOnlyHelpTest : test::OrdinaryUser, ProgramFolderTest {};
 
-TEST_F(ReadOnlyHelpTest, AHelpFolderThatIsReadOnlyArrivesAndCanBeRenewed) {
+TEST_F(ReadOnlyHelpTest, a_help_folder_that_is_read_only_arrives_and_can_be_renewed) {
     write(places.installed / "help" / "index.html", "page");
     write(places.installed / "help" / "img" / "a.png", "picture");
     for (const char* name : {"help/index.html", "help/img/a.png"})
@@ -256,7 +256,7 @@ TEST_F(ReadOnlyHelpTest, AHelpFolderThatIsReadOnlyArrivesAndCanBeRenewed) {
         fs::permissions(places.installed / name, fs::perms::owner_all);
 }
 
-TEST_F(ReadOnlyHelpTest, AnEmptyReadOnlyHelpFolderOfBeforeIsFilled) {
+TEST_F(ReadOnlyHelpTest, an_empty_read_only_help_folder_of_before_is_filled) {
     write(places.installed / "help" / "index.html", "page");
     fs::create_directories(places.user_data / "help");
     fs::permissions(places.user_data / "help", fs::perms::owner_read | fs::perms::owner_exec);
@@ -281,7 +281,7 @@ class FileLimit {
     rlimit before_{};
 };
 
-TEST_F(ProgramFolderTest, AFileArrivesWholeOrNotAtAllAndComesAtTheNextStart) {
+TEST_F(ProgramFolderTest, a_file_arrives_whole_or_not_at_all_and_comes_at_the_next_start) {
     put_database(places.installed);
     write(places.installed / "mdbwav0.wav", "a short sound");
     write(places.installed / "help" / "index.html", std::string(50000, 'x'));
@@ -297,7 +297,7 @@ TEST_F(ProgramFolderTest, AFileArrivesWholeOrNotAtAllAndComesAtTheNextStart) {
     EXPECT_EQ(read(places.user_data / "help" / "index.html").size(), 50000U);
 }
 
-TEST_F(ProgramFolderTest, ARecordThatDoesNotFitIsNotBegun) {
+TEST_F(ProgramFolderTest, a_record_that_does_not_fit_is_not_begun) {
     write(places.installed / "mdbwav0.wav", "sound");
     const FileLimit full(40);
     start_in_users_folder();
@@ -305,7 +305,7 @@ TEST_F(ProgramFolderTest, ARecordThatDoesNotFitIsNotBegun) {
     EXPECT_FALSE(fs::exists(places.user_data / "installed.txt"));
 }
 
-TEST_F(ProgramFolderTest, AFullDiskLeavesTheUsersDatabaseWhereItIs) {
+TEST_F(ProgramFolderTest, a_full_disk_leaves_the_users_database_where_it_is) {
     put_database(places.installed);
     start_in_users_folder();
     set_message(places.user_data, "Mío");

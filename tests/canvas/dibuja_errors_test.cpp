@@ -20,7 +20,7 @@ void set_triangle() {
     set_shape({{0, 0}, {10, 0}, {10, 20}});
 }
 
-TEST(DibujaErrors, OfTooManyPointsForPolylineStopsBehindTheFirstSegments) {
+TEST(DibujaErrors, of_too_many_points_for_polyline_stops_behind_the_first_segments) {
     struct Case {
         std::int32_t upper;
         bool drawn;
@@ -38,7 +38,7 @@ TEST(DibujaErrors, OfTooManyPointsForPolylineStopsBehindTheFirstSegments) {
     }
 }
 
-TEST(DibujaErrors, OfTooManyCompensatedPointsShowsMessage43) {
+TEST(DibujaErrors, of_too_many_compensated_points_shows_message43) {
     Canvas canvas;
     set_triangle();
     Forma.Paralela.redim(32767);
@@ -47,7 +47,7 @@ TEST(DibujaErrors, OfTooManyCompensatedPointsShowsMessage43) {
     EXPECT_EQ(canvas.dialogs.boxes[0].text, kTooLarge);
 }
 
-TEST(DibujaErrors, OfAPixelBeyond32BitsShowsMessage43) {
+TEST(DibujaErrors, of_a_pixel_beyond32_bits_shows_message43) {
     Canvas canvas;
     session.ZoomFactor = 1e9;
     set_shape({{0, 0}, {1, 0}, {3, 0}});
@@ -58,7 +58,7 @@ TEST(DibujaErrors, OfAPixelBeyond32BitsShowsMessage43) {
     EXPECT_EQ(canvas.dialogs.boxes[0].text, kTooLarge);
 }
 
-TEST(DibujaErrors, WithoutAShapeShowsMessage37AndTouchesNothing) {
+TEST(DibujaErrors, without_a_shape_shows_message37_and_touches_nothing) {
     Canvas canvas;
     session.NoRedraw = True;
     Dibuja();
@@ -73,7 +73,7 @@ class FailingSurface : public test::RecordingSurface {
     void LineTo(std::int32_t, std::int32_t) override { raise(error::device_io); }
 };
 
-TEST(DibujaErrors, ShowsAnyOtherErrorInAPlainBox) {
+TEST(DibujaErrors, shows_any_other_error_in_a_plain_box) {
     Canvas canvas;
     set_triangle();
     FailingSurface failing;

@@ -33,7 +33,7 @@ void set_square() {
     set_shape({{0, 0}, {10, 0}, {10, 20}, {0, 20}});
 }
 
-TEST(Dibuja, OfFourPointsGoesThroughItsStepsInOrder) {
+TEST(Dibuja, of_four_points_goes_through_its_steps_in_order) {
     Canvas canvas;
     set_square();
     Forma.Pto[3].Sinc = 1;
@@ -64,7 +64,7 @@ TEST(Dibuja, OfFourPointsGoesThroughItsStepsInOrder) {
     EXPECT_THAT(canvas.dialogs.boxes, ElementsAre());
 }
 
-TEST(Dibuja, OfThreePointsGivesPolylineOnePoint) {
+TEST(Dibuja, of_three_points_gives_polyline_one_point) {
     Canvas canvas;
     set_triangle();
     Dibuja();
@@ -76,7 +76,7 @@ TEST(Dibuja, OfThreePointsGivesPolylineOnePoint) {
                        "pen 3", "present"}}));
 }
 
-TEST(Dibuja, OfTwoPointsEndsQuietlyBehindTheFirstSegment) {
+TEST(Dibuja, of_two_points_ends_quietly_behind_the_first_segment) {
     Canvas canvas;
     set_shape({{0, 0, 1, 0}, {10, 0}});
     session.PtoSel = 0;
@@ -86,7 +86,7 @@ TEST(Dibuja, OfTwoPointsEndsQuietlyBehindTheFirstSegment) {
     EXPECT_THAT(canvas.dialogs.boxes, ElementsAre());
 }
 
-TEST(Dibuja, OfOnePointInInsertionModeDrawsTheAxes) {
+TEST(Dibuja, of_one_point_in_insertion_mode_draws_the_axes) {
     Canvas canvas;
     session.PtosToInsertMode = True;
     session.PtoSel = 0;
@@ -94,7 +94,7 @@ TEST(Dibuja, OfOnePointInInsertionModeDrawsTheAxes) {
     EXPECT_EQ(canvas.operations(), joined({kAxes, {"pen 4", "move 30 1970", "present"}}));
 }
 
-TEST(Dibuja, InInsertionModeLeavesOutTheClosingSegmentAndTheSelection) {
+TEST(Dibuja, in_insertion_mode_leaves_out_the_closing_segment_and_the_selection) {
     Canvas canvas;
     set_triangle();
     session.PtosToInsertMode = True;
@@ -108,7 +108,7 @@ TEST(Dibuja, InInsertionModeLeavesOutTheClosingSegmentAndTheSelection) {
                        "pen 3", "polyline 80 1870", "pen 3", "pen 3", "present"}}));
 }
 
-TEST(Dibuja, WhileAPointIsDraggedStopsBeforeTheGlyphs) {
+TEST(Dibuja, while_a_point_is_dragged_stops_before_the_glyphs) {
     Canvas canvas;
     set_triangle();
     Forma.Paralela = Forma.Pto;
@@ -121,7 +121,7 @@ TEST(Dibuja, WhileAPointIsDraggedStopsBeforeTheGlyphs) {
                                             "move 80 1870", "lineto 30 1970", "present"}}));
 }
 
-TEST(Dibuja, DrawsTheGlyphsThatAreOn) {
+TEST(Dibuja, draws_the_glyphs_that_are_on) {
     struct Case {
         Flag points, sync;
         Operations glyphs;
@@ -146,7 +146,7 @@ TEST(Dibuja, DrawsTheGlyphsThatAreOn) {
     }
 }
 
-TEST(Dibuja, PaintsTheFirstSegmentsByIndex) {
+TEST(Dibuja, paints_the_first_segments_by_index) {
     Canvas canvas;
     set_square();
     std::swap(Forma.Pto[1], Forma.Pto[3]);
@@ -156,7 +156,7 @@ TEST(Dibuja, PaintsTheFirstSegmentsByIndex) {
                 ElementsAre("pen 4", "move 30 1970", "lineto 30 1870", "pen 5", "lineto 80 1870"));
 }
 
-TEST(Dibuja, TheOriginGoesByTheExtentsOfTheLastLayout) {
+TEST(Dibuja, the_origin_goes_by_the_extents_of_the_last_layout) {
     struct Case {
         double min_x, min_y;
         std::string vertical, horizontal;
@@ -179,7 +179,7 @@ TEST(Dibuja, TheOriginGoesByTheExtentsOfTheLastLayout) {
     }
 }
 
-TEST(Dibuja, RoundsToNearestWithTiesToEven) {
+TEST(Dibuja, rounds_to_nearest_with_ties_to_even) {
     Canvas canvas;
     session.ZoomFactor = 1;
     set_shape({{0.5, 0.5}, {1.5, 1.5}, {0.4999, 2.5001}});
@@ -190,7 +190,7 @@ TEST(Dibuja, RoundsToNearestWithTiesToEven) {
     EXPECT_THAT(canvas.operations(), Contains("lineto 30 1967"));
 }
 
-TEST(Dibuja, TheSelectionBoxIsNotRounded) {
+TEST(Dibuja, the_selection_box_is_not_rounded) {
     Canvas canvas;
     session.ZoomFactor = 1;
     set_shape({{0.25, 0.5}, {1, 1}, {2, 3}});
@@ -199,7 +199,7 @@ TEST(Dibuja, TheSelectionBoxIsNotRounded) {
     EXPECT_THAT(canvas.operations(), Contains("box 28.25 1967.5 32.25 1971.5 8"));
 }
 
-TEST(Dibuja, ASelectionBeyondTheArrayIsNone) {
+TEST(Dibuja, a_selection_beyond_the_array_is_none) {
     Canvas canvas;
     set_triangle();
     Forma.Paralela = Forma.Pto;
@@ -209,7 +209,7 @@ TEST(Dibuja, ASelectionBeyondTheArrayIsNone) {
     EXPECT_THAT(canvas.operations(), Contains("polyline 30 1970 80 1970 80 1870"));
 }
 
-TEST(Dibuja, EndsWithTheCompensatedOutline) {
+TEST(Dibuja, ends_with_the_compensated_outline) {
     Canvas canvas;
     set_triangle();
     Forma.Paralela.redim(1);
@@ -219,7 +219,7 @@ TEST(Dibuja, EndsWithTheCompensatedOutline) {
     EXPECT_THAT(end, ElementsAre("pen 3", "pen 2", "polyline 30 1970 50 1960", "present"));
 }
 
-TEST(Dibuja, ClearsNoRedraw) {
+TEST(Dibuja, clears_no_redraw) {
     Canvas canvas;
     set_triangle();
     session.NoRedraw = True;
@@ -233,7 +233,7 @@ TEST(Dibuja, ClearsNoRedraw) {
     EXPECT_EQ(canvas.operations().front(), "cls");
 }
 
-TEST(Dibuja, AfterSet00TheOriginStaysWhereItWas) {
+TEST(Dibuja, after_set00_the_origin_stays_where_it_was) {
     Canvas canvas;
     set_shape({{5, 5}, {10, 5}, {10, 20}});
     Dibuja();
@@ -245,7 +245,7 @@ TEST(Dibuja, AfterSet00TheOriginStaysWhereItWas) {
     EXPECT_EQ(canvas.operations()[5], "move 5 2045");
 }
 
-TEST(ClearCanvas, LeavesTheBackgroundAlone) {
+TEST(ClearCanvas, leaves_the_background_alone) {
     Canvas canvas;
     clear_canvas();
     EXPECT_THAT(canvas.operations(), ElementsAre("cls", "present"));

@@ -25,7 +25,7 @@ std::vector<std::string> picture_of(const PixelBox& box, std::int32_t width, std
 
 using Rows = std::vector<std::string>;
 
-TEST(Ellipse, TheGlyphOfAPoint) {
+TEST(Ellipse, the_glyph_of_a_point) {
     EXPECT_EQ(picture_of({1, 1, 7, 7}, 8, 8), (Rows{
                                                   "........",
                                                   "..####..",
@@ -38,7 +38,7 @@ TEST(Ellipse, TheGlyphOfAPoint) {
                                               }));
 }
 
-TEST(Ellipse, TheGlyphOfASyncPoint) {
+TEST(Ellipse, the_glyph_of_a_sync_point) {
     EXPECT_EQ(picture_of({0, 0, 10, 10}, 10, 10), (Rows{
                                                       "...####...",
                                                       ".##....##.",
@@ -68,7 +68,7 @@ void flood(Rows& rows, std::size_t x, std::size_t y) {
         flood(rows, x, y + 1);
 }
 
-TEST(Ellipse, IsClosedAndSymmetricInEverySize) {
+TEST(Ellipse, is_closed_and_symmetric_in_every_size) {
     for (std::int32_t width = 1; width <= 48; ++width)
         for (std::int32_t height = 1; height <= 48; ++height) {
             Rows rows = picture_of({1, 1, width + 1, height + 1}, width + 2, height + 2);
@@ -90,7 +90,7 @@ TEST(Ellipse, IsClosedAndSymmetricInEverySize) {
         }
 }
 
-TEST(Ellipse, AtTheEdgeIsThePartThatFallsOnTheRaster) {
+TEST(Ellipse, at_the_edge_is_the_part_that_falls_on_the_raster) {
     for (const std::int32_t size : {6, 10, 33, 40})
         for (std::int32_t x = -size; x <= 20; ++x)
             for (std::int32_t y = -size; y <= 20; y += 3) {
@@ -103,17 +103,17 @@ TEST(Ellipse, AtTheEdgeIsThePartThatFallsOnTheRaster) {
             }
 }
 
-TEST(Ellipse, WithoutWidthOrHeightDrawsNothing) {
+TEST(Ellipse, without_width_or_height_draws_nothing) {
     const Rows blank(6, "......");
     EXPECT_EQ(picture_of({2, 2, 2, 5}, 6, 6), blank);
     EXPECT_EQ(picture_of({2, 2, 5, 2}, 6, 6), blank);
 }
 
-TEST(Ellipse, TakesItsCornersInAnyOrder) {
+TEST(Ellipse, takes_its_corners_in_any_order) {
     EXPECT_EQ(picture_of({7, 7, 1, 1}, 8, 8), picture_of({1, 1, 7, 7}, 8, 8));
 }
 
-TEST(Ellipse, SpansTheWholeRangeOfCoordinates) {
+TEST(Ellipse, spans_the_whole_range_of_coordinates) {
     constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
     constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
     const Rows rows = picture_of({least, 2, most, 8}, 12, 12);

@@ -41,7 +41,7 @@ std::vector<double> abscissas() {
     return result;
 }
 
-TEST(Keys, ArrowsNudgeByAHundredthOfTheExtent) {
+TEST(Keys, arrows_nudge_by_a_hundredth_of_the_extent) {
     struct Case {
         int key;
         double x, y;
@@ -59,7 +59,7 @@ TEST(Keys, ArrowsNudgeByAHundredthOfTheExtent) {
     }
 }
 
-TEST(Keys, SFlipsTheSyncMark) {
+TEST(Keys, s_flips_the_sync_mark) {
     Keys canvas;
     pic_KeyDown(83, 0);
     EXPECT_EQ(Forma.Pto[2].Sinc, 1);
@@ -75,7 +75,7 @@ TEST(Keys, SFlipsTheSyncMark) {
     EXPECT_EQ(session.TotalSinc, 0);
 }
 
-TEST(Keys, MAndNGoRoundTheOutline) {
+TEST(Keys, m_and_n_go_round_the_outline) {
     struct Case {
         int key;
         std::int32_t from, to;
@@ -90,7 +90,7 @@ TEST(Keys, MAndNGoRoundTheOutline) {
     }
 }
 
-TEST(Keys, WithoutASelectionNothingHappensButCtrlIsNoted) {
+TEST(Keys, without_a_selection_nothing_happens_but_ctrl_is_noted) {
     for (const int code : {27, 37, 38, 45, 46, 77, 78, 83, 65}) {
         Keys canvas;
         session.PtoSel = -1;
@@ -105,7 +105,7 @@ TEST(Keys, WithoutASelectionNothingHappensButCtrlIsNoted) {
     }
 }
 
-TEST(Keys, WithASelectionBeyondTheArrayChangeNothingAndRepaint) {
+TEST(Keys, with_a_selection_beyond_the_array_change_nothing_and_repaint) {
     for (const int code : {37, 38, 39, 40, 45, 46, 83}) {
         Keys canvas;
         session.PtoSel = 4;
@@ -118,7 +118,7 @@ TEST(Keys, WithASelectionBeyondTheArrayChangeNothingAndRepaint) {
     }
 }
 
-TEST(Keys, AnyOtherKeyRepaints) {
+TEST(Keys, any_other_key_repaints) {
     for (const int code : {0, 65, 13}) {
         Keys canvas;
         pic_KeyDown(code, 0);
@@ -127,7 +127,7 @@ TEST(Keys, AnyOtherKeyRepaints) {
     }
 }
 
-TEST(Keys, CtrlShiftAndAltAloneAreNoneAndCtrlIsNoted) {
+TEST(Keys, ctrl_shift_and_alt_alone_are_none_and_ctrl_is_noted) {
     struct Case {
         int key, shift;
         Flag ctrl;
@@ -146,14 +146,14 @@ TEST(Keys, CtrlShiftAndAltAloneAreNoneAndCtrlIsNoted) {
     }
 }
 
-TEST(Keys, WithoutAShapeEveryOtherKeyTellsSo) {
+TEST(Keys, without_a_shape_every_other_key_tells_so) {
     Keys canvas;
     Forma.Pto.redim(0);
     pic_KeyDown(65, 0);
     EXPECT_EQ(canvas.dialogs.boxes.size(), 1U);
 }
 
-TEST(Keys, WithNoRedrawAreCarriedOutWithoutARepaint) {
+TEST(Keys, with_no_redraw_are_carried_out_without_a_repaint) {
     Keys canvas;
     session.NoRedraw = True;
     pic_KeyDown(39, 0);
@@ -161,7 +161,7 @@ TEST(Keys, WithNoRedrawAreCarriedOutWithoutARepaint) {
     EXPECT_THAT(canvas.operations(), IsEmpty());
 }
 
-TEST(Keys, CtrlIsTheSecondBitOfTheShiftState) {
+TEST(Keys, ctrl_is_the_second_bit_of_the_shift_state) {
     Keys canvas;
     struct Case {
         int shift;
@@ -176,7 +176,7 @@ TEST(Keys, CtrlIsTheSecondBitOfTheShiftState) {
     }
 }
 
-TEST(Esc, WithNothingArmedEmptiesThePanelAndRepaints) {
+TEST(Esc, with_nothing_armed_empties_the_panel_and_repaints) {
     Keys canvas;
     session.PtoSelAnt = 1;
     pic_KeyDown(27, 0);
@@ -186,7 +186,7 @@ TEST(Esc, WithNothingArmedEmptiesThePanelAndRepaints) {
     EXPECT_TRUE(canvas.repainted());
 }
 
-TEST(Esc, CallsOffTheMoveOfTheShape) {
+TEST(Esc, calls_off_the_move_of_the_shape) {
     Keys canvas;
     session.MoveShapeMode = True;
     session.Velmora.pic_MousePointer = 10;
@@ -197,7 +197,7 @@ TEST(Esc, CallsOffTheMoveOfTheShape) {
     EXPECT_EQ(Forma.Pto[2].X, 20);
 }
 
-TEST(Esc, EndsTheInsertionOfANewShapeAtPoint0) {
+TEST(Esc, ends_the_insertion_of_a_new_shape_at_point0) {
     Keys canvas;
     session.PtosToInsertMode = True;
     session.PtoSelAnt = -1;
@@ -208,7 +208,7 @@ TEST(Esc, EndsTheInsertionOfANewShapeAtPoint0) {
     EXPECT_EQ(Forma.Pto[0].X, 0);
 }
 
-TEST(Keys, DeleteAndInsertAreThePointCommands) {
+TEST(Keys, delete_and_insert_are_the_point_commands) {
     Keys canvas;
     pic_KeyDown(46, 0);
     EXPECT_THAT(abscissas(), ElementsAre(0, 10, 10));
@@ -218,7 +218,7 @@ TEST(Keys, DeleteAndInsertAreThePointCommands) {
     EXPECT_TRUE(canvas.repainted());
 }
 
-TEST(Keys, DeleteWithASelectionBeyondTheArrayStillShowsTheCommandsMessages) {
+TEST(Keys, delete_with_a_selection_beyond_the_array_still_shows_the_commands_messages) {
     Keys canvas;
     Forma.Pto.redim_keep(2);
     session.PtoSel = 3;
@@ -228,7 +228,7 @@ TEST(Keys, DeleteWithASelectionBeyondTheArrayStillShowsTheCommandsMessages) {
     EXPECT_EQ(canvas.dialogs.boxes[0].text, "No se pueden eliminar más puntos!");
 }
 
-TEST(Esc, PutsInsertedPointsBeforeTheOneThatWasSelected) {
+TEST(Esc, puts_inserted_points_before_the_one_that_was_selected) {
     Keys canvas;
     Insert_N_Ptos();
     EXPECT_EQ(session.PtosToInsertMode, True);
@@ -241,7 +241,7 @@ TEST(Esc, PutsInsertedPointsBeforeTheOneThatWasSelected) {
     EXPECT_EQ(session.PtosToInsertMode, False);
 }
 
-TEST(Esc, OfAnInsertionBeforeTheFirstPointSelectsTheLast) {
+TEST(Esc, of_an_insertion_before_the_first_point_selects_the_last) {
     Keys canvas;
     session.PtoSel = 0;
     Insert_N_Ptos();
@@ -251,7 +251,7 @@ TEST(Esc, OfAnInsertionBeforeTheFirstPointSelectsTheLast) {
     EXPECT_EQ(session.PtoSel, 4);
 }
 
-TEST(Esc, WithoutAMarkedPointTakesTheLastForTheFirst) {
+TEST(Esc, without_a_marked_point_takes_the_last_for_the_first) {
     Keys canvas;
     session.PtosToInsertMode = True;
     session.PtoSelAnt = 2;

@@ -10,7 +10,7 @@ namespace {
 using test::Canvas;
 using test::set_shape;
 
-TEST(DefineLayout, TakesTheExtentsAndShowsTheFigures) {
+TEST(DefineLayout, takes_the_extents_and_shows_the_figures) {
     Canvas canvas;
     set_shape({{1.5, 2}, {11.25, 2}, {4, 9.75}});
     Define_Layout();
@@ -31,7 +31,7 @@ TEST(DefineLayout, TakesTheExtentsAndShowsTheFigures) {
     EXPECT_TRUE(canvas.operations().empty());
 }
 
-TEST(DefineLayout, SeesTheClampedExtents) {
+TEST(DefineLayout, sees_the_clamped_extents) {
     Canvas canvas;
     set_shape({{-5, -3}, {-2, -3}, {-2, -1}});
     Define_Layout();
@@ -40,7 +40,7 @@ TEST(DefineLayout, SeesTheClampedExtents) {
     EXPECT_EQ(session.Altura, 3);
 }
 
-TEST(DefineLayout, WritesTheFiguresWithTheMachinesSeparator) {
+TEST(DefineLayout, writes_the_figures_with_the_machines_separator) {
     Canvas canvas;
     session.SepDecimal = ',';
     set_shape({{0, 0}, {0.5, 0}, {0, 1}});
@@ -48,7 +48,7 @@ TEST(DefineLayout, WritesTheFiguresWithTheMachinesSeparator) {
     EXPECT_EQ(session.wininfo.Txt_longitud, "0,5");
 }
 
-TEST(DefineLayout, ReplacesAZoomOfZeroOrBelow) {
+TEST(DefineLayout, replaces_a_zoom_of_zero_or_below) {
     for (const double zoom : {0.0, -4.0}) {
         Canvas canvas;
         session.ZoomFactor = zoom;
@@ -57,7 +57,7 @@ TEST(DefineLayout, ReplacesAZoomOfZeroOrBelow) {
     }
 }
 
-TEST(DefineLayout, TheWindowsRunBetweenTheFiguresAndTheScrollBars) {
+TEST(DefineLayout, the_windows_run_between_the_figures_and_the_scroll_bars) {
     Canvas canvas;
     set_shape({{-1, 0}, {10, 0}, {10, 20}});
     const auto moves = session.Velmora.SSScroll_moves;
@@ -69,7 +69,7 @@ TEST(DefineLayout, TheWindowsRunBetweenTheFiguresAndTheScrollBars) {
     EXPECT_EQ(turns.yields, 1);
 }
 
-TEST(DefineLayout, PlacesTheScrollBars) {
+TEST(DefineLayout, places_the_scroll_bars) {
     struct Case {
         double x, y, scroll_x, scroll_y;
     };

@@ -28,7 +28,7 @@ bool repainted(Pointer& canvas) {
     return testing::Value(canvas.operations(), Contains("cls"));
 }
 
-TEST(HitPto, TakesLessThanTwoPixelsOnBothAxes) {
+TEST(HitPto, takes_less_than_two_pixels_on_both_axes) {
     struct Case {
         float x, y;
         std::int32_t hit;
@@ -49,7 +49,7 @@ TEST(HitPto, TakesLessThanTwoPixelsOnBothAxes) {
     }
 }
 
-TEST(HitPto, MeasuresFromTheUnroundedPosition) {
+TEST(HitPto, measures_from_the_unrounded_position) {
     Pointer canvas;
     session.ZoomFactor = 1;
     Forma.Pto[2] = {40.5, 0};
@@ -57,7 +57,7 @@ TEST(HitPto, MeasuresFromTheUnroundedPosition) {
     EXPECT_EQ(HitPto(72.5F, 1970), -1);
 }
 
-TEST(HitPto, TakesTheLowestIndexEvenIfAnotherIsNearer) {
+TEST(HitPto, takes_the_lowest_index_even_if_another_is_nearer) {
     Pointer canvas;
     Forma.Pto[3] = {10.2, 0};
     EXPECT_EQ(HitPto(81, 1970), 1);
@@ -65,7 +65,7 @@ TEST(HitPto, TakesTheLowestIndexEvenIfAnotherIsNearer) {
     EXPECT_EQ(HitPto(80, 1970), 1);
 }
 
-TEST(HitPto, ReachesTheSameAtEveryZoom) {
+TEST(HitPto, reaches_the_same_at_every_zoom) {
     Pointer canvas;
     for (const double zoom : {1.0, 5.0, 30000.0}) {
         session.ZoomFactor = zoom;
@@ -74,14 +74,14 @@ TEST(HitPto, ReachesTheSameAtEveryZoom) {
     }
 }
 
-TEST(HitPto, RaisesBeyondF64) {
+TEST(HitPto, raises_beyond_F64) {
     Pointer canvas;
     Forma.Pto[1].X = 1e308;
     EXPECT_EQ(HitPto(30, 1970), 0);
     EXPECT_THROW(static_cast<void>(HitPto(500, 500)), RuntimeError);
 }
 
-TEST(MouseDown, SelectsThePointAndTakesHoldOfItWithTheLeftButton) {
+TEST(MouseDown, selects_the_point_and_takes_hold_of_it_with_the_left_button) {
     struct Case {
         int button;
         Flag drag;
@@ -96,7 +96,7 @@ TEST(MouseDown, SelectsThePointAndTakesHoldOfItWithTheLeftButton) {
     }
 }
 
-TEST(MouseDown, OnEmptyCanvasKeepsTheSelection) {
+TEST(MouseDown, on_empty_canvas_keeps_the_selection) {
     Pointer canvas;
     session.PtoSel = 1;
     session.HoverPto = 1;
@@ -106,7 +106,7 @@ TEST(MouseDown, OnEmptyCanvasKeepsTheSelection) {
     EXPECT_EQ(session.DragPto, False);
 }
 
-TEST(MouseDown, DoesNothingInAMode) {
+TEST(MouseDown, does_nothing_in_a_mode) {
     for (Flag Session::*mode :
          {&Session::MoveShapeMode, &Session::PtosToInsertMode, &Session::NoRedraw}) {
         Pointer canvas;
@@ -119,7 +119,7 @@ TEST(MouseDown, DoesNothingInAMode) {
     }
 }
 
-TEST(MouseMove, OverAPointShowsTheCrossAndTheLabel) {
+TEST(MouseMove, over_a_point_shows_the_cross_and_the_label) {
     Pointer canvas;
     Forma.Pto[2].X = 20.1234567;
     pic_MouseMove(0, 0, 130, 1920);
@@ -132,7 +132,7 @@ TEST(MouseMove, OverAPointShowsTheCrossAndTheLabel) {
     EXPECT_EQ(session.PtoSel, -1);
 }
 
-TEST(MouseMove, TheLabelMarksASyncPoint) {
+TEST(MouseMove, the_label_marks_a_sync_point) {
     Pointer canvas;
     session.SepDecimal = ',';
     Forma.Pto[1].X = 10.5;
@@ -143,7 +143,7 @@ TEST(MouseMove, TheLabelMarksASyncPoint) {
     EXPECT_EQ(session.Velmora.lbl_xyfloat, "  1: (10,5 0)");
 }
 
-TEST(MouseMove, OffThePointsHidesTheLabel) {
+TEST(MouseMove, off_the_points_hides_the_label) {
     Pointer canvas;
     pic_MouseMove(0, 0, 130, 1920);
     pic_MouseMove(0, 0, 200, 200);
@@ -152,7 +152,7 @@ TEST(MouseMove, OffThePointsHidesTheLabel) {
     EXPECT_FALSE(session.Velmora.lbl_xyfloat_visible);
 }
 
-TEST(MouseMove, WithoutShowCoordsThereIsNoLabel) {
+TEST(MouseMove, without_show_coords_there_is_no_label) {
     Pointer canvas;
     session.ShowCoords = False;
     pic_MouseMove(0, 0, 130, 1920);
@@ -161,7 +161,7 @@ TEST(MouseMove, WithoutShowCoordsThereIsNoLabel) {
     EXPECT_EQ(session.Velmora.lbl_xyfloat, "");
 }
 
-TEST(MouseMove, WithNoRedrawHoversNotButStillDrags) {
+TEST(MouseMove, with_no_redraw_hovers_not_but_still_drags) {
     Pointer canvas;
     session.NoRedraw = True;
     session.PtoSel = 2;
@@ -172,7 +172,7 @@ TEST(MouseMove, WithNoRedrawHoversNotButStillDrags) {
     EXPECT_EQ(Forma.Pto[2].X, 10);
 }
 
-TEST(MouseMove, DragsTheSelectedPointWhateverIsUnderThePointer) {
+TEST(MouseMove, drags_the_selected_point_whatever_is_under_the_pointer) {
     Pointer canvas;
     session.PtoSel = 2;
     session.DragPto = True;
@@ -187,7 +187,7 @@ TEST(MouseMove, DragsTheSelectedPointWhateverIsUnderThePointer) {
     EXPECT_FALSE(repainted(canvas));
 }
 
-TEST(MouseMove, WhileTheShapeIsMovedDoesNothing) {
+TEST(MouseMove, while_the_shape_is_moved_does_nothing) {
     Pointer canvas;
     session.MoveShapeMode = True;
     session.DragPto = True;
@@ -198,7 +198,7 @@ TEST(MouseMove, WhileTheShapeIsMovedDoesNothing) {
     EXPECT_THAT(canvas.operations(), IsEmpty());
 }
 
-TEST(MouseMove, InInsertionModeStretchesTheBand) {
+TEST(MouseMove, in_insertion_mode_stretches_the_band) {
     Pointer canvas;
     session.PtosToInsertMode = True;
     session.PtoSel = 3;
@@ -209,7 +209,7 @@ TEST(MouseMove, InInsertionModeStretchesTheBand) {
     EXPECT_THAT(canvas.operations(), Contains("line 80 1870 81 1970"));
 }
 
-TEST(MouseUp, EndsADragWithARepaintAndLeavesTheListStale) {
+TEST(MouseUp, ends_a_drag_with_a_repaint_and_leaves_the_list_stale) {
     Pointer canvas;
     session.Velmora.Lst_Coords = {{0, 7, 7}};
     pic_MouseDown(1, 0, 130, 1920);
@@ -223,13 +223,13 @@ TEST(MouseUp, EndsADragWithARepaintAndLeavesTheListStale) {
     EXPECT_EQ(session.Velmora.SSScroll_moves, 0U);
 }
 
-TEST(MouseUp, OfTheLeftButtonWithoutADragDoesNothing) {
+TEST(MouseUp, of_the_left_button_without_a_drag_does_nothing) {
     Pointer canvas;
     pic_MouseUp(1, 0, 130, 1920);
     EXPECT_THAT(canvas.operations(), IsEmpty());
 }
 
-TEST(MouseUp, OfTheMiddleButtonEndsADragToo) {
+TEST(MouseUp, of_the_middle_button_ends_a_drag_too) {
     Pointer canvas;
     session.DragPto = True;
     pic_MouseUp(4, 0, 500, 500);
@@ -238,7 +238,7 @@ TEST(MouseUp, OfTheMiddleButtonEndsADragToo) {
     EXPECT_THAT(canvas.windows.calls, IsEmpty());
 }
 
-TEST(MouseUp, OfTheRightButtonLeavesADragOn) {
+TEST(MouseUp, of_the_right_button_leaves_a_drag_on) {
     Pointer canvas;
     session.DragPto = True;
     pic_MouseUp(2, 0, 500, 500);
@@ -246,7 +246,7 @@ TEST(MouseUp, OfTheRightButtonLeavesADragOn) {
     EXPECT_THAT(canvas.operations(), IsEmpty());
 }
 
-TEST(MouseUp, OfTheRightButtonOnAPointOpensTheMenu) {
+TEST(MouseUp, of_the_right_button_on_a_point_opens_the_menu) {
     Pointer canvas;
     pic_MouseUp(2, 0, 80, 1970);
     EXPECT_EQ(session.PtoSel, 1);
@@ -262,7 +262,7 @@ TEST(MouseUp, OfTheRightButtonOnAPointOpensTheMenu) {
     EXPECT_EQ(canvas.windows.calls.size(), 2U);
 }
 
-TEST(MenuKey, OpensTheMenuOfTheSelectedPointWhereThePointerCouldPickOne) {
+TEST(MenuKey, opens_the_menu_of_the_selected_point_where_the_pointer_could_pick_one) {
     Pointer canvas;
     session.PtoSel = 1;
     pic_MenuKey();
@@ -279,7 +279,7 @@ TEST(MenuKey, OpensTheMenuOfTheSelectedPointWhereThePointerCouldPickOne) {
     EXPECT_EQ(canvas.windows.calls.size(), 1U);
 }
 
-TEST(MouseUp, WithNoRedrawDoesNothing) {
+TEST(MouseUp, with_no_redraw_does_nothing) {
     Pointer canvas;
     session.NoRedraw = True;
     session.DragPto = True;
@@ -290,7 +290,7 @@ TEST(MouseUp, WithNoRedrawDoesNothing) {
     EXPECT_THAT(canvas.operations(), IsEmpty());
 }
 
-TEST(MoveShape, PutsTheSelectedPointUnderThePointer) {
+TEST(MoveShape, puts_the_selected_point_under_the_pointer) {
     for (const int button : {1, 2, 4}) {
         Pointer canvas;
         session.MoveShapeMode = True;
@@ -311,7 +311,7 @@ TEST(MoveShape, PutsTheSelectedPointUnderThePointer) {
     }
 }
 
-TEST(MoveShape, AddsAThousandToBothEndsOfTheWay) {
+TEST(MoveShape, adds_a_thousand_to_both_ends_of_the_way) {
     Pointer canvas;
     session.MoveShapeMode = True;
     session.NoRedraw = True;
@@ -329,7 +329,7 @@ TEST(MoveShape, AddsAThousandToBothEndsOfTheWay) {
     EXPECT_EQ(Forma.Pto[2].X, 20 + dx);
 }
 
-TEST(MoveShape, WithNoRedrawRefreshesNothing) {
+TEST(MoveShape, with_no_redraw_refreshes_nothing) {
     Pointer canvas;
     session.MoveShapeMode = True;
     session.NoRedraw = True;
@@ -341,7 +341,7 @@ TEST(MoveShape, WithNoRedrawRefreshesNothing) {
     EXPECT_EQ(session.Velmora.SSScroll_moves, 0U);
 }
 
-TEST(MoveShape, WithoutASelectionEndsTheModeAndMovesNothing) {
+TEST(MoveShape, without_a_selection_ends_the_mode_and_moves_nothing) {
     for (const std::int32_t selected : {-1, 4}) {
         Pointer canvas;
         session.MoveShapeMode = True;
@@ -362,7 +362,7 @@ struct ByHand : Pointer {
     }
 };
 
-TEST(InsertionMode, TheLeftButtonAppendsAPoint) {
+TEST(InsertionMode, the_left_button_appends_a_point) {
     ByHand canvas;
     pic_MouseUp(1, 0, 31, 1869);
     EXPECT_EQ(Forma.Pto.upper(), 4);
@@ -376,7 +376,7 @@ TEST(InsertionMode, TheLeftButtonAppendsAPoint) {
     EXPECT_TRUE(repainted(canvas));
 }
 
-TEST(InsertionMode, CtrlMakesItASyncPoint) {
+TEST(InsertionMode, ctrl_makes_it_a_sync_point) {
     ByHand canvas;
     session.CtrlDown = True;
     pic_MouseUp(1, 0, 31, 1869);
@@ -385,13 +385,13 @@ TEST(InsertionMode, CtrlMakesItASyncPoint) {
     EXPECT_EQ(session.wininfo.TxtTotalCtrlPtos, "2");
 }
 
-TEST(InsertionMode, CtrlIsWhatTheLastKeySaidNotThePointer) {
+TEST(InsertionMode, ctrl_is_what_the_last_key_said_not_the_pointer) {
     ByHand canvas;
     pic_MouseUp(1, 2, 31, 1869);
     EXPECT_EQ(Forma.Pto[4].Sinc, 0);
 }
 
-TEST(InsertionMode, TheRightButtonRemovesTheLastPoint) {
+TEST(InsertionMode, the_right_button_removes_the_last_point) {
     ByHand canvas;
     Forma.Pto[3].Sinc = 1;
     pic_MouseUp(2, 0, 500, 500);
@@ -404,7 +404,7 @@ TEST(InsertionMode, TheRightButtonRemovesTheLastPoint) {
     EXPECT_TRUE(repainted(canvas));
 }
 
-TEST(InsertionMode, ARightClickOnThreePointsOrFewerRefuses) {
+TEST(InsertionMode, a_right_click_on_three_points_or_fewer_refuses) {
     for (const std::int32_t upper : {0, 1, 2}) {
         ByHand canvas;
         Forma.Pto.redim_keep(upper);
@@ -418,7 +418,7 @@ TEST(InsertionMode, ARightClickOnThreePointsOrFewerRefuses) {
     }
 }
 
-TEST(InsertionMode, AnyOtherButtonChangesNoPointButRefreshes) {
+TEST(InsertionMode, any_other_button_changes_no_point_but_refreshes) {
     ByHand canvas;
     pic_MouseUp(4, 0, 500, 500);
     EXPECT_EQ(Forma.Pto.upper(), 3);
@@ -427,7 +427,7 @@ TEST(InsertionMode, AnyOtherButtonChangesNoPointButRefreshes) {
     EXPECT_TRUE(repainted(canvas));
 }
 
-TEST(InsertionMode, RefreshesAlsoWithNoRedraw) {
+TEST(InsertionMode, refreshes_also_with_no_redraw) {
     ByHand canvas;
     session.NoRedraw = True;
     pic_MouseUp(1, 0, 31, 1869);

@@ -23,7 +23,7 @@ class TestSurface : public RasterSurface {
     std::vector<PixelBox> shown;
 };
 
-TEST(ScreenRgb, TurnsTheBytesAndKnowsTheSystemColours) {
+TEST(ScreenRgb, turns_the_bytes_and_knows_the_system_colours) {
     EXPECT_EQ(screen_rgb(0x123456), 0x563412U);
     EXPECT_EQ(screen_rgb(255), 0xFF0000U);
     EXPECT_EQ(screen_rgb(0x80000000), 0xC8C8C8U);
@@ -33,13 +33,13 @@ TEST(ScreenRgb, TurnsTheBytesAndKnowsTheSystemColours) {
     EXPECT_EQ(screen_rgb(0x80000099), 0U);
 }
 
-TEST(RasterSurface, MeasuresInTwips) {
+TEST(RasterSurface, measures_in_twips) {
     const TestSurface pic(2000, 1000);
     EXPECT_EQ(pic.Width(), 30000);
     EXPECT_EQ(pic.Height(), 15000);
 }
 
-TEST(RasterSurface, StartsInTheSystemBackgroundAndClearsToItsOwn) {
+TEST(RasterSurface, starts_in_the_system_background_and_clears_to_its_own) {
     TestSurface pic(8, 8);
     EXPECT_EQ(pic.pixel(3, 3), 0xC8C8C8U);
     pic.set_back_color(kWhite);
@@ -50,7 +50,7 @@ TEST(RasterSurface, StartsInTheSystemBackgroundAndClearsToItsOwn) {
     EXPECT_EQ(pic.pixel(3, 3), kWhite);
 }
 
-TEST(RasterSurface, LineToLeavesOutTheEndAndMovesThere) {
+TEST(RasterSurface, line_to_leaves_out_the_end_and_moves_there) {
     TestSurface pic(10, 10);
     pic.set_pen(kStoredRed);
     pic.MoveToEx(1, 1);
@@ -62,7 +62,7 @@ TEST(RasterSurface, LineToLeavesOutTheEndAndMovesThere) {
     EXPECT_NE(pic.pixel(4, 3), kRed);
 }
 
-TEST(RasterSurface, LineRoundsItsEndsAndHoldsBoth) {
+TEST(RasterSurface, line_rounds_its_ends_and_holds_both) {
     TestSurface pic(10, 10);
     pic.set_pen(kStoredRed);
     pic.Line(0.5F, 1.5F, 4.4F, 2.0F);
@@ -71,7 +71,7 @@ TEST(RasterSurface, LineRoundsItsEndsAndHoldsBoth) {
     EXPECT_NE(pic.pixel(5, 2), kRed);
 }
 
-TEST(RasterSurface, LineTakesFloatsOfAnySize) {
+TEST(RasterSurface, line_takes_floats_of_any_size) {
     TestSurface pic(10, 10);
     pic.set_pen(kStoredRed);
     pic.Line(-3e38F, 4, 3e38F, 4);
@@ -88,7 +88,7 @@ TEST(RasterSurface, LineTakesFloatsOfAnySize) {
     EXPECT_TRUE(beside.shown.empty());
 }
 
-TEST(RasterSurface, OnlyLineAndFillBoxHeedTheMode) {
+TEST(RasterSurface, only_line_and_fill_box_heed_the_mode) {
     TestSurface pic(20, 20);
     pic.set_back_color(kWhite);
     pic.set_pen(kStoredRed);
@@ -110,7 +110,7 @@ TEST(RasterSurface, OnlyLineAndFillBoxHeedTheMode) {
     EXPECT_EQ(pic.pixel(0, 0), kRed);
 }
 
-TEST(RasterSurface, FillBoxHasItsOwnColour) {
+TEST(RasterSurface, fill_box_has_its_own_colour) {
     TestSurface pic(10, 10);
     pic.set_pen(0);
     pic.FillBox(1.6F, 2.4F, 5.6F, 6.4F, kStoredRed);
@@ -122,7 +122,7 @@ TEST(RasterSurface, FillBoxHasItsOwnColour) {
     EXPECT_EQ(pic.pixel(0, 9), kRed);
 }
 
-TEST(RasterSurface, PresentShowsWhatChangedOnce) {
+TEST(RasterSurface, present_shows_what_changed_once) {
     TestSurface pic(30, 30);
     pic.set_pen(kStoredRed);
     pic.Line(3, 4, 10, 6);
@@ -137,7 +137,7 @@ TEST(RasterSurface, PresentShowsWhatChangedOnce) {
     EXPECT_GE(15, pic.shown[0].right);
 }
 
-TEST(RasterSurface, APictureStandsAtTheCornerUnderTheDrawing) {
+TEST(RasterSurface, a_picture_stands_at_the_corner_under_the_drawing) {
     TestSurface pic(10, 10);
     pic.set_back_color(kWhite);
     pic.set_pen(kStoredRed);
@@ -158,7 +158,7 @@ TEST(RasterSurface, APictureStandsAtTheCornerUnderTheDrawing) {
     EXPECT_EQ(pic.pixel(0, 0), kWhite);
 }
 
-TEST(RasterSurface, APictureLargerThanTheSurfaceIsCut) {
+TEST(RasterSurface, a_picture_larger_than_the_surface_is_cut) {
     TestSurface pic(4, 3);
     std::vector<Pixel> picture(6 * 5, 0xFF00FF00);
     picture[6 * 2 + 3] = 0xFF000011;
@@ -167,7 +167,7 @@ TEST(RasterSurface, APictureLargerThanTheSurfaceIsCut) {
     EXPECT_EQ(pic.pixel(0, 0), 0x00FF00U);
 }
 
-TEST(RasterSurface, ATransparentPictureShowsTheBackground) {
+TEST(RasterSurface, a_transparent_picture_shows_the_background) {
     TestSurface pic(4, 4);
     const std::vector<Pixel> picture{0x00123456, 0x800000FF};
     pic.put_picture(picture, 2);
@@ -178,7 +178,7 @@ TEST(RasterSurface, ATransparentPictureShowsTheBackground) {
     EXPECT_EQ(pic.pixel(1, 0), 0x7F7FFFU);
 }
 
-TEST(RasterSurface, PixelOutsideRaises9) {
+TEST(RasterSurface, pixel_outside_raises9) {
     const TestSurface pic(4, 4);
     for (const PixelPoint outside : {PixelPoint{4, 0}, PixelPoint{0, 4}, PixelPoint{-1, 0}}) {
         try {

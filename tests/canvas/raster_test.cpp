@@ -84,21 +84,21 @@ Places drawn(PixelPoint from, PixelPoint to, std::int32_t width, std::int32_t he
     return sheet.drawn();
 }
 
-TEST(RasterSegment, LeavesOutTheEndPixel) {
+TEST(RasterSegment, leaves_out_the_end_pixel) {
     EXPECT_EQ(drawn({2, 3}, {5, 3}, 10, 10), (Places{{2, 3}, {3, 3}, {4, 3}}));
     EXPECT_EQ(drawn({5, 3}, {2, 3}, 10, 10), (Places{{5, 3}, {4, 3}, {3, 3}}));
     EXPECT_EQ(drawn({4, 7}, {4, 5}, 10, 10), (Places{{4, 7}, {4, 6}}));
     EXPECT_EQ(drawn({4, 4}, {4, 4}, 10, 10), Places{});
 }
 
-TEST(RasterSegment, TakesTheSmallerOfTwoEquallyNearPixels) {
+TEST(RasterSegment, takes_the_smaller_of_two_equally_near_pixels) {
     EXPECT_EQ(drawn({0, 0}, {2, 1}, 5, 5), (Places{{0, 0}, {1, 0}}));
     EXPECT_EQ(drawn({2, 1}, {0, 0}, 5, 5), (Places{{2, 1}, {1, 0}}));
     EXPECT_EQ(drawn({0, 2}, {2, 1}, 5, 5), (Places{{0, 2}, {1, 1}}));
     EXPECT_EQ(drawn({0, 0}, {1, 2}, 5, 5), (Places{{0, 0}, {0, 1}}));
 }
 
-TEST(RasterSegment, FollowsTheLineInEveryOctant) {
+TEST(RasterSegment, follows_the_line_in_every_octant) {
     const PixelPoint centre{10, 10};
     for (std::int32_t x = 0; x <= 20; ++x)
         for (std::int32_t y = 0; y <= 20; ++y) {
@@ -109,7 +109,7 @@ TEST(RasterSegment, FollowsTheLineInEveryOctant) {
         }
 }
 
-TEST(RasterSegment, ClippedIsWhatStandsInTheWindowOfTheWhole) {
+TEST(RasterSegment, clipped_is_what_stands_in_the_window_of_the_whole) {
     std::mt19937 random(5);
     std::uniform_int_distribution<std::int32_t> place(-60, 90);
     for (int i = 0; i < 4000; ++i) {
@@ -126,7 +126,7 @@ TEST(RasterSegment, ClippedIsWhatStandsInTheWindowOfTheWhole) {
     }
 }
 
-TEST(RasterSegment, IsExactOverTheWholeRangeOfCoordinates) {
+TEST(RasterSegment, is_exact_over_the_whole_range_of_coordinates) {
     constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
     constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
     const std::pair<PixelPoint, PixelPoint> cases[] = {
@@ -156,7 +156,7 @@ TEST(RasterSegment, IsExactOverTheWholeRangeOfCoordinates) {
     }
 }
 
-TEST(RasterSegment, WholeHasItsEndPixelToo) {
+TEST(RasterSegment, whole_has_its_end_pixel_too) {
     Sheet sheet(8, 8);
     sheet.raster.whole_segment({1, 1}, {4, 4}, {kRed});
     sheet.raster.whole_segment({6, 2}, {6, 2}, {kRed});
@@ -164,14 +164,14 @@ TEST(RasterSegment, WholeHasItsEndPixelToo) {
     EXPECT_EQ(sheet.drawn(), (Places{{1, 1}, {2, 2}, {3, 3}, {4, 4}, {6, 2}}));
 }
 
-TEST(RasterPolyline, JoinsThePointsAndLeavesOutTheLast) {
+TEST(RasterPolyline, joins_the_points_and_leaves_out_the_last) {
     Sheet sheet(8, 8);
     const PixelPoint points[] = {{1, 1}, {3, 1}, {3, 4}};
     sheet.raster.polyline(points, {kRed});
     EXPECT_EQ(sheet.drawn(), (Places{{1, 1}, {2, 1}, {3, 1}, {3, 2}, {3, 3}}));
 }
 
-TEST(RasterPolyline, OfFewerThanTwoPointsDrawsNothing) {
+TEST(RasterPolyline, of_fewer_than_two_points_draws_nothing) {
     Sheet sheet(8, 8);
     const PixelPoint points[] = {{1, 1}};
     sheet.raster.polyline(points, {kRed});
@@ -180,7 +180,7 @@ TEST(RasterPolyline, OfFewerThanTwoPointsDrawsNothing) {
     EXPECT_TRUE(sheet.raster.take_changed().empty());
 }
 
-TEST(RasterMode, CombinesThePenWithWhatStands) {
+TEST(RasterMode, combines_the_pen_with_what_stands) {
     struct Case {
         DrawMode mode;
         Pixel result;
@@ -198,7 +198,7 @@ TEST(RasterMode, CombinesThePenWithWhatStands) {
     }
 }
 
-TEST(RasterMode, InvertedTwiceIsAsBefore) {
+TEST(RasterMode, inverted_twice_is_as_before) {
     Sheet sheet(20, 20);
     const std::vector<Pixel> before = sheet.pixels;
     sheet.raster.whole_segment({2, 3}, {17, 9}, {kRed, DrawMode::invert});
@@ -207,7 +207,7 @@ TEST(RasterMode, InvertedTwiceIsAsBefore) {
     EXPECT_EQ(sheet.pixels, before);
 }
 
-TEST(RasterBox, HoldsBothCornersInAnyOrderAndIsClipped) {
+TEST(RasterBox, holds_both_corners_in_any_order_and_is_clipped) {
     Sheet sheet(6, 6);
     sheet.raster.box({3, 2}, {1, 1}, {kRed});
     EXPECT_EQ(sheet.drawn(), (Places{{1, 1}, {2, 1}, {3, 1}, {1, 2}, {2, 2}, {3, 2}}));
@@ -217,7 +217,7 @@ TEST(RasterBox, HoldsBothCornersInAnyOrderAndIsClipped) {
     EXPECT_EQ(clipped.drawn(), (Places{{0, 5}}));
 }
 
-TEST(RasterChanged, IsTheBoxOfWhatWasDrawnSinceTheLastAsk) {
+TEST(RasterChanged, is_the_box_of_what_was_drawn_since_the_last_ask) {
     Sheet sheet(50, 40);
     EXPECT_TRUE(sheet.raster.take_changed().empty());
     sheet.raster.segment({5, 30}, {20, 8}, {kRed});

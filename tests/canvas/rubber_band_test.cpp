@@ -17,7 +17,7 @@ void set_pentagon() {
     set_shape({{0, 0}, {10, 0}, {20, 10}, {10, 20}, {0, 20}});
 }
 
-TEST(DibujaDrag, WipesTheOldSegmentsAndDrawsTheNewInMode5) {
+TEST(DibujaDrag, wipes_the_old_segments_and_draws_the_new_in_mode5) {
     Canvas canvas;
     set_pentagon();
     session.PtoSel = 3;
@@ -31,7 +31,7 @@ TEST(DibujaDrag, WipesTheOldSegmentsAndDrawsTheNewInMode5) {
     EXPECT_EQ(Forma.Pto[3].Y, 21.12);
 }
 
-TEST(DibujaDrag, ChoosesThePensByIndex) {
+TEST(DibujaDrag, chooses_the_pens_by_index) {
     struct Case {
         std::int32_t selected;
         const char* into;
@@ -57,7 +57,7 @@ TEST(DibujaDrag, ChoosesThePensByIndex) {
     }
 }
 
-TEST(DibujaDrag, AnOverflowEndsItSilentlyAndLeavesTheMode) {
+TEST(DibujaDrag, an_overflow_ends_it_silently_and_leaves_the_mode) {
     Canvas canvas;
     set_pentagon();
     session.PtoSel = 1;
@@ -68,7 +68,7 @@ TEST(DibujaDrag, AnOverflowEndsItSilentlyAndLeavesTheMode) {
     EXPECT_THAT(canvas.dialogs.boxes, ElementsAre());
 }
 
-TEST(DibujaDrag, AnyOtherErrorShowsTheBoxOfDibuja) {
+TEST(DibujaDrag, any_other_error_shows_the_box_of_dibuja) {
     Canvas canvas;
     set_pentagon();
     session.PtoSel = 7;
@@ -83,7 +83,7 @@ TEST(DibujaDrag, AnyOtherErrorShowsTheBoxOfDibuja) {
               "Error Dibuja nº: 5  - Desc: " + error_description(5, 'E'));
 }
 
-TEST(DibujaDrag, NarrowsThePrecisionTo16Bits) {
+TEST(DibujaDrag, narrows_the_precision_to16_bits) {
     Canvas canvas;
     set_pentagon();
     session.PtoSel = 1;
@@ -93,7 +93,7 @@ TEST(DibujaDrag, NarrowsThePrecisionTo16Bits) {
     EXPECT_EQ(Forma.Pto[1].X, 10);
 }
 
-TEST(DibujaCreate, WipesTheOldBandAndDrawsTheNewInverted) {
+TEST(DibujaCreate, wipes_the_old_band_and_draws_the_new_inverted) {
     Canvas canvas;
     set_pentagon();
     session.PtoSel = 4;
@@ -107,7 +107,7 @@ TEST(DibujaCreate, WipesTheOldBandAndDrawsTheNewInverted) {
     EXPECT_EQ(session.BandaY, 8.3);
 }
 
-TEST(DibujaCreate, AnOverflowEndsItSilentlyAndKeepsTheBand) {
+TEST(DibujaCreate, an_overflow_ends_it_silently_and_keeps_the_band) {
     Canvas canvas;
     set_pentagon();
     session.PtoSel = 4;
@@ -118,7 +118,7 @@ TEST(DibujaCreate, AnOverflowEndsItSilentlyAndKeepsTheBand) {
     EXPECT_THAT(canvas.operations(), testing::Not(testing::Contains("mode 13")));
 }
 
-TEST(DibujaCreate, WithoutASelectedPointShowsTheBoxOfDibuja) {
+TEST(DibujaCreate, without_a_selected_point_shows_the_box_of_dibuja) {
     Canvas canvas;
     set_pentagon();
     session.PtoSel = -1;

@@ -20,7 +20,7 @@ int error_of(Body body) {
     return number;
 }
 
-TEST(View, MapsThereAndBack) {
+TEST(View, maps_there_and_back) {
     Canvas canvas;
     EXPECT_EQ(canvas_x(10), 80);
     EXPECT_EQ(canvas_y(20), 1870);
@@ -31,7 +31,7 @@ TEST(View, MapsThereAndBack) {
     EXPECT_EQ(world_y(1971), -1.0 / 3);
 }
 
-TEST(View, RaisesBeyondF64AndWithoutAZoom) {
+TEST(View, raises_beyond_F64_and_without_a_zoom) {
     Canvas canvas;
     EXPECT_EQ(error_of([] { return canvas_x(1e308); }), error::overflow);
     EXPECT_EQ(error_of([] { return canvas_y(-1e308); }), error::overflow);
@@ -40,7 +40,7 @@ TEST(View, RaisesBeyondF64AndWithoutAZoom) {
     EXPECT_EQ(error_of([] { return world_y(80); }), error::division_by_zero);
 }
 
-TEST(ToPixel, RoundsTiesToEvenUpToTheEndsOf32Bits) {
+TEST(ToPixel, rounds_ties_to_even_up_to_the_ends_of32_bits) {
     struct Case {
         double position;
         std::optional<std::int32_t> pixel;
@@ -74,7 +74,7 @@ TEST(ToPixel, RoundsTiesToEvenUpToTheEndsOf32Bits) {
     }
 }
 
-TEST(ToSingle, NarrowsAndRaisesBeyondAFloat) {
+TEST(ToSingle, narrows_and_raises_beyond_a_float) {
     EXPECT_EQ(to_single(0.1), 0.1F);
     EXPECT_EQ(to_single(-3.4e38), -3.4e38F);
     EXPECT_EQ(error_of([] { return to_single(3.5e38); }), error::overflow);
@@ -82,7 +82,7 @@ TEST(ToSingle, NarrowsAndRaisesBeyondAFloat) {
               error::overflow);
 }
 
-TEST(ParalelaPixel, TakesTheProductWith15DigitsAndTheSumAsDecimals) {
+TEST(ParalelaPixel, takes_the_product_with15_digits_and_the_sum_as_decimals) {
     struct Case {
         double product;
         std::int32_t x; ///< with the origin at 30
@@ -105,7 +105,7 @@ TEST(ParalelaPixel, TakesTheProductWith15DigitsAndTheSumAsDecimals) {
     }
 }
 
-TEST(ParalelaPixel, IsThePixelOfAnyOtherPointAwayFromTies) {
+TEST(ParalelaPixel, is_the_pixel_of_any_other_point_away_from_ties) {
     Canvas canvas;
     session.ZoomFactor = 7.3;
     for (int i = -4000; i < 4000; ++i) {
@@ -114,7 +114,7 @@ TEST(ParalelaPixel, IsThePixelOfAnyOtherPointAwayFromTies) {
     }
 }
 
-TEST(ParalelaPixel, RaisesBeyond32Bits) {
+TEST(ParalelaPixel, raises_beyond32_bits) {
     Canvas canvas;
     for (const double far : {1e9, -1e9, 1e20, 1e40, 1e308}) {
         EXPECT_EQ(error_of([&] { return paralela_pixel({far, 0}); }), error::overflow) << far;

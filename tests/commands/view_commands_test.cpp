@@ -13,7 +13,7 @@ using test::Canvas;
 using test::set_shape;
 using testing::ElementsAre;
 
-TEST(Zoom, StepsOnALadder) {
+TEST(Zoom, steps_on_a_ladder) {
     struct Case {
         double zoom, above, below;
     };
@@ -41,7 +41,7 @@ TEST(Zoom, StepsOnALadder) {
     }
 }
 
-TEST(ZoomCommands, ShowTheValueLayOutAndRepaint) {
+TEST(ZoomCommands, show_the_value_lay_out_and_repaint) {
     Canvas canvas;
     set_shape({{0, 0}, {10, 0}, {10, 20}});
     session.ZoomFactor = 10;
@@ -56,7 +56,7 @@ TEST(ZoomCommands, ShowTheValueLayOutAndRepaint) {
     EXPECT_EQ(session.winoptions.Txt_zoom, "9");
 }
 
-TEST(ZoomCommands, DownFromOneOrBelowDoesNothing) {
+TEST(ZoomCommands, down_from_one_or_below_does_nothing) {
     Canvas canvas;
     set_shape({{0, 0}, {10, 0}, {10, 20}});
     for (const double zoom : {1.0, 0.25, -2.0}) {
@@ -68,13 +68,13 @@ TEST(ZoomCommands, DownFromOneOrBelowDoesNothing) {
     EXPECT_TRUE(canvas.operations().empty());
 }
 
-TEST(ZoomCommands, ToolbarKeysAreTheSame) {
+TEST(ZoomCommands, toolbar_keys_are_the_same) {
     EXPECT_EQ(find_tool_key("K_ZOOMUP")->handler, &mnu_zoom_up);
     EXPECT_EQ(find_tool_key("K_ZOOMDWN")->handler, &mnu_zoom_down);
     EXPECT_EQ(find_tool_key("K_LOADIMG")->handler, &mnu_loadimg);
 }
 
-TEST(BackgroundPicture, ComesFromTheDialogWithoutARepaint) {
+TEST(BackgroundPicture, comes_from_the_dialog_without_a_repaint) {
     Canvas canvas;
     session.LastDir = "/shapes";
     canvas.dialogs.paths = {"/shapes/wing.bmp"};
@@ -91,7 +91,7 @@ TEST(BackgroundPicture, ComesFromTheDialogWithoutARepaint) {
     EXPECT_EQ(request.name, "");
 }
 
-TEST(BackgroundPicture, WithoutALastFolderTheDialogOpensInThePrograms) {
+TEST(BackgroundPicture, without_a_last_folder_the_dialog_opens_in_the_programs) {
     Canvas canvas;
     canvas.dialogs.paths = {"/wing.bmp"};
     mnu_loadimg();
@@ -105,7 +105,7 @@ class Unpictured : public test::RecordingSurface {
     void set_picture(std::string_view) override { raise(error::invalid_picture); }
 };
 
-TEST(BackgroundPicture, AFileThatIsNoPictureIsToldAndTheProgramGoesOn) {
+TEST(BackgroundPicture, a_file_that_is_no_picture_is_told_and_the_program_goes_on) {
     Canvas canvas;
     Unpictured pic;
     set_platform({canvas.dialogs, canvas.windows, canvas.shell, canvas.settings, *canvas.database,
@@ -119,14 +119,14 @@ TEST(BackgroundPicture, AFileThatIsNoPictureIsToldAndTheProgramGoesOn) {
     EXPECT_TRUE(pic.operations.empty());
 }
 
-TEST(BackgroundPicture, CancelledDialogChangesNothing) {
+TEST(BackgroundPicture, cancelled_dialog_changes_nothing) {
     Canvas canvas;
     mnu_loadimg();
     EXPECT_EQ(canvas.dialogs.open_calls.size(), 1U);
     EXPECT_TRUE(canvas.operations().empty());
 }
 
-TEST(BackgroundPicture, TakenAwayTheCanvasIsRepainted) {
+TEST(BackgroundPicture, taken_away_the_canvas_is_repainted) {
     Canvas canvas;
     set_shape({{0, 0}, {10, 0}, {10, 20}});
     mnu_delimg();

@@ -94,6 +94,15 @@ def check_size(root):
             yield f"{path.relative_to(root)}: {lines} lines; what is its second subject?"
 
 
+def check_test_names(root):
+    """A test's name is a sentence in snake_case; names of the program's own keep their capitals."""
+    test = re.compile(r"\bTEST(?:_F|_P)?\(\s*\w+,\s*(\w+)")
+    for path in sources(root, "_test.cpp"):
+        for name in test.findall(path.read_text(encoding="utf-8")):
+            if "_" not in name and name != name.lower():
+                yield f"{path.relative_to(root)}: the test {name} is not in snake_case"
+
+
 def room_of(path):
     """Of a path below src/. Each adapter is a room of its own."""
     parts = Path(path).parts
@@ -144,8 +153,8 @@ def main():
     if len(sys.argv) > 2:
         faults = list(check_core_objects(root, sys.argv[2]))
     else:
-        faults = [fault for check in (check_text, check_format, check_size, check_arrows)
-                  for fault in check(root)]
+        checks = (check_text, check_format, check_size, check_arrows, check_test_names)
+        faults = [fault for check in checks for fault in check(root)]
     for fault in faults:
         print(fault)
     print(f"{len(faults)} faults")

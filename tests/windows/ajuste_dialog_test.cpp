@@ -71,7 +71,7 @@ class AjusteDialogTest : public DialogsTest {
     static std::pair<int, int> blue(const QImage& image) { return coloured(image, qBlue, qRed); }
 };
 
-TEST_F(AjusteDialogTest, OpensWithItsNoticeAndAllButLoadingShut) {
+TEST_F(AjusteDialogTest, opens_with_its_notice_and_all_but_loading_shut) {
     in_window([this] {
         ASSERT_EQ(dialogs().boxes.size(), 1U);
         EXPECT_TRUE(dialogs().boxes[0].text.starts_with("Tened en cuenta"));
@@ -89,7 +89,7 @@ TEST_F(AjusteDialogTest, OpensWithItsNoticeAndAllButLoadingShut) {
     EXPECT_THAT(told, ElementsAre("open ajuste", "closed ajuste"));
 }
 
-TEST_F(AjusteDialogTest, TabGoesThroughTheHalvesInReadingOrder) {
+TEST_F(AjusteDialogTest, tab_goes_through_the_halves_in_reading_order) {
     in_window([this] {
         load_both();
         EXPECT_THAT(tab_order(part<QWidget>("cmd_selA")),
@@ -101,7 +101,7 @@ TEST_F(AjusteDialogTest, TabGoesThroughTheHalvesInReadingOrder) {
     });
 }
 
-TEST_F(AjusteDialogTest, NothingIsCutInAnyLanguage) {
+TEST_F(AjusteDialogTest, nothing_is_cut_in_any_language) {
     const std::pair<const char*, const char*> captions[] = {
         {"E", "Guardar"}, {"I", "Save"}, {"F", "Enregistrer"}, {"P", "Guardar"}, {"T", "Salva"}};
     for (const auto& [language, caption] : captions) {
@@ -118,7 +118,7 @@ TEST_F(AjusteDialogTest, NothingIsCutInAnyLanguage) {
     }
 }
 
-TEST_F(AjusteDialogTest, ALoadedSideShowsItsPathItsTotalsAndItsOutline) {
+TEST_F(AjusteDialogTest, a_loaded_side_shows_its_path_its_totals_and_its_outline) {
     write_side("raiz.dat", {{"0", "0"}, {"1", "0"}, {"1", "0.5"}, {"0", "0.5"}, {"0", "0"}},
                {{"0", "0"}});
     in_window([this] {
@@ -135,7 +135,7 @@ TEST_F(AjusteDialogTest, ALoadedSideShowsItsPathItsTotalsAndItsOutline) {
     });
 }
 
-TEST_F(AjusteDialogTest, APictureThatIsResizedShowsTheSameDrawingAtItsNewSize) {
+TEST_F(AjusteDialogTest, a_picture_that_is_resized_shows_the_same_drawing_at_its_new_size) {
     write_side("raiz.dat", {{"0", "0"}, {"1", "0"}, {"1", "0.5"}, {"0", "0"}}, {{"0", "0"}});
     in_window([this] {
         load('A', "raiz.dat");
@@ -147,7 +147,7 @@ TEST_F(AjusteDialogTest, APictureThatIsResizedShowsTheSameDrawingAtItsNewSize) {
 }
 
 // At a scale of 2 a picture that was only enlarged has no two pixels of one point that differ.
-TEST_F(AjusteDialogTest, ThePicturesAreDrawnInTheResolutionOfTheScreen) {
+TEST_F(AjusteDialogTest, the_pictures_are_drawn_in_the_resolution_of_the_screen) {
     write_side("raiz.dat", {{"0", "0"}, {"1", "0.1"}, {"0.9", "0.5"}, {"0", "0"}}, {{"0", "0"}});
     in_window([this] {
         load('A', "raiz.dat");
@@ -163,7 +163,7 @@ TEST_F(AjusteDialogTest, ThePicturesAreDrawnInTheResolutionOfTheScreen) {
     });
 }
 
-TEST_F(AjusteDialogTest, TheOptionsOpenTheAdjustmentAndTheNoticeComesAgain) {
+TEST_F(AjusteDialogTest, the_options_open_the_adjustment_and_the_notice_comes_again) {
     in_window([this] {
         load_both();
         EXPECT_TRUE(enabled("Cmd_Ajuste"));
@@ -172,7 +172,7 @@ TEST_F(AjusteDialogTest, TheOptionsOpenTheAdjustmentAndTheNoticeComesAgain) {
     });
 }
 
-TEST_F(AjusteDialogTest, AnAdjustedPairIsShownAndSaved) {
+TEST_F(AjusteDialogTest, an_adjusted_pair_is_shown_and_saved) {
     in_window([this] {
         load_both();
         click("Cmd_Ajuste");
@@ -189,7 +189,7 @@ TEST_F(AjusteDialogTest, AnAdjustedPairIsShownAndSaved) {
     });
 }
 
-TEST_F(AjusteDialogTest, AtWorkItTellsTheRunAndTakesNoSecondCommand) {
+TEST_F(AjusteDialogTest, at_work_it_tells_the_run_and_takes_no_second_command) {
     in_window([this] {
         load_both();
         std::string status;
@@ -210,7 +210,7 @@ TEST_F(AjusteDialogTest, AtWorkItTellsTheRunAndTakesNoSecondCommand) {
     EXPECT_THAT(told, Not(Contains("fault 9")));
 }
 
-TEST_F(AjusteDialogTest, TheNamesOfTheResultsCanNotBeTypedOver) {
+TEST_F(AjusteDialogTest, the_names_of_the_results_can_not_be_typed_over) {
     in_window([this] {
         for (const char* name : {"txt_fileA", "Txt_FileB", "TxtTotalPtos_A", "TxtTotalCtrlPtos_B",
                                  "Txt_File_A2", "Txt_File_B2", "TxtTotalCtrlPtosNew_A"}) {
@@ -220,7 +220,7 @@ TEST_F(AjusteDialogTest, TheNamesOfTheResultsCanNotBeTypedOver) {
     });
 }
 
-TEST_F(AjusteDialogTest, ClosedItOffersNoPicturesToDrawOn) {
+TEST_F(AjusteDialogTest, closed_it_offers_no_pictures_to_draw_on) {
     EXPECT_EQ(platform().previews, nullptr);
     in_window([] { EXPECT_NE(platform().previews, nullptr); });
     EXPECT_EQ(platform().previews, nullptr);

@@ -56,7 +56,7 @@ class AjusteOptDialogTest : public DialogsTest {
     }
 };
 
-TEST_F(AjusteOptDialogTest, OpensEmptyWithTheDrawingAndAButtonThatWaits) {
+TEST_F(AjusteOptDialogTest, opens_empty_with_the_drawing_and_a_button_that_waits) {
     in_window([this] {
         EXPECT_EQ(window("ajuste_opt")->windowTitle(), "Opciones del Ajuste");
         EXPECT_EQ(box("txt_X").text() + box("txt_Y").text() + box("txt_Z").text(), "");
@@ -68,7 +68,7 @@ TEST_F(AjusteOptDialogTest, OpensEmptyWithTheDrawingAndAButtonThatWaits) {
     });
 }
 
-TEST_F(AjusteOptDialogTest, NothingIsCutInAnyLanguage) {
+TEST_F(AjusteOptDialogTest, nothing_is_cut_in_any_language) {
     const std::pair<const char*, const char*> titles[] = {{"E", "Opciones del Ajuste"},
                                                           {"I", "Adjustment Options"},
                                                           {"F", "Options de l’ajustement"},
@@ -84,7 +84,7 @@ TEST_F(AjusteOptDialogTest, NothingIsCutInAnyLanguage) {
     }
 }
 
-TEST_F(AjusteOptDialogTest, ThreeTypedDistancesAreKept) {
+TEST_F(AjusteOptDialogTest, three_typed_distances_are_kept) {
     in_window([this] {
         QTest::keyClicks(&box("txt_X"), "100");
         QTest::keyClicks(&box("txt_Y"), "50.5");
@@ -102,7 +102,7 @@ TEST_F(AjusteOptDialogTest, ThreeTypedDistancesAreKept) {
     EXPECT_TRUE(session.ajuste.Cmd_Ajuste_enabled);
 }
 
-TEST_F(AjusteOptDialogTest, ARefusedKeyEmptiesItsBoxTo0) {
+TEST_F(AjusteOptDialogTest, a_refused_key_empties_its_box_to0) {
     in_window([this] {
         QTest::keyClicks(&box("txt_Z"), "40");
         QTest::keyClick(&box("txt_Z"), '-');
@@ -113,7 +113,7 @@ TEST_F(AjusteOptDialogTest, ARefusedKeyEmptiesItsBoxTo0) {
     });
 }
 
-TEST_F(AjusteOptDialogTest, EscKeepsNothingAndOpensTheAdjustmentAllTheSame) {
+TEST_F(AjusteOptDialogTest, esc_keeps_nothing_and_opens_the_adjustment_all_the_same) {
     in_window([this] {
         QTest::keyClicks(&box("txt_X"), "100");
         QTest::keyClick(window("ajuste_opt"), Qt::Key_Escape);
@@ -124,7 +124,7 @@ TEST_F(AjusteOptDialogTest, EscKeepsNothingAndOpensTheAdjustmentAllTheSame) {
     EXPECT_TRUE(session.ajuste.Cmd_Ajuste_enabled);
 }
 
-TEST_F(AjusteOptDialogTest, TheDrawingHasTheColourOfTheWindowsText) {
+TEST_F(AjusteOptDialogTest, the_drawing_has_the_colour_of_the_windows_text) {
     in_window([this] {
         const QColor dark("#202326");
         const QColor light("#f2f2f2");

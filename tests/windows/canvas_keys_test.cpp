@@ -60,7 +60,7 @@ class CanvasKeysTest : public CanvasTest {
     }
 };
 
-TEST_F(CanvasKeysTest, LettersAndDigitsHaveTheCodesOfTheirCapitals) {
+TEST_F(CanvasKeysTest, letters_and_digits_have_the_codes_of_their_capitals) {
     for (int key = Qt::Key_A; key <= Qt::Key_Z; ++key)
         for (const auto modifiers : {Qt::NoModifier, Qt::ShiftModifier})
             EXPECT_EQ(code_of(key, modifiers), key);
@@ -70,7 +70,7 @@ TEST_F(CanvasKeysTest, LettersAndDigitsHaveTheCodesOfTheirCapitals) {
 }
 
 // Their characters are the codes of other keys: "." that of Delete, "-" of Insert, "(" of Down.
-TEST_F(CanvasKeysTest, SignsAndLettersWithAccentsAreKeysWithoutACode) {
+TEST_F(CanvasKeysTest, signs_and_letters_with_accents_are_keys_without_a_code) {
     const std::string signs = "!\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~";
     for (const char sign : signs)
         EXPECT_EQ(code_of(sign, Qt::ShiftModifier), 0) << sign;
@@ -80,14 +80,14 @@ TEST_F(CanvasKeysTest, SignsAndLettersWithAccentsAreKeysWithoutACode) {
         EXPECT_EQ(code_of(key), 0) << key;
 }
 
-TEST_F(CanvasKeysTest, DeadKeysHaveNoCodeAndComposeNothing) {
+TEST_F(CanvasKeysTest, dead_keys_have_no_code_and_compose_nothing) {
     for (int key = Qt::Key_Dead_Grave; key <= Qt::Key_Dead_Longsolidusoverlay; ++key)
         EXPECT_EQ(code_of(key), 0) << key;
     EXPECT_EQ(code_of(Qt::Key_Multi_key), 0);
     EXPECT_FALSE(pic().testAttribute(Qt::WA_InputMethodEnabled));
 }
 
-TEST_F(CanvasKeysTest, TheNamedKeysHaveTheirs) {
+TEST_F(CanvasKeysTest, the_named_keys_have_theirs) {
     for (const auto& [key, code] :
          {KeyCode{Qt::Key_Backspace, 8}, KeyCode{Qt::Key_Return, 13}, KeyCode{Qt::Key_Shift, 16},
           KeyCode{Qt::Key_Control, 17}, KeyCode{Qt::Key_Alt, 18}, KeyCode{Qt::Key_AltGr, 18},
@@ -98,7 +98,7 @@ TEST_F(CanvasKeysTest, TheNamedKeysHaveTheirs) {
         EXPECT_EQ(code_of(key), code) << key;
 }
 
-TEST_F(CanvasKeysTest, TheNumberPadMovesAndEditsWithNumLockOff) {
+TEST_F(CanvasKeysTest, the_number_pad_moves_and_edits_with_num_lock_off) {
     for (const auto& [key, code] :
          {KeyCode{Qt::Key_Insert, 45}, KeyCode{Qt::Key_Delete, 46}, KeyCode{Qt::Key_Left, 37},
           KeyCode{Qt::Key_Up, 38}, KeyCode{Qt::Key_Right, 39}, KeyCode{Qt::Key_Down, 40},
@@ -107,7 +107,7 @@ TEST_F(CanvasKeysTest, TheNumberPadMovesAndEditsWithNumLockOff) {
         EXPECT_EQ(code_of(key, Qt::KeypadModifier), code) << key;
 }
 
-TEST_F(CanvasKeysTest, TheNumberPadsDigitsAndSignsHaveCodesOfTheirOwn) {
+TEST_F(CanvasKeysTest, the_number_pads_digits_and_signs_have_codes_of_their_own) {
     for (int digit = 0; digit <= 9; ++digit)
         EXPECT_EQ(code_of(Qt::Key_0 + digit, Qt::KeypadModifier), 96 + digit);
     for (const auto& [key, code] :
@@ -116,7 +116,7 @@ TEST_F(CanvasKeysTest, TheNumberPadsDigitsAndSignsHaveCodesOfTheirOwn) {
         EXPECT_EQ(code_of(key, Qt::KeypadModifier), code) << key;
 }
 
-TEST_F(CanvasKeysTest, NoCharacterChangesTheShape) {
+TEST_F(CanvasKeysTest, no_character_changes_the_shape) {
     const Points before = shape();
     session.PtoSel = 2;
     for (int key = Qt::Key_Space; key < 0x250; ++key) {
@@ -130,7 +130,7 @@ TEST_F(CanvasKeysTest, NoCharacterChangesTheShape) {
     EXPECT_THAT(dialogs().boxes, IsEmpty());
 }
 
-TEST_F(CanvasKeysTest, TheNumberPadsDeleteTakesThePointAway) {
+TEST_F(CanvasKeysTest, the_number_pads_delete_takes_the_point_away) {
     session.PtoSel = 2;
     press(pic(), Qt::Key_Delete, Qt::KeypadModifier);
     EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {0, 10}}));
@@ -138,7 +138,7 @@ TEST_F(CanvasKeysTest, TheNumberPadsDeleteTakesThePointAway) {
     EXPECT_EQ(Forma.Pto[1].Y, 0.1);
 }
 
-TEST_F(CanvasKeysTest, AModifierAloneIsNoKey) {
+TEST_F(CanvasKeysTest, a_modifier_alone_is_no_key) {
     control<QAction>("Velmora", "mnu_closefile").trigger();
     session.PtoSel = 2;
     for (const int key :
@@ -151,7 +151,7 @@ TEST_F(CanvasKeysTest, AModifierAloneIsNoKey) {
     EXPECT_EQ(dialogs().boxes.size(), 1U) << "any other key repaints, and there is no shape";
 }
 
-TEST_F(CanvasKeysTest, CtrlIsUpWhenTheCanvasLosesTheFocus) {
+TEST_F(CanvasKeysTest, ctrl_is_up_when_the_canvas_loses_the_focus) {
     session.PtoSel = 1;
     insert_points();
     pic().setFocus();
@@ -181,7 +181,7 @@ class Intruder : public QObject {
     QDialog box_;
 };
 
-TEST_F(CanvasKeysTest, CtrlIsUpAfterACommandWhoseDialogTookItsRelease) {
+TEST_F(CanvasKeysTest, ctrl_is_up_after_a_command_whose_dialog_took_its_release) {
     pic().setFocus();
     Intruder dialog(*window("Velmora"));
     QTest::keyPress(&pic(), Qt::Key_Control);
@@ -192,7 +192,7 @@ TEST_F(CanvasKeysTest, CtrlIsUpAfterACommandWhoseDialogTookItsRelease) {
 }
 
 // The handler notes Ctrl at its end, when a message has come and gone.
-TEST_F(CanvasKeysTest, CtrlIsUpAfterAKeyWhoseMessageTookItsRelease) {
+TEST_F(CanvasKeysTest, ctrl_is_up_after_a_key_whose_message_took_its_release) {
     pic().setFocus();
     Intruder message(*window("Velmora"));
     const auto handler = pic().key_down;
@@ -205,7 +205,7 @@ TEST_F(CanvasKeysTest, CtrlIsUpAfterAKeyWhoseMessageTookItsRelease) {
     EXPECT_EQ(session.CtrlDown, False);
 }
 
-TEST_F(CanvasKeysTest, TabLeavesTheCanvasWhereItIs) {
+TEST_F(CanvasKeysTest, tab_leaves_the_canvas_where_it_is) {
     open_shape({{-10, -10}, {40, -10}, {40, 40}});
     settle();
     const auto as_laid_out = bars();
@@ -220,7 +220,7 @@ TEST_F(CanvasKeysTest, TabLeavesTheCanvasWhereItIs) {
     }
 }
 
-TEST_F(CanvasKeysTest, ATurnOfTabsThroughTheWindowLeavesTheBarsWhereTheUserPutThem) {
+TEST_F(CanvasKeysTest, a_turn_of_tabs_through_the_window_leaves_the_bars_where_the_user_put_them) {
     settle();
     bar(Qt::Horizontal).setSliderPosition(31);
     bar(Qt::Vertical).setSliderPosition(17);

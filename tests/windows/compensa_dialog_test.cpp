@@ -22,7 +22,7 @@ class CompensaDialogTest : public DialogsTest {
     QPushButton& ok() { return control<QPushButton>("Compensa", "cmd_ok"); }
 };
 
-TEST_F(CompensaDialogTest, OpensWithoutAValueToAccept) {
+TEST_F(CompensaDialogTest, opens_without_a_value_to_accept) {
     in_window([this] {
         EXPECT_EQ(window("Compensa")->windowTitle(), "Compensación de Corte");
         EXPECT_EQ(box().text(), "");
@@ -33,7 +33,7 @@ TEST_F(CompensaDialogTest, OpensWithoutAValueToAccept) {
     });
 }
 
-TEST_F(CompensaDialogTest, ATypedValueMovesTheOutlineBeside) {
+TEST_F(CompensaDialogTest, a_typed_value_moves_the_outline_beside) {
     in_window([this] {
         QTest::keyClicks(&box(), "0.5");
         EXPECT_TRUE(ok().isEnabled());
@@ -44,7 +44,7 @@ TEST_F(CompensaDialogTest, ATypedValueMovesTheOutlineBeside) {
     EXPECT_EQ(shape().front(), (Pto{0, 0}));
 }
 
-TEST_F(CompensaDialogTest, ASignIsRefusedAndTheValueIsGone) {
+TEST_F(CompensaDialogTest, a_sign_is_refused_and_the_value_is_gone) {
     in_window([this] {
         QTest::keyClick(&box(), Qt::Key_5);
         QTest::keyClick(&box(), Qt::Key_Minus);
@@ -55,7 +55,7 @@ TEST_F(CompensaDialogTest, ASignIsRefusedAndTheValueIsGone) {
     });
 }
 
-TEST_F(CompensaDialogTest, CancelMakesNothing) {
+TEST_F(CompensaDialogTest, cancel_makes_nothing) {
     in_window([this] {
         QTest::keyClick(&box(), Qt::Key_5);
         control<QPushButton>("Compensa", "cmd_cancel").click();

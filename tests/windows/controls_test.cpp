@@ -63,7 +63,7 @@ std::vector<std::string> named_menu_entries() {
     return result;
 }
 
-TEST_F(ControlsTest, TheMainWindowHoldsItsControlsInOrder) {
+TEST_F(ControlsTest, the_main_window_holds_its_controls_in_order) {
     std::vector<std::string> expected = {"pic",        "lbl_xyfloat", "Lst_Coords",
                                          "TxtDescDat", "TxtDat_File", "Timer1"};
     const auto menus = named_menu_entries();
@@ -74,7 +74,7 @@ TEST_F(ControlsTest, TheMainWindowHoldsItsControlsInOrder) {
     EXPECT_THAT(names("Velmora"), ElementsAreArray(expected));
 }
 
-TEST_F(ControlsTest, TheOptionsHoldTheirControlsInOrder) {
+TEST_F(ControlsTest, the_options_hold_their_controls_in_order) {
     EXPECT_THAT(names("winoptions"),
                 ElementsAre("frm_Format", "Label1", "TxtPutCircle", "TxtPutArc", "Label19",
                             "Label18", "TxtPrecision", "Label2", "ChkPtos", "Txt_zoom",
@@ -83,7 +83,7 @@ TEST_F(ControlsTest, TheOptionsHoldTheirControlsInOrder) {
                             "chk_Redim_Capture", "SSFrame1", "chk_optimize", "SSFrame3"));
 }
 
-TEST_F(ControlsTest, TheInformationHoldsItsControlsInOrderAroundItsLabels) {
+TEST_F(ControlsTest, the_information_holds_its_controls_in_order_around_its_labels) {
     std::vector<std::string> rest;
     for (const std::string& name : names("wininfo"))
         if (!name.starts_with("Label") && !name.starts_with("Shp"))
@@ -95,7 +95,7 @@ TEST_F(ControlsTest, TheInformationHoldsItsControlsInOrderAroundItsLabels) {
                                   "TxtPtosSupr", "Image1", "SSTab1", "chk_wininfo"));
 }
 
-TEST_F(ControlsTest, TheScalingDialogHoldsItsControls) {
+TEST_F(ControlsTest, the_scaling_dialog_holds_its_controls) {
     windows().run([this] { windows().load("Scale_xy"); });
     EXPECT_THAT(
         names("Scale_xy"),
@@ -103,7 +103,7 @@ TEST_F(ControlsTest, TheScalingDialogHoldsItsControls) {
                       "txt_fixed_y", "txt_percent_x", "txt_percent_y", "cmd_ok", "cmd_cancel"}));
 }
 
-TEST_F(ControlsTest, EachListedControlIsReachableByItsName) {
+TEST_F(ControlsTest, each_listed_control_is_reachable_by_its_name) {
     for (const char* window : {"Velmora", "winoptions", "wininfo"})
         for (const std::string& name : names(window))
             EXPECT_NE(windows().control(window, name), nullptr) << window << "." << name;
@@ -112,13 +112,13 @@ TEST_F(ControlsTest, EachListedControlIsReachableByItsName) {
     EXPECT_EQ(windows().control("nobody", "pic"), nullptr);
 }
 
-TEST_F(ControlsTest, TheIdleTimerNeverRuns) {
+TEST_F(ControlsTest, the_idle_timer_never_runs) {
     const auto& timer = control<QTimer>("Velmora", "Timer1");
     EXPECT_EQ(timer.interval(), 10);
     EXPECT_FALSE(timer.isActive());
 }
 
-TEST_F(ControlsTest, KindsAndPartsAreThoseOfTheForm) {
+TEST_F(ControlsTest, kinds_and_parts_are_those_of_the_form) {
     EXPECT_EQ(form_control("Velmora", "TBar2").kind(), ControlKind::tool_bar);
     EXPECT_EQ(form_control("Velmora", "TBar2").parts(), 7);
     EXPECT_EQ(form_control("Velmora", "TBar3").parts(), 2);
@@ -131,14 +131,14 @@ TEST_F(ControlsTest, KindsAndPartsAreThoseOfTheForm) {
     EXPECT_EQ(form_control("Velmora", "mnu_openfile").kind(), ControlKind::other);
 }
 
-TEST_F(ControlsTest, WhatAControlLacksIsError438) {
+TEST_F(ControlsTest, what_a_control_lacks_is_error438) {
     for (const char* name : {"pic", "Lst_Coords", "Timer1", "CommonDialog1", "Pbar1", "SSPanel1"})
         EXPECT_THROW((void)form_control("Velmora", name).text(0), RuntimeError) << name;
     EXPECT_THROW((void)form_control("Velmora", "mnu_openfile").tip(0), RuntimeError);
     EXPECT_THROW(form_control("Velmora", "Timer1").set_tip(0, "tip"), RuntimeError);
 }
 
-TEST_F(ControlsTest, TextsAndTipsGoToTheWidgets) {
+TEST_F(ControlsTest, texts_and_tips_go_to_the_widgets) {
     form_control("Velmora", "mnu_openfile").set_text(0, "&Open");
     EXPECT_EQ(control<QAction>("Velmora", "mnu_openfile").text(), "&Open");
     form_control("Velmora", "TBar2").set_tip(0, "Leave");
@@ -153,18 +153,18 @@ TEST_F(ControlsTest, TextsAndTipsGoToTheWidgets) {
     EXPECT_EQ(control<QLineEdit>("Velmora", "TxtDescDat").accessibleName(), "Description");
 }
 
-TEST_F(ControlsTest, ATextPutIntoABoxIsInTheSessionAtOnce) {
+TEST_F(ControlsTest, a_text_put_into_a_box_is_in_the_session_at_once) {
     form_control("Velmora", "TxtDescDat").set_text(0, "ala");
     EXPECT_EQ(session.Velmora.TxtDescDat, "ala");
 }
 
-TEST_F(ControlsTest, ACaptionStandsInTheTitleAndInTheSession) {
+TEST_F(ControlsTest, a_caption_stands_in_the_title_and_in_the_session) {
     windows().form("Velmora")->set_caption("Otro");
     EXPECT_EQ(window("Velmora")->windowTitle(), "Otro");
     EXPECT_EQ(session.Velmora.Caption, "Otro");
 }
 
-TEST_F(ControlsTest, ProgressBarsShowTheirTerms) {
+TEST_F(ControlsTest, progress_bars_show_their_terms) {
     session.Velmora.Pbar1 = {.Min = 0, .Max = 250, .Value = 40};
     session.Velmora.pbar2 = {.Min = 0, .Max = 0, .Value = 7};
     windows().refresh();

@@ -27,7 +27,7 @@ class DelNptoDialogTest : public DialogsTest {
     QString maximum() { return control<QLabel>("del_Npto", "Lbl_Maxpoints").text(); }
 };
 
-TEST_F(DelNptoDialogTest, OpensWithTheMostPointsThatMayGo) {
+TEST_F(DelNptoDialogTest, opens_with_the_most_points_that_may_go) {
     in_window([this] {
         EXPECT_EQ(maximum(), "(3)");
         EXPECT_EQ(box("Txt_JumpPoints").text(), "0");
@@ -38,7 +38,7 @@ TEST_F(DelNptoDialogTest, OpensWithTheMostPointsThatMayGo) {
     });
 }
 
-TEST_F(DelNptoDialogTest, TypedPointsGo) {
+TEST_F(DelNptoDialogTest, typed_points_go) {
     in_window([this] {
         QTest::keyClick(&box("Txt_Numpoints2del"), Qt::Key_2);
         control<QPushButton>("del_Npto", "cmd_ok").click();
@@ -47,7 +47,7 @@ TEST_F(DelNptoDialogTest, TypedPointsGo) {
     EXPECT_EQ(shape().front().X, 2);
 }
 
-TEST_F(DelNptoDialogTest, ATypedIntervalChangesTheMaximum) {
+TEST_F(DelNptoDialogTest, a_typed_interval_changes_the_maximum) {
     in_window([this] {
         box("Txt_JumpPoints").selectAll();
         QTest::keyClick(&box("Txt_JumpPoints"), Qt::Key_1);
@@ -55,7 +55,7 @@ TEST_F(DelNptoDialogTest, ATypedIntervalChangesTheMaximum) {
     });
 }
 
-TEST_F(DelNptoDialogTest, ARefusedKeyResetsItsBox) {
+TEST_F(DelNptoDialogTest, a_refused_key_resets_its_box) {
     in_window([this] {
         QTest::keyClick(&box("Txt_Numpoints2del"), Qt::Key_2);
         QTest::keyClick(&box("Txt_Numpoints2del"), Qt::Key_Period);
@@ -65,7 +65,7 @@ TEST_F(DelNptoDialogTest, ARefusedKeyResetsItsBox) {
     });
 }
 
-TEST_F(DelNptoDialogTest, LeavingTheBoxWithTooManyPointsComesBackToIt) {
+TEST_F(DelNptoDialogTest, leaving_the_box_with_too_many_points_comes_back_to_it) {
     in_window([this] {
         window("del_Npto")->activateWindow();
         box("Txt_Numpoints2del").setFocus();
@@ -79,7 +79,7 @@ TEST_F(DelNptoDialogTest, LeavingTheBoxWithTooManyPointsComesBackToIt) {
     });
 }
 
-TEST_F(DelNptoDialogTest, CancelLeavesTheShape) {
+TEST_F(DelNptoDialogTest, cancel_leaves_the_shape) {
     in_window([this] {
         QTest::keyClick(&box("Txt_Numpoints2del"), Qt::Key_2);
         control<QPushButton>("del_Npto", "cmd_cancel").click();

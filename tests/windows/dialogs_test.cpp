@@ -42,7 +42,7 @@ class DialogsTest : public testing::Test {
     bool opened = false;
 };
 
-TEST_F(DialogsTest, ABoxHasItsTitleTextIconAndButtons) {
+TEST_F(DialogsTest, a_box_has_its_title_text_icon_and_buttons) {
     when_open<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(box.windowTitle(), "Velmora 1.0");
         EXPECT_EQ(box.text(), "¿<b>Salir</b>?");
@@ -59,7 +59,7 @@ TEST_F(DialogsTest, ABoxHasItsTitleTextIconAndButtons) {
 
 class BoxAnswers : public DialogsTest, public testing::WithParamInterface<std::array<int, 3>> {};
 
-TEST_P(BoxAnswers, EachButtonGivesItsAnswer) {
+TEST_P(BoxAnswers, each_button_gives_its_answer) {
     const auto [asked, button, expected] = GetParam();
     when_open<QMessageBox>([button = button](QMessageBox& box) {
         box.button(static_cast<QMessageBox::StandardButton>(button))->click();
@@ -76,12 +76,12 @@ INSTANTIATE_TEST_SUITE_P(
                     std::array{buttons::yes_no, int{QMessageBox::No}, answer::no},
                     std::array{buttons::yes_no_cancel, int{QMessageBox::Cancel}, answer::cancel}));
 
-TEST_F(DialogsTest, EnterIsOkOrYes) {
+TEST_F(DialogsTest, enter_is_ok_or_yes) {
     when_open<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
     EXPECT_EQ(dialogs->message("x", buttons::yes_no, "y"), answer::yes);
 }
 
-TEST_F(DialogsTest, AnInputBoxStartsWithItsPresetAndGivesTheText) {
+TEST_F(DialogsTest, an_input_box_starts_with_its_preset_and_gives_the_text) {
     when_open<QInputDialog>([](QInputDialog& box) {
         EXPECT_EQ(box.labelText(), "Angulo :");
         EXPECT_EQ(box.textValue(), "0");
@@ -91,12 +91,12 @@ TEST_F(DialogsTest, AnInputBoxStartsWithItsPresetAndGivesTheText) {
     EXPECT_EQ(dialogs->input("Angulo :", "Velmora", "0"), "90");
 }
 
-TEST_F(DialogsTest, ACancelledInputBoxGivesNothing) {
+TEST_F(DialogsTest, a_cancelled_input_box_gives_nothing) {
     when_open<QInputDialog>([](QInputDialog& box) { box.reject(); });
     EXPECT_EQ(dialogs->input("Angulo :", "Velmora", "0"), std::nullopt);
 }
 
-TEST_F(DialogsTest, TheOpenDialogShowsTheFilterAndGivesThePath) {
+TEST_F(DialogsTest, the_open_dialog_shows_the_filter_and_gives_the_path) {
     QTemporaryDir folder;
     QFile file(folder.filePath("ala.DAT"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -112,7 +112,8 @@ TEST_F(DialogsTest, TheOpenDialogShowsTheFilterAndGivesThePath) {
                 EndsWith("/ala.DAT"));
 }
 
-TEST_F(DialogsTest, TheSaveDialogProposesANameAndLeavesTheOverwriteQuestionToTheProgram) {
+TEST_F(DialogsTest,
+       the_save_dialog_proposes_a_name_and_leaves_the_overwrite_question_to_the_program) {
     QTemporaryDir folder;
     QFile file(folder.filePath("ala.dat"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -125,7 +126,7 @@ TEST_F(DialogsTest, TheSaveDialogProposesANameAndLeavesTheOverwriteQuestionToThe
         EndsWith("/ala.dat"));
 }
 
-TEST_F(DialogsTest, AColourGoesInAndComesOutWithRedInTheLowByte) {
+TEST_F(DialogsTest, a_colour_goes_in_and_comes_out_with_red_in_the_low_byte) {
     when_open<QColorDialog>([](QColorDialog& box) {
         EXPECT_EQ(box.currentColor(), QColor(255, 0, 0));
         box.setCurrentColor(QColor(1, 2, 3));
@@ -137,7 +138,7 @@ TEST_F(DialogsTest, AColourGoesInAndComesOutWithRedInTheLowByte) {
 class FontDialog : public DialogsTest, public testing::WithParamInterface<bool> {};
 
 // In the program's language, which the dialog also uses for the names of styles.
-TEST_P(FontDialog, StartsWithThePresentFontAndGivesTheChosenOne) {
+TEST_P(FontDialog, starts_with_the_present_font_and_gives_the_chosen_one) {
     install_translations("E");
     const bool bold = GetParam();
     when_open<QFontDialog>([bold](QFontDialog& box) {
@@ -161,7 +162,7 @@ TEST_P(FontDialog, StartsWithThePresentFontAndGivesTheChosenOne) {
 
 INSTANTIATE_TEST_SUITE_P(Weights, FontDialog, testing::Bool());
 
-TEST_F(DialogsTest, WithoutANameTheFontDialogStartsWithTheDesktopsFont) {
+TEST_F(DialogsTest, without_a_name_the_font_dialog_starts_with_the_desktops_font) {
     when_open<QFontDialog>([](QFontDialog& box) {
         EXPECT_EQ(box.currentFont().family(), QFontInfo(QApplication::font()).family());
         EXPECT_FALSE(box.currentFont().bold());
@@ -173,7 +174,7 @@ TEST_F(DialogsTest, WithoutANameTheFontDialogStartsWithTheDesktopsFont) {
     EXPECT_EQ(chosen->size, 72);
 }
 
-TEST_F(DialogsTest, ACancelledFontDialogGivesNothing) {
+TEST_F(DialogsTest, a_cancelled_font_dialog_gives_nothing) {
     when_open<QFontDialog>([](QFontDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); });
     EXPECT_FALSE(dialogs->choose_font({"DejaVu Sans", 72, false, false}).has_value());
 }
@@ -203,19 +204,19 @@ class LostFocusTest : public testing::Test {
     std::vector<std::string> told;
 };
 
-TEST_F(LostFocusTest, LeavingTheBoxIsNoticedBeforeTheClickThatCausedIt) {
+TEST_F(LostFocusTest, leaving_the_box_is_noticed_before_the_click_that_caused_it) {
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_THAT(told, ElementsAre("left", "click"));
 }
 
-TEST_F(LostFocusTest, TheClickIsCarriedOutEvenWhenTheBoxTakesTheFocusBack) {
+TEST_F(LostFocusTest, the_click_is_carried_out_even_when_the_box_takes_the_focus_back) {
     take_back = true;
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_THAT(told, ElementsAre("left", "click"));
     EXPECT_TRUE(box->hasFocus());
 }
 
-TEST_F(LostFocusTest, AClickWhoseReleaseAMessageTookIsCarriedOut) {
+TEST_F(LostFocusTest, a_click_whose_release_a_message_took_is_carried_out) {
     QTest::mousePress(button, Qt::LeftButton);
     // What a message box leaves behind: the button is down, no mouse button is.
     QTest::mouseRelease(&window, Qt::LeftButton);
@@ -224,7 +225,7 @@ TEST_F(LostFocusTest, AClickWhoseReleaseAMessageTookIsCarriedOut) {
     EXPECT_FALSE(button->isDown());
 }
 
-TEST_F(LostFocusTest, AnotherWindowThatTakesTheFocusIsNotNoticed) {
+TEST_F(LostFocusTest, another_window_that_takes_the_focus_is_not_noticed) {
     QWidget other;
     other.show();
     QApplication::setActiveWindow(&other);

@@ -22,7 +22,7 @@ class HelpWindowsTest : public DialogsTest {
     }
 };
 
-TEST_F(HelpWindowsTest, TheShortcutsStandBesideTheirLines) {
+TEST_F(HelpWindowsTest, the_shortcuts_stand_beside_their_lines) {
     in_dialog("mnu_Shortkeys", "teclas", [this] {
         EXPECT_EQ(window("teclas")->windowTitle(), "Teclas Rápidas");
         EXPECT_EQ(control<QGroupBox>("teclas", "Frame1").title(), "Descripción de Teclas Rápidas");
@@ -44,7 +44,7 @@ TEST_F(HelpWindowsTest, TheShortcutsStandBesideTheirLines) {
     EXPECT_THAT(told, ElementsAre("open teclas", "closed teclas"));
 }
 
-TEST_F(HelpWindowsTest, EnterClosesTheShortcuts) {
+TEST_F(HelpWindowsTest, enter_closes_the_shortcuts) {
     in_dialog("mnu_Shortkeys", "teclas", [this] {
         EXPECT_TRUE(control<QPushButton>("teclas", "Command1").hasFocus());
         EXPECT_EQ(control<QPushButton>("teclas", "Command1").text(), "Cerrar");
@@ -54,7 +54,7 @@ TEST_F(HelpWindowsTest, EnterClosesTheShortcuts) {
     });
 }
 
-TEST_F(HelpWindowsTest, TheAboutBoxNamesVersionAndHelpers) {
+TEST_F(HelpWindowsTest, the_about_box_names_version_and_helpers) {
     deploy("helper = Ana Ibáñez\nhelper = Luis\n");
     in_dialog("mnu_about", "acerca", [this] {
         EXPECT_EQ(control<QLabel>("acerca", "lblVer").text(), "Velmora Ver.: 1.0 (1011)");
@@ -67,7 +67,7 @@ TEST_F(HelpWindowsTest, TheAboutBoxNamesVersionAndHelpers) {
     EXPECT_THAT(told, ElementsAre("open acerca", "closed acerca"));
 }
 
-TEST_F(HelpWindowsTest, WithoutNamesTheAboutBoxHasNoEmptyPanel) {
+TEST_F(HelpWindowsTest, without_names_the_about_box_has_no_empty_panel) {
     in_dialog("mnu_about", "acerca", [this] {
         EXPECT_FALSE(control<QLabel>("acerca", "SSPanel1").isVisible());
         expect_nothing_cut(*window("acerca"));
@@ -75,7 +75,7 @@ TEST_F(HelpWindowsTest, WithoutNamesTheAboutBoxHasNoEmptyPanel) {
     });
 }
 
-TEST_F(HelpWindowsTest, TheAboutBoxLeadsToTheWebPageAndToAMail) {
+TEST_F(HelpWindowsTest, the_about_box_leads_to_the_web_page_and_to_a_mail) {
     deploy("web_page = https://taller.example/\nsupport_address = ayuda@taller.example\n");
     in_dialog("mnu_about", "acerca", [this] {
         QTest::mouseClick(&control<LinkLabel>("acerca", "lbl_web"), Qt::LeftButton);

@@ -31,19 +31,19 @@ class HostTest : public WindowsTest {
     static void later(std::function<void()> step) { QTimer::singleShot(0, std::move(step)); }
 };
 
-TEST_F(HostTest, TypedTextIsInTheSessionWhenAHandlerRuns) {
+TEST_F(HostTest, typed_text_is_in_the_session_when_a_handler_runs) {
     box("TxtDescDat").setText("ala");
     std::string seen;
     run([&] { seen = session.Velmora.TxtDescDat; });
     EXPECT_EQ(seen, "ala");
 }
 
-TEST_F(HostTest, WhatAHandlerWroteIsShownBehindIt) {
+TEST_F(HostTest, what_a_handler_wrote_is_shown_behind_it) {
     run([] { session.Velmora.TxtDat_File = "/tmp/ala.dat"; });
     EXPECT_EQ(box("TxtDat_File").text(), "/tmp/ala.dat");
 }
 
-TEST_F(HostTest, AnOlderTextOnTheScreenDoesNotUndoWhatARunningHandlerWrote) {
+TEST_F(HostTest, an_older_text_on_the_screen_does_not_undo_what_a_running_handler_wrote) {
     run([this] {
         session.Velmora.TxtDat_File = "neu.dat";
         run([] {}); // an event that comes in while the handler yields
@@ -51,7 +51,7 @@ TEST_F(HostTest, AnOlderTextOnTheScreenDoesNotUndoWhatARunningHandlerWrote) {
     });
 }
 
-TEST_F(HostTest, RefreshTakesTypedTextAndShowsTheRest) {
+TEST_F(HostTest, refresh_takes_typed_text_and_shows_the_rest) {
     box("TxtDescDat").setText("typed");
     session.Velmora.TxtDat_File = "set.dat";
     windows().refresh();
@@ -59,7 +59,7 @@ TEST_F(HostTest, RefreshTakesTypedTextAndShowsTheRest) {
     EXPECT_EQ(box("TxtDat_File").text(), "set.dat");
 }
 
-TEST_F(HostTest, FaultsAreToldWithTheirNumbers) {
+TEST_F(HostTest, faults_are_told_with_their_numbers) {
     const std::pair<std::function<void()>, const char*> cases[] = {
         {[] { raise(error::subscript); }, "fault 9"},
         {[] { throw std::bad_alloc(); }, "fault 7"},
@@ -73,7 +73,7 @@ TEST_F(HostTest, FaultsAreToldWithTheirNumbers) {
     }
 }
 
-TEST_F(HostTest, AFaultWithNobodyWatchingIsReportedAndNothingRunsAfterIt) {
+TEST_F(HostTest, a_fault_with_nobody_watching_is_reported_and_nothing_runs_after_it) {
     windows().events.fault = {};
     run([] { raise(error::overflow, "Desbordamiento"); });
     ASSERT_EQ(dialogs().boxes.size(), 1U);
@@ -84,7 +84,7 @@ TEST_F(HostTest, AFaultWithNobodyWatchingIsReportedAndNothingRunsAfterIt) {
     EXPECT_FALSE(ran);
 }
 
-TEST_F(HostTest, AHandlerThatFailsAloneIsToldAndTheProgramGoesOn) {
+TEST_F(HostTest, a_handler_that_fails_alone_is_told_and_the_program_goes_on) {
     const std::pair<std::function<void()>, const char*> cases[] = {
         {[] { raise(error::subscript); }, "stopped 9"},
         {[] { throw std::bad_alloc(); }, "stopped 7"},
@@ -100,7 +100,7 @@ TEST_F(HostTest, AHandlerThatFailsAloneIsToldAndTheProgramGoesOn) {
     }
 }
 
-TEST_F(HostTest, AHandlerThatFailsAloneHasTheReportOfEveryFault) {
+TEST_F(HostTest, a_handler_that_fails_alone_has_the_report_of_every_fault) {
     windows().events.stopped = {};
     windows().run_alone([] { raise(error::overflow, "Desbordamiento"); });
     ASSERT_EQ(dialogs().boxes.size(), 1U);
@@ -109,7 +109,7 @@ TEST_F(HostTest, AHandlerThatFailsAloneHasTheReportOfEveryFault) {
     EXPECT_THAT(told, IsEmpty());
 }
 
-TEST_F(HostTest, TheEndOfTheProgramGoesThroughAHandlerThatFailsAlone) {
+TEST_F(HostTest, the_end_of_the_program_goes_through_a_handler_that_fails_alone) {
     windows().run_alone([this] {
         later([this] { run([this] { windows().end_program(); }); });
         windows().wait(1);
@@ -118,7 +118,7 @@ TEST_F(HostTest, TheEndOfTheProgramGoesThroughAHandlerThatFailsAlone) {
     EXPECT_THAT(told, ElementsAre("ended"));
 }
 
-TEST_F(HostTest, TheReportNamesWhatTheUserHasToMend) {
+TEST_F(HostTest, the_report_names_what_the_user_has_to_mend) {
     windows().events.fault = {};
     run([] {
         RuntimeError failure(error::overflow, "Desbordamiento");
@@ -131,7 +131,7 @@ TEST_F(HostTest, TheReportNamesWhatTheUserHasToMend) {
                         "Velmora"}));
 }
 
-TEST_F(HostTest, TheReportSaysFirstThatTheShapeIsKeptAndWhere) {
+TEST_F(HostTest, the_report_says_first_that_the_shape_is_kept_and_where) {
     Forma.Pto.redim(2);
     Forma.Pto[1].X = 4;
     windows().events.fault = {};
@@ -142,7 +142,7 @@ TEST_F(HostTest, TheReportSaysFirstThatTheShapeIsKeptAndWhere) {
                                            "\n\nRun-time error '61':\n\nDisco lleno");
 }
 
-TEST_F(HostTest, AFaultAboveAModalWindowUnwindsTheHandlerThatWaits) {
+TEST_F(HostTest, a_fault_above_a_modal_window_unwinds_the_handler_that_waits) {
     bool went_on = false;
     later([this] { run([] { raise(error::type_mismatch); }); });
     run([&] {
@@ -153,7 +153,7 @@ TEST_F(HostTest, AFaultAboveAModalWindowUnwindsTheHandlerThatWaits) {
     EXPECT_FALSE(went_on);
 }
 
-TEST_F(HostTest, AModalWindowHoldsItsHandlerUntilItIsUnloaded) {
+TEST_F(HostTest, a_modal_window_holds_its_handler_until_it_is_unloaded) {
     std::vector<std::string> steps;
     later([&] {
         steps.emplace_back(windows().idle() ? "idle" : "busy");
@@ -172,26 +172,26 @@ TEST_F(HostTest, AModalWindowHoldsItsHandlerUntilItIsUnloaded) {
     EXPECT_EQ(window("Scale_xy"), nullptr);
 }
 
-TEST_F(HostTest, TheCloseBoxUnloadsAModalWindow) {
+TEST_F(HostTest, the_close_box_unloads_a_modal_window) {
     later([this] { window("Scale_xy")->close(); });
     run([this] { windows().show_modal("Scale_xy"); });
     EXPECT_THAT(told, ElementsAre("open Scale_xy", "closed Scale_xy"));
 }
 
-TEST_F(HostTest, EscIsTheCloseBoxOfADialog) {
+TEST_F(HostTest, esc_is_the_close_box_of_a_dialog) {
     later([this] { qobject_cast<QDialog*>(window("Scale_xy"))->reject(); });
     run([this] { windows().show_modal("Scale_xy"); });
     EXPECT_THAT(told, Contains("closed Scale_xy"));
 }
 
-TEST_F(HostTest, TheMainWindowsCloseBoxEndsTheProgramWithoutAQuestion) {
+TEST_F(HostTest, the_main_windows_close_box_ends_the_program_without_a_question) {
     window("Velmora")->close();
     EXPECT_THAT(told,
                 ElementsAre("closed winoptions", "closed wininfo", "closed Velmora", "ended"));
     EXPECT_THAT(dialogs().boxes, IsEmpty());
 }
 
-TEST_F(HostTest, TheProgramEndsWhenTheHandlerThatEndsItHasReturned) {
+TEST_F(HostTest, the_program_ends_when_the_handler_that_ends_it_has_returned) {
     run([this] {
         windows().end_program();
         told.emplace_back("still running");
@@ -201,7 +201,7 @@ TEST_F(HostTest, TheProgramEndsWhenTheHandlerThatEndsItHasReturned) {
     EXPECT_THAT(told, ElementsAre("still running", "yielded", "ended"));
 }
 
-TEST_F(HostTest, AnEndInsideAYieldUnwindsTheHandlerThatYields) {
+TEST_F(HostTest, an_end_inside_a_yield_unwinds_the_handler_that_yields) {
     run([this] {
         later([this] { run([this] { windows().end_program(); }); });
         windows().wait(1);
@@ -210,7 +210,7 @@ TEST_F(HostTest, AnEndInsideAYieldUnwindsTheHandlerThatYields) {
     EXPECT_THAT(told, ElementsAre("ended"));
 }
 
-TEST_F(HostTest, AYieldLetsEventsRunAndShowsTheSession) {
+TEST_F(HostTest, a_yield_lets_events_run_and_shows_the_session) {
     bool ran = false;
     run([&] {
         later([&] { ran = true; });
@@ -222,17 +222,17 @@ TEST_F(HostTest, AYieldLetsEventsRunAndShowsTheSession) {
     EXPECT_TRUE(ran);
 }
 
-TEST_F(HostTest, UnloadingWhatIsNotLoadedDoesNothing) {
+TEST_F(HostTest, unloading_what_is_not_loaded_does_nothing) {
     run([this] { windows().unload("Scale_xy"); });
     EXPECT_THAT(told, IsEmpty());
 }
 
-TEST_F(HostTest, AWindowThatNobodyHasIsAFault) {
+TEST_F(HostTest, a_window_that_nobody_has_is_a_fault) {
     run([this] { windows().show("nobody"); });
     EXPECT_THAT(told, ElementsAre("fault 424"));
 }
 
-TEST_F(HostTest, StatusAndPointerAreToldAtOnce) {
+TEST_F(HostTest, status_and_pointer_are_told_at_once) {
     windows().events.status = [this](const std::string& text) {
         told.push_back("status " + text);
     };
@@ -252,7 +252,7 @@ TEST_F(HostTest, StatusAndPointerAreToldAtOnce) {
     EXPECT_THAT(told, ElementsAre("status Cargando", "pointer 11", "pointer 0"));
 }
 
-TEST_F(HostTest, AWindowIsUnloadedFromItsOwnControlsEvent) {
+TEST_F(HostTest, a_window_is_unloaded_from_its_own_controls_event) {
     later([this] { control<QAbstractButton>("Scale_xy", "cmd_cancel").click(); });
     run([this] { windows().show_modal("Scale_xy"); });
     settle();

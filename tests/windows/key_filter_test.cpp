@@ -80,7 +80,7 @@ class KeyFilterTest : public testing::Test {
     std::unique_ptr<QLineEdit> box_ = std::make_unique<QLineEdit>();
 };
 
-TEST_F(KeyFilterTest, DigitsComeInByEveryWay) {
+TEST_F(KeyFilterTest, digits_come_in_by_every_way) {
     QTest::keyClick(&box(), Qt::Key_5);
     compose("6");
     paste("78");
@@ -91,7 +91,7 @@ TEST_F(KeyFilterTest, DigitsComeInByEveryWay) {
     EXPECT_TRUE(refused.empty());
 }
 
-TEST_F(KeyFilterTest, WhatIsTakenInsteadComesInByEveryWay) {
+TEST_F(KeyFilterTest, what_is_taken_instead_comes_in_by_every_way) {
     QTest::keyClick(&box(), Qt::Key_Comma);
     compose("5,6");
     paste(",7");
@@ -101,7 +101,7 @@ TEST_F(KeyFilterTest, WhatIsTakenInsteadComesInByEveryWay) {
     EXPECT_EQ(text(), "12.5.6.7.34.8");
 }
 
-TEST_F(KeyFilterTest, ARefusedCharacterIsRefusedByEveryWay) {
+TEST_F(KeyFilterTest, a_refused_character_is_refused_by_every_way) {
     QTest::keyClick(&box(), Qt::Key_X);
     QTest::sendKeyEvent(QTest::Press, &box(), Qt::Key_E, "é", Qt::NoModifier);
     QTest::sendKeyEvent(QTest::Press, &box(), Qt::Key_unknown, "😀", Qt::NoModifier);
@@ -113,7 +113,7 @@ TEST_F(KeyFilterTest, ARefusedCharacterIsRefusedByEveryWay) {
     EXPECT_EQ(text(), "1234");
 }
 
-TEST_F(KeyFilterTest, ATextWithARefusedCharacterIsRefusedWhole) {
+TEST_F(KeyFilterTest, a_text_with_a_refused_character_is_refused_whole) {
     compose("5x6");
     paste("5x6");
     paste_by_menu("5x6");
@@ -123,7 +123,7 @@ TEST_F(KeyFilterTest, ATextWithARefusedCharacterIsRefusedWhole) {
 }
 
 // A pasted line end is no Enter, a pasted control character no Backspace.
-TEST_F(KeyFilterTest, ControlCharactersOfATextAreNoKeys) {
+TEST_F(KeyFilterTest, control_characters_of_a_text_are_no_keys) {
     for (const char* text : {"5\r", "5\n", "5\b", "\t"}) {
         refused.clear();
         paste(text);
@@ -132,7 +132,7 @@ TEST_F(KeyFilterTest, ControlCharactersOfATextAreNoKeys) {
     EXPECT_EQ(text(), "1234");
 }
 
-TEST_F(KeyFilterTest, PasteGoesOverWhatIsSelected) {
+TEST_F(KeyFilterTest, paste_goes_over_what_is_selected) {
     box().selectAll();
     paste("99");
     EXPECT_EQ(text(), "99");
@@ -141,7 +141,7 @@ TEST_F(KeyFilterTest, PasteGoesOverWhatIsSelected) {
     EXPECT_EQ(text(), "99");
 }
 
-TEST_F(KeyFilterTest, AKeyHeldWithAltTypesToo) {
+TEST_F(KeyFilterTest, a_key_held_with_alt_types_too) {
     QTest::sendKeyEvent(QTest::Press, &box(), Qt::Key_A, "a", Qt::AltModifier);
     QTest::sendKeyEvent(QTest::Press, &box(), Qt::Key_E, "€",
                         Qt::ControlModifier | Qt::AltModifier);
@@ -149,7 +149,7 @@ TEST_F(KeyFilterTest, AKeyHeldWithAltTypesToo) {
     EXPECT_EQ(text(), "1234");
 }
 
-TEST_F(KeyFilterTest, HalfAComposedCharacterIsShownAndGoesWithARefusedOne) {
+TEST_F(KeyFilterTest, half_a_composed_character_is_shown_and_goes_with_a_refused_one) {
     compose({}, "´");
     EXPECT_TRUE(refused.empty());
     compose("á");
@@ -160,7 +160,7 @@ TEST_F(KeyFilterTest, HalfAComposedCharacterIsShownAndGoesWithARefusedOne) {
     EXPECT_EQ(text(), "12534");
 }
 
-TEST_F(KeyFilterTest, EditingKeysStillWork) {
+TEST_F(KeyFilterTest, editing_keys_still_work) {
     QTest::keyClick(&box(), Qt::Key_Backspace);
     QTest::keyClick(&box(), Qt::Key_Delete);
     EXPECT_EQ(text(), "14");

@@ -24,7 +24,7 @@ class LanguagesTest : public testing::TestWithParam<const char*> {
     BareWindows windows;
 };
 
-TEST_P(LanguagesTest, EveryWindowShowsItsTextsWhole) {
+TEST_P(LanguagesTest, every_window_shows_its_texts_whole) {
     for (const std::string_view name : window_names()) {
         const auto window = make_window(name, windows.around);
         AplicaLiterales(window->form(), "");

@@ -72,7 +72,7 @@ class LookTest : public WindowsTest {
     QFont font_ = QApplication::font();
 };
 
-TEST_F(LookTest, NoTextIsCut) {
+TEST_F(LookTest, no_text_is_cut) {
     show_all();
     for (const std::string& name : windows_at_work()) {
         unroll(name);
@@ -81,7 +81,7 @@ TEST_F(LookTest, NoTextIsCut) {
     }
 }
 
-TEST_F(LookTest, NoTextIsCutInALongerLanguage) {
+TEST_F(LookTest, no_text_is_cut_in_a_longer_language) {
     show_all();
     for (const std::string& name : windows_at_work()) {
         lengthen_texts(name);
@@ -92,7 +92,7 @@ TEST_F(LookTest, NoTextIsCutInALongerLanguage) {
     }
 }
 
-TEST_F(LookTest, NoTextIsCutAtTwiceTheSize) {
+TEST_F(LookTest, no_text_is_cut_at_twice_the_size) {
     enlarge_font(2);
     restart();
     show_all();
@@ -103,7 +103,7 @@ TEST_F(LookTest, NoTextIsCutAtTwiceTheSize) {
     }
 }
 
-TEST_F(LookTest, TheStartWindowShowsItsTexts) {
+TEST_F(LookTest, the_start_window_shows_its_texts) {
     rebuild();
     windows().start();
     settle();
@@ -113,7 +113,7 @@ TEST_F(LookTest, TheStartWindowShowsItsTexts) {
     picture(*window("intro"), "intro");
 }
 
-TEST_F(LookTest, NoTwoMnemonicsOfAPageClash) {
+TEST_F(LookTest, no_two_mnemonics_of_a_page_clash) {
     show_all();
     for (const std::string& name : windows_at_work()) {
         unroll(name);
@@ -121,7 +121,7 @@ TEST_F(LookTest, NoTwoMnemonicsOfAPageClash) {
     }
 }
 
-TEST_F(LookTest, WhateverTakesTheFocusHasAName) {
+TEST_F(LookTest, whatever_takes_the_focus_has_a_name) {
     show_all();
     for (const std::string& name : windows_at_work()) {
         unroll(name);

@@ -28,13 +28,13 @@ class MainWindowTest : public CanvasTest {
     }
 };
 
-TEST_F(MainWindowTest, TheListShowsARowForEachPoint) {
+TEST_F(MainWindowTest, the_list_shows_a_row_for_each_point) {
     ASSERT_EQ(list().model()->rowCount(), 4);
     EXPECT_EQ(row(1), "1: 10  0");
     EXPECT_EQ(row(3), "3: 0  10");
 }
 
-TEST_F(MainWindowTest, AClickOnARowSelectsItsPointAndGivesTheCanvasTheFocus) {
+TEST_F(MainWindowTest, a_click_on_a_row_selects_its_point_and_gives_the_canvas_the_focus) {
     list().setFocus();
     click_row(2);
     EXPECT_EQ(session.PtoSel, 2);
@@ -43,7 +43,7 @@ TEST_F(MainWindowTest, AClickOnARowSelectsItsPointAndGivesTheCanvasTheFocus) {
     EXPECT_EQ(session.PtoSel, 3);
 }
 
-TEST_F(MainWindowTest, KeysThatMoveInTheListSelectTheirPointsAndStayInIt) {
+TEST_F(MainWindowTest, keys_that_move_in_the_list_select_their_points_and_stay_in_it) {
     click_row(0);
     list().setFocus();
     struct Step {
@@ -61,7 +61,7 @@ TEST_F(MainWindowTest, KeysThatMoveInTheListSelectTheirPointsAndStayInIt) {
     EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {10, 10}, {0, 10}}));
 }
 
-TEST_F(MainWindowTest, AKeyThatMovesInTheListShowsTheSelection) {
+TEST_F(MainWindowTest, a_key_that_moves_in_the_list_shows_the_selection) {
     click_row(0);
     list().setFocus();
     const QImage before = pic().grab().toImage();
@@ -70,7 +70,7 @@ TEST_F(MainWindowTest, AKeyThatMovesInTheListShowsTheSelection) {
 }
 
 // The row has the list's mark from the arrival of the focus on, without being chosen.
-TEST_F(MainWindowTest, TheFirstKeyInTheListCanChooseTheFirstRow) {
+TEST_F(MainWindowTest, the_first_key_in_the_list_can_choose_the_first_row) {
     session.PtoSel = 2;
     list().setFocus();
     EXPECT_EQ(session.PtoSel, 2);
@@ -79,7 +79,7 @@ TEST_F(MainWindowTest, TheFirstKeyInTheListCanChooseTheFirstRow) {
     EXPECT_TRUE(list().hasFocus());
 }
 
-TEST_F(MainWindowTest, EnterOnARowIsAClickOnIt) {
+TEST_F(MainWindowTest, enter_on_a_row_is_a_click_on_it) {
     for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
         click_row(1);
         list().setFocus();
@@ -90,7 +90,7 @@ TEST_F(MainWindowTest, EnterOnARowIsAClickOnIt) {
     }
 }
 
-TEST_F(MainWindowTest, AKeyOnAStaleRowRefreshesTheListAndKeepsTheSelection) {
+TEST_F(MainWindowTest, a_key_on_a_stale_row_refreshes_the_list_and_keeps_the_selection) {
     click_row(2);
     list().setFocus();
     Forma.Pto.redim_keep(2);
@@ -101,7 +101,7 @@ TEST_F(MainWindowTest, AKeyOnAStaleRowRefreshesTheListAndKeepsTheSelection) {
     EXPECT_TRUE(list().hasFocus());
 }
 
-TEST_F(MainWindowTest, AStaleRowRefreshesTheListAndKeepsTheSelection) {
+TEST_F(MainWindowTest, a_stale_row_refreshes_the_list_and_keeps_the_selection) {
     Forma.Pto.redim_keep(2);
     session.PtoSel = 1;
     click_row(3);
@@ -109,13 +109,13 @@ TEST_F(MainWindowTest, AStaleRowRefreshesTheListAndKeepsTheSelection) {
     EXPECT_EQ(list().model()->rowCount(), 3);
 }
 
-TEST_F(MainWindowTest, AListThatShrankUnderTheViewIsNotReadBeyondItsEnd) {
+TEST_F(MainWindowTest, a_list_that_shrank_under_the_view_is_not_read_beyond_its_end) {
     session.Velmora.Lst_Coords.clear(); // a handler runs, the view does not know yet
     EXPECT_EQ(list().model()->rowCount(), 4);
     EXPECT_EQ(row(3), "");
 }
 
-TEST_F(MainWindowTest, TheEndKeyGoesToTheLastOfManyRows) {
+TEST_F(MainWindowTest, the_end_key_goes_to_the_last_of_many_rows) {
     Forma.Pto.redim(99999);
     windows().run([] { Carga_List_Coords("NEWFILE"); });
     settle();
@@ -126,17 +126,17 @@ TEST_F(MainWindowTest, TheEndKeyGoesToTheLastOfManyRows) {
               list().currentIndex());
 }
 
-TEST_F(MainWindowTest, TheCanvasIs2000PixelsASide) {
+TEST_F(MainWindowTest, the_canvas_is2000_pixels_a_side) {
     EXPECT_EQ(pic().size(), QSize(2000, 2000));
 }
 
-TEST_F(MainWindowTest, TheWindowStandsOnTheScreenWithItsFrame) {
+TEST_F(MainWindowTest, the_window_stands_on_the_screen_with_its_frame) {
     const QWidget& main = *window("Velmora");
     ASSERT_NE(main.frameGeometry().size(), main.size()) << "a frame is needed to see it";
     EXPECT_TRUE(main.screen()->availableGeometry().contains(main.frameGeometry()));
 }
 
-TEST_F(MainWindowTest, PointerAndKeysReachTheCanvas) {
+TEST_F(MainWindowTest, pointer_and_keys_reach_the_canvas) {
     QTest::mouseClick(&pic(), Qt::LeftButton, {}, place(10, 10));
     EXPECT_EQ(session.PtoSel, 2);
     EXPECT_TRUE(pic().hasFocus());
@@ -150,14 +150,14 @@ TEST_F(MainWindowTest, PointerAndKeysReachTheCanvas) {
     EXPECT_EQ(Forma.Pto[2].Y, 10.1);
 }
 
-TEST_F(MainWindowTest, CtrlIsKnownWhileItIsDown) {
+TEST_F(MainWindowTest, ctrl_is_known_while_it_is_down) {
     QTest::keyPress(&pic(), Qt::Key_Control);
     EXPECT_NE(session.CtrlDown, False);
     QTest::keyRelease(&pic(), Qt::Key_Control);
     EXPECT_EQ(session.CtrlDown, False);
 }
 
-TEST_F(MainWindowTest, TheLabelShowsThePointUnderThePointerBelowIt) {
+TEST_F(MainWindowTest, the_label_shows_the_point_under_the_pointer_below_it) {
     const auto& label = control<QLabel>("Velmora", "lbl_xyfloat");
     EXPECT_FALSE(label.isVisible());
     move_to(place(10, 10));
@@ -169,7 +169,7 @@ TEST_F(MainWindowTest, TheLabelShowsThePointUnderThePointerBelowIt) {
     EXPECT_FALSE(label.isVisible());
 }
 
-TEST_F(MainWindowTest, TheLabelGoesWithTheShapeThatItToldOf) {
+TEST_F(MainWindowTest, the_label_goes_with_the_shape_that_it_told_of) {
     const auto& label = control<QLabel>("Velmora", "lbl_xyfloat");
     for (const char* command : {"mnu_openfile", "mnu_closefile"}) {
         open_shape({{0, 0}, {10, 0}, {10, 10}, {0, 10}});
@@ -180,7 +180,7 @@ TEST_F(MainWindowTest, TheLabelGoesWithTheShapeThatItToldOf) {
     }
 }
 
-TEST_F(MainWindowTest, TheLabelGoesWhenAnotherShapeComes) {
+TEST_F(MainWindowTest, the_label_goes_when_another_shape_comes) {
     const auto& label = control<QLabel>("Velmora", "lbl_xyfloat");
     move_to(place(10, 10));
     ASSERT_TRUE(label.isVisible());
@@ -188,26 +188,26 @@ TEST_F(MainWindowTest, TheLabelGoesWhenAnotherShapeComes) {
     EXPECT_FALSE(label.isVisible());
 }
 
-TEST_F(MainWindowTest, ARightClickOnAPointOpensItsMenuWithWhatItAllows) {
+TEST_F(MainWindowTest, a_right_click_on_a_point_opens_its_menu_with_what_it_allows) {
     QTest::mouseClick(&pic(), Qt::RightButton, {}, place(10, 0));
     EXPECT_EQ(session.PtoSel, 1);
     EXPECT_TRUE(window("Velmora")->findChild<QMenu*>("OPT_PTO")->isVisible());
     EXPECT_FALSE(control<QAction>("Velmora", "Pts_To_Next_Sinc").isEnabled());
 }
 
-TEST_F(MainWindowTest, AnEntryOfThePointMenuWorksWithoutTheMenuBeingOpen) {
+TEST_F(MainWindowTest, an_entry_of_the_point_menu_works_without_the_menu_being_open) {
     session.PtoSel = 2;
     control<QAction>("Velmora", "Set_00").trigger();
     EXPECT_EQ(Forma.Pto[2].X, 0);
     EXPECT_EQ(Forma.Pto[0].X, -10);
 }
 
-TEST_F(MainWindowTest, APositiveShapeOpensAtTheLowerLeft) {
+TEST_F(MainWindowTest, a_positive_shape_opens_at_the_lower_left) {
     EXPECT_EQ(scroll().horizontalScrollBar()->value(), 0);
     EXPECT_EQ(scroll().verticalScrollBar()->value(), scroll().verticalScrollBar()->maximum());
 }
 
-TEST_F(MainWindowTest, AShapeWithNegativesOpensFurtherIn) {
+TEST_F(MainWindowTest, a_shape_with_negatives_opens_further_in) {
     Forma.Pto[0] = {-5, -5};
     windows().run([] { Define_Layout(); });
     const QScrollBar& across = *scroll().horizontalScrollBar();
@@ -216,7 +216,7 @@ TEST_F(MainWindowTest, AShapeWithNegativesOpensFurtherIn) {
     EXPECT_NEAR(down.value(), down.maximum() / 3.0, 0.5);
 }
 
-TEST_F(MainWindowTest, ScrollingByTheUserRepaintsUnlessNoRedrawIsSet) {
+TEST_F(MainWindowTest, scrolling_by_the_user_repaints_unless_no_redraw_is_set) {
     Forma.Pto.redim(0); // a repaint then tells that there is no shape
     session.NoRedraw = True;
     scroll().verticalScrollBar()->triggerAction(QScrollBar::SliderPageStepSub);
@@ -228,7 +228,7 @@ TEST_F(MainWindowTest, ScrollingByTheUserRepaintsUnlessNoRedrawIsSet) {
     EXPECT_EQ(dialogs().boxes.size(), 1U);
 }
 
-TEST_F(MainWindowTest, ResizingDoesNotRepaint) {
+TEST_F(MainWindowTest, resizing_does_not_repaint) {
     Forma.Pto.redim(0);
     session.NoRedraw = False;
     window("Velmora")->resize(500, 400);
@@ -236,7 +236,7 @@ TEST_F(MainWindowTest, ResizingDoesNotRepaint) {
     EXPECT_TRUE(dialogs().boxes.empty());
 }
 
-TEST_F(MainWindowTest, TheStatusIsShownWhileTheHandlerRuns) {
+TEST_F(MainWindowTest, the_status_is_shown_while_the_handler_runs) {
     windows().run([this] {
         session.Velmora.StatusBar1 = "Invirtiendo Sentido de Corte...";
         windows().status_changed();
@@ -247,7 +247,7 @@ TEST_F(MainWindowTest, TheStatusIsShownWhileTheHandlerRuns) {
     });
 }
 
-TEST_F(MainWindowTest, MoveShapeShowsTheUpArrowOnTheCanvas) {
+TEST_F(MainWindowTest, move_shape_shows_the_up_arrow_on_the_canvas) {
     session.Velmora.pic_MousePointer = 10;
     windows().refresh();
     EXPECT_EQ(pic().cursor().shape(), Qt::UpArrowCursor);
@@ -256,7 +256,7 @@ TEST_F(MainWindowTest, MoveShapeShowsTheUpArrowOnTheCanvas) {
     EXPECT_EQ(pic().cursor().shape(), Qt::ArrowCursor);
 }
 
-TEST_F(MainWindowTest, AMinimizedWindowIsKnownToTheSession) {
+TEST_F(MainWindowTest, a_minimized_window_is_known_to_the_session) {
     window("Velmora")->showMinimized();
     settle();
     EXPECT_TRUE(session.Velmora.minimized);

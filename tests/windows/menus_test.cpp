@@ -35,7 +35,7 @@ class MenusTest : public WindowsTest {
     }
 };
 
-TEST_F(MenusTest, TheMenuBarHoldsTheTopMenusAndNotThePopUp) {
+TEST_F(MenusTest, the_menu_bar_holds_the_top_menus_and_not_the_pop_up) {
     std::vector<std::string> names;
     for (const QAction* action : window("Velmora")->findChild<QMenuBar*>()->actions())
         names.push_back(action->objectName().toStdString());
@@ -43,7 +43,7 @@ TEST_F(MenusTest, TheMenuBarHoldsTheTopMenusAndNotThePopUp) {
                                    "mnu_ver", "mnu_hlp"));
 }
 
-TEST_F(MenusTest, EachMenuHoldsItsRowsInOrder) {
+TEST_F(MenusTest, each_menu_holds_its_rows_in_order) {
     std::map<std::string_view, int> next;
     for (const MenuEntry& row : menu_entries()) {
         if (row.menu.empty())
@@ -63,7 +63,7 @@ TEST_F(MenusTest, EachMenuHoldsItsRowsInOrder) {
         EXPECT_EQ(menu(name).actions().size(), count) << name;
 }
 
-TEST_F(MenusTest, CompensationAndTheHeadOfThePopUpStayHidden) {
+TEST_F(MenusTest, compensation_and_the_head_of_the_pop_up_stay_hidden) {
     EXPECT_FALSE(entry("mnu_paralela").isVisible());
     EXPECT_FALSE(entry("ptss").isVisible());
     session.Velmora.menus["mnu_paralela"].visible = true;
@@ -71,7 +71,7 @@ TEST_F(MenusTest, CompensationAndTheHeadOfThePopUpStayHidden) {
     EXPECT_FALSE(entry("mnu_paralela").isVisible());
 }
 
-TEST_F(MenusTest, NoTwoEntriesShareAShortcut) {
+TEST_F(MenusTest, no_two_entries_share_a_shortcut) {
     std::set<QString> seen;
     for (const QAction* action : window("Velmora")->findChildren<QAction*>()) {
         const QString keys = action->shortcut().toString();
@@ -82,7 +82,7 @@ TEST_F(MenusTest, NoTwoEntriesShareAShortcut) {
     EXPECT_EQ(seen.size(), static_cast<std::size_t>(with_keys));
 }
 
-TEST_F(MenusTest, EachBarHoldsItsKeysWithTipAndIcon) {
+TEST_F(MenusTest, each_bar_holds_its_keys_with_tip_and_icon) {
     std::map<std::string_view, int> next;
     for (const ToolKey& key : tool_keys()) {
         const auto& bar = control<QToolBar>("Velmora", key.bar);
@@ -95,7 +95,7 @@ TEST_F(MenusTest, EachBarHoldsItsKeysWithTipAndIcon) {
     }
 }
 
-TEST_F(MenusTest, IconsStandOutOnLightAndDarkWindows) {
+TEST_F(MenusTest, icons_stand_out_on_light_and_dark_windows) {
     const auto lightness = [this] {
         const QImage image = entry("K_OPEN").icon().pixmap(24, 24).toImage();
         int lightest = 0;
@@ -113,7 +113,7 @@ TEST_F(MenusTest, IconsStandOutOnLightAndDarkWindows) {
     EXPECT_GT(lightness(), 200);
 }
 
-TEST_F(MenusTest, TheConnectionEnablesAndDisablesItsEntries) {
+TEST_F(MenusTest, the_connection_enables_and_disables_its_entries) {
     EXPECT_FALSE(entry("mnu_capture").isEnabled()); // no CAD runs
     EXPECT_FALSE(entry("menu_select_orig").isEnabled());
     EXPECT_FALSE(entry("mnu_SendToCad").isEnabled());
@@ -123,7 +123,7 @@ TEST_F(MenusTest, TheConnectionEnablesAndDisablesItsEntries) {
     EXPECT_TRUE(entry("mnu_capture").isEnabled());
 }
 
-TEST_F(MenusTest, RecentFilesStandInTheFileMenu) {
+TEST_F(MenusTest, recent_files_stand_in_the_file_menu) {
     EXPECT_FALSE(entry("mnuRecentFileSep").isVisible());
     EXPECT_FALSE(entry("mnuRecentFile(1)").isVisible());
     session.Velmora.mnuRecentFileSep_visible = true;
@@ -135,7 +135,7 @@ TEST_F(MenusTest, RecentFilesStandInTheFileMenu) {
     EXPECT_FALSE(entry("mnuRecentFile(2)").isVisible());
 }
 
-TEST_F(MenusTest, ShortcutsWorkWhereverTheFocusIsInTheMainWindow) {
+TEST_F(MenusTest, shortcuts_work_wherever_the_focus_is_in_the_main_window) {
     Forma.Pto.redim(1);
     Forma.Pto[0] = {1, 2};
     Forma.Pto[1] = {3, 4};
@@ -150,7 +150,7 @@ TEST_F(MenusTest, ShortcutsWorkWhereverTheFocusIsInTheMainWindow) {
 }
 
 // In a text box the desktop's Ctrl+A would select the text; the menu's comes first, on purpose.
-TEST_F(MenusTest, CtrlAOpensAFileFromEveryControlOfTheMainWindow) {
+TEST_F(MenusTest, ctrl_a_opens_a_file_from_every_control_of_the_main_window) {
     std::size_t opened = 0;
     for (const char* name : {"pic", "Lst_Coords", "TxtDescDat", "TxtDat_File"}) {
         auto& focused = control<QWidget>("Velmora", name);
@@ -161,7 +161,7 @@ TEST_F(MenusTest, CtrlAOpensAFileFromEveryControlOfTheMainWindow) {
     }
 }
 
-TEST_F(MenusTest, ThePopUpOpensBehindTheHandlerAndClosesForTheNext) {
+TEST_F(MenusTest, the_pop_up_opens_behind_the_handler_and_closes_for_the_next) {
     windows().run([this] {
         windows().popup_menu("OPT_PTO");
         EXPECT_FALSE(menu("OPT_PTO").isVisible());

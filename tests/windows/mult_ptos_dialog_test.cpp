@@ -28,7 +28,7 @@ class MultPtosDialogTest : public DialogsTest {
     }
 };
 
-TEST_F(MultPtosDialogTest, OpensWithTheCountAndTheFactor2) {
+TEST_F(MultPtosDialogTest, opens_with_the_count_and_the_factor2) {
     in_window([this] {
         EXPECT_EQ(control<QLabel>("Mult_Ptos", "Lbl_NPoints").text(), "Nº de puntos actual : 3");
         EXPECT_EQ(factor().currentText(), "2");
@@ -39,7 +39,7 @@ TEST_F(MultPtosDialogTest, OpensWithTheCountAndTheFactor2) {
     });
 }
 
-TEST_F(MultPtosDialogTest, KeepsItsDesignTextsInEveryLanguage) {
+TEST_F(MultPtosDialogTest, keeps_its_design_texts_in_every_language) {
     session.Idioma = "I";
     in_window([this] {
         EXPECT_EQ(window("Mult_Ptos")->windowTitle(), "Multiplicar Puntos de la Forma");
@@ -48,14 +48,14 @@ TEST_F(MultPtosDialogTest, KeepsItsDesignTextsInEveryLanguage) {
     EXPECT_THAT(told, ElementsAre("open Mult_Ptos", "closed Mult_Ptos"));
 }
 
-TEST_F(MultPtosDialogTest, OpensAgainOverItsOwnTable) {
+TEST_F(MultPtosDialogTest, opens_again_over_its_own_table) {
     in_window([] {});
     in_window([this] {
         EXPECT_EQ(control<QLabel>("Mult_Ptos", "Lbl_NPoints").text(), "Nº de puntos actual : 3");
     });
 }
 
-TEST_F(MultPtosDialogTest, ATypedFactorMultiplies) {
+TEST_F(MultPtosDialogTest, a_typed_factor_multiplies) {
     in_window([this] {
         type_factor("4");
         EXPECT_EQ(session.Mult_Ptos.Combo1, "4");
@@ -64,7 +64,7 @@ TEST_F(MultPtosDialogTest, ATypedFactorMultiplies) {
     EXPECT_EQ(shape().size(), 12U);
 }
 
-TEST_F(MultPtosDialogTest, ATypedFactorIsNotCompletedToAnEntryOfTheList) {
+TEST_F(MultPtosDialogTest, a_typed_factor_is_not_completed_to_an_entry_of_the_list) {
     in_window([this] {
         type_factor("1");
         EXPECT_EQ(factor().currentText(), "1");
@@ -74,7 +74,7 @@ TEST_F(MultPtosDialogTest, ATypedFactorIsNotCompletedToAnEntryOfTheList) {
     EXPECT_EQ(shape(), (Points{{0, 0}, {4, 0}, {4, 4}}));
 }
 
-TEST_F(MultPtosDialogTest, AFactorWithoutAWholePartLeavesTheWindowOpen) {
+TEST_F(MultPtosDialogTest, a_factor_without_a_whole_part_leaves_the_window_open) {
     in_window([this] {
         factor().lineEdit()->setText("0.4"); // the digits alone pass a 0 on the way
         ok().click();
@@ -84,7 +84,7 @@ TEST_F(MultPtosDialogTest, AFactorWithoutAWholePartLeavesTheWindowOpen) {
     EXPECT_THAT(told, ElementsAre("open Mult_Ptos", "closed Mult_Ptos"));
 }
 
-TEST_F(MultPtosDialogTest, EnterInTheListIsOk) {
+TEST_F(MultPtosDialogTest, enter_in_the_list_is_ok) {
     in_window([this] {
         type_factor("3");
         QTest::keyClick(&factor(), Qt::Key_Return);
@@ -94,7 +94,7 @@ TEST_F(MultPtosDialogTest, EnterInTheListIsOk) {
     EXPECT_EQ(shape().size(), 9U);
 }
 
-TEST_F(MultPtosDialogTest, AFactorBeyond1000ClearsTheBox) {
+TEST_F(MultPtosDialogTest, a_factor_beyond1000_clears_the_box) {
     in_window([this] {
         type_factor("1000");
         EXPECT_TRUE(ok().isEnabled());
@@ -104,7 +104,7 @@ TEST_F(MultPtosDialogTest, AFactorBeyond1000ClearsTheBox) {
     });
 }
 
-TEST_F(MultPtosDialogTest, AnEntryOfTheListMultiplies) {
+TEST_F(MultPtosDialogTest, an_entry_of_the_list_multiplies) {
     in_window([this] {
         QTest::keyClick(&factor(), Qt::Key_Down);
         EXPECT_EQ(factor().currentText(), "3");
@@ -113,7 +113,7 @@ TEST_F(MultPtosDialogTest, AnEntryOfTheListMultiplies) {
     EXPECT_EQ(shape().size(), 9U);
 }
 
-TEST_F(MultPtosDialogTest, EscLeavesTheShape) {
+TEST_F(MultPtosDialogTest, esc_leaves_the_shape) {
     in_window([this] {
         QTest::keyClick(window("Mult_Ptos"), Qt::Key_Escape);
         settle();

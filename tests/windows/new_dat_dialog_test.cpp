@@ -26,7 +26,7 @@ class NewDatDialogTest : public DialogsTest {
     }
 };
 
-TEST_F(NewDatDialogTest, OpensAtTheFiguresWithNothingPicked) {
+TEST_F(NewDatDialogTest, opens_at_the_figures_with_nothing_picked) {
     in_window([this] {
         picture(*window("New_Dat"), "New_Dat");
         EXPECT_TRUE(part<QRadioButton>("SSOpt_predef").isChecked());
@@ -39,7 +39,7 @@ TEST_F(NewDatDialogTest, OpensAtTheFiguresWithNothingPicked) {
     EXPECT_THAT(told, ElementsAre("open New_Dat", "closed New_Dat"));
 }
 
-TEST_F(NewDatDialogTest, TabRunsThroughTheChoiceThatIsInForce) {
+TEST_F(NewDatDialogTest, tab_runs_through_the_choice_that_is_in_force) {
     in_window([this] {
         EXPECT_THAT(tab_order(part<QRadioButton>("SSOpt_predef")),
                     ElementsAre("SSOpt_predef", "Picture1_0", "Picture1_1", "Picture1_2",
@@ -53,7 +53,7 @@ TEST_F(NewDatDialogTest, TabRunsThroughTheChoiceThatIsInForce) {
     });
 }
 
-TEST_F(NewDatDialogTest, EnterPicksTheTileWithTheFocusAndShowsWhereItIs) {
+TEST_F(NewDatDialogTest, enter_picks_the_tile_with_the_focus_and_shows_where_it_is) {
     in_window([this] {
         auto& tile = part<QToolButton>("Picture1(1)");
         const QImage before = tile.grab().toImage();
@@ -69,7 +69,7 @@ TEST_F(NewDatDialogTest, EnterPicksTheTileWithTheFocusAndShowsWhereItIs) {
     });
 }
 
-TEST_F(NewDatDialogTest, AClickedTileNamesItsFigureAndOkMakesIt) {
+TEST_F(NewDatDialogTest, a_clicked_tile_names_its_figure_and_ok_makes_it) {
     in_window([this] {
         QTest::mouseClick(&part<QToolButton>("Picture1(1)"), Qt::LeftButton);
         EXPECT_EQ(part<QLineEdit>("Txt_Shape").text(), "Triángulo");
@@ -79,7 +79,7 @@ TEST_F(NewDatDialogTest, AClickedTileNamesItsFigureAndOkMakesIt) {
     EXPECT_EQ(shape(), (Points{{0, 0, 1}, {1, 0}, {1, 1}}));
 }
 
-TEST_F(NewDatDialogTest, TheSpaceBarPicksTheCircle) {
+TEST_F(NewDatDialogTest, the_space_bar_picks_the_circle) {
     dialogs().inputs = {"6"};
     in_window([this] {
         QTest::keyClick(&part<QToolButton>("Picture1(2)"), Qt::Key_Space);
@@ -91,7 +91,7 @@ TEST_F(NewDatDialogTest, TheSpaceBarPicksTheCircle) {
     EXPECT_EQ(shape().size(), 6U);
 }
 
-TEST_F(NewDatDialogTest, GoingToTheOtherChoiceAndBackForgetsTheTile) {
+TEST_F(NewDatDialogTest, going_to_the_other_choice_and_back_forgets_the_tile) {
     in_window([this] {
         part<QToolButton>("Picture1(0)").click();
         part<QRadioButton>("SSOpt_create").click();
@@ -103,7 +103,7 @@ TEST_F(NewDatDialogTest, GoingToTheOtherChoiceAndBackForgetsTheTile) {
     });
 }
 
-TEST_F(NewDatDialogTest, AStartPickedByHandIsTheFirstPoint) {
+TEST_F(NewDatDialogTest, a_start_picked_by_hand_is_the_first_point) {
     in_window([this] {
         part<QRadioButton>("SSOpt_create").click();
         part<QRadioButton>("Option1").click();
@@ -114,7 +114,7 @@ TEST_F(NewDatDialogTest, AStartPickedByHandIsTheFirstPoint) {
     EXPECT_EQ(session.PtosToInsertMode, True);
 }
 
-TEST_F(NewDatDialogTest, EscLeavesTheDocument) {
+TEST_F(NewDatDialogTest, esc_leaves_the_document) {
     set_shape({{3, 3}, {4, 4}});
     in_window([this] {
         part<QToolButton>("Picture1(0)").click();

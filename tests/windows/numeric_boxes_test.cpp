@@ -83,7 +83,7 @@ class NumericBoxesTest : public WindowsTest {
     }
 };
 
-TEST_F(NumericBoxesTest, RefuseByEveryWayWhatTheyRefuseAsAKey) {
+TEST_F(NumericBoxesTest, refuse_by_every_way_what_they_refuse_as_a_key) {
     for (const Box& box : kBoxes) {
         SCOPED_TRACE(std::string(box.window) + "." + box.name);
         if (window(box.window) == nullptr || !window(box.window)->isVisible())
@@ -95,7 +95,7 @@ TEST_F(NumericBoxesTest, RefuseByEveryWayWhatTheyRefuseAsAKey) {
     }
 }
 
-TEST_F(NumericBoxesTest, TakeAPastedNumber) {
+TEST_F(NumericBoxesTest, take_a_pasted_number) {
     show("Scale_xy");
     QApplication::clipboard()->setText("12,5");
     auto& box = control<QLineEdit>("Scale_xy", "txt_fixed_x");
@@ -107,7 +107,7 @@ TEST_F(NumericBoxesTest, TakeAPastedNumber) {
 }
 
 // What a dead key and a letter make was read by the program as no number, which ended it.
-TEST_F(NumericBoxesTest, AComposedLetterDoesNotReachTheStoredSettings) {
+TEST_F(NumericBoxesTest, a_composed_letter_does_not_reach_the_stored_settings) {
     show("setup");
     auto& zoom = control<QLineEdit>("setup", "Txt_Def_zoom_Val");
     zoom.setText("100");

@@ -29,7 +29,7 @@ class PointMenuTest : public CanvasTest {
     }
 };
 
-TEST_F(PointMenuTest, HoldsItsEntriesInOrder) {
+TEST_F(PointMenuTest, holds_its_entries_in_order) {
     QStringList names;
     for (const QAction* action : menu().actions())
         if (action->isVisible())
@@ -41,12 +41,12 @@ TEST_F(PointMenuTest, HoldsItsEntriesInOrder) {
                                   "Set_00", "set_10", "set_x0", "-", "Move_Shape", "Rotate"}));
 }
 
-TEST_F(PointMenuTest, ARightClickBesideThePointsOpensNothing) {
+TEST_F(PointMenuTest, a_right_click_beside_the_points_opens_nothing) {
     QTest::mouseClick(&pic(), Qt::RightButton, {}, place(5, 5));
     EXPECT_FALSE(menu().isVisible());
 }
 
-TEST_F(PointMenuTest, EscClosesItAndKeepsTheNewSelection) {
+TEST_F(PointMenuTest, esc_closes_it_and_keeps_the_new_selection) {
     QTest::mouseClick(&pic(), Qt::RightButton, {}, place(10, 10));
     QTest::keyClick(&menu(), Qt::Key_Escape);
     EXPECT_FALSE(menu().isVisible());
@@ -54,7 +54,7 @@ TEST_F(PointMenuTest, EscClosesItAndKeepsTheNewSelection) {
     EXPECT_EQ(shape().size(), 4U);
 }
 
-TEST_F(PointMenuTest, TheMenuKeyOpensItForTheSelectedPoint) {
+TEST_F(PointMenuTest, the_menu_key_opens_it_for_the_selected_point) {
     session.PtoSel = 2;
     QContextMenuEvent key(QContextMenuEvent::Keyboard, {}, {});
     QCoreApplication::sendEvent(&pic(), &key);
@@ -66,13 +66,13 @@ TEST_F(PointMenuTest, TheMenuKeyOpensItForTheSelectedPoint) {
     EXPECT_FALSE(menu().isVisible());
 }
 
-TEST_F(PointMenuTest, DeletePto) {
+TEST_F(PointMenuTest, delete_pto) {
     choose("Delete_Pto");
     EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {0, 10}}));
     EXPECT_EQ(session.PtoSel, 1);
 }
 
-TEST_F(PointMenuTest, DeleteNPtosOpensItsWindow) {
+TEST_F(PointMenuTest, delete_n_ptos_opens_its_window) {
     bool opened = false;
     QTimer::singleShot(0, [&] {
         opened = window("del_Npto") != nullptr;
@@ -83,25 +83,25 @@ TEST_F(PointMenuTest, DeleteNPtosOpensItsWindow) {
     EXPECT_TRUE(opened);
 }
 
-TEST_F(PointMenuTest, InsertPto) {
+TEST_F(PointMenuTest, insert_pto) {
     choose("Insert_Pto");
     EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {10, 5}, {10, 10}, {0, 10}}));
     EXPECT_EQ(session.PtoSel, 2);
 }
 
-TEST_F(PointMenuTest, InsertIni) {
+TEST_F(PointMenuTest, insert_ini) {
     choose("insert_ini");
     EXPECT_EQ(shape(),
               (Points{{1, 0, 1}, {10, 0}, {10, 10}, {0, 10}, {0, 0}, {10, 0}, {10, 10}, {10, 0}}));
 }
 
-TEST_F(PointMenuTest, InsertNPtosTurnsThePointToTheFront) {
+TEST_F(PointMenuTest, insert_n_ptos_turns_the_point_to_the_front) {
     choose("Insert_N_Ptos");
     EXPECT_EQ(session.PtosToInsertMode, True);
     EXPECT_EQ(shape(), (Points{{10, 10}, {0, 10}, {0, 0, 0, 1}, {10, 0}}));
 }
 
-TEST_F(PointMenuTest, InsertAndDeletePtoSinc) {
+TEST_F(PointMenuTest, insert_and_delete_pto_sinc) {
     choose("Insert_Pto_Sinc");
     EXPECT_EQ(Forma.Pto[2].Sinc, 1);
     EXPECT_EQ(session.TotalSinc, 1);
@@ -110,7 +110,7 @@ TEST_F(PointMenuTest, InsertAndDeletePtoSinc) {
     EXPECT_EQ(session.TotalSinc, 0);
 }
 
-TEST_F(PointMenuTest, PtsToNextSincTellsOnASyncPointAlone) {
+TEST_F(PointMenuTest, pts_to_next_sinc_tells_on_a_sync_point_alone) {
     QTest::mouseClick(&pic(), Qt::RightButton, {}, place(10, 10));
     EXPECT_FALSE(control<QAction>("Velmora", "Pts_To_Next_Sinc").isEnabled());
     menu().close();
@@ -121,33 +121,33 @@ TEST_F(PointMenuTest, PtsToNextSincTellsOnASyncPointAlone) {
               "Número de puntos hasta el siguiente punto de sincronismo: 3");
 }
 
-TEST_F(PointMenuTest, SetCutStart) {
+TEST_F(PointMenuTest, set_cut_start) {
     choose("Set_CutStart");
     EXPECT_EQ(shape(), (Points{{10, 10}, {0, 10}, {0, 0}, {10, 0}}));
 }
 
-TEST_F(PointMenuTest, Set00) {
+TEST_F(PointMenuTest, set00) {
     choose("Set_00");
     EXPECT_EQ(shape(), (Points{{-10, -10}, {0, -10}, {0, 0}, {-10, 0}}));
 }
 
-TEST_F(PointMenuTest, Set10) {
+TEST_F(PointMenuTest, set10) {
     choose("set_10");
     EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {1, 0}, {0, 10}}));
 }
 
-TEST_F(PointMenuTest, SetX0) {
+TEST_F(PointMenuTest, set_X0) {
     choose("set_x0");
     EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {10, 0}, {0, 10}}));
 }
 
-TEST_F(PointMenuTest, MoveShapeWaitsForThePointer) {
+TEST_F(PointMenuTest, move_shape_waits_for_the_pointer) {
     choose("Move_Shape");
     EXPECT_EQ(session.MoveShapeMode, True);
     EXPECT_EQ(pic().cursor().shape(), Qt::UpArrowCursor);
 }
 
-TEST_F(PointMenuTest, RotateAsksForTheAngle) {
+TEST_F(PointMenuTest, rotate_asks_for_the_angle) {
     dialogs().inputs = {"180"};
     choose("Rotate");
     // Straight below the pivot counts as beside it, on purpose.

@@ -44,7 +44,7 @@ class PointerTest : public CanvasTest {
     }
 };
 
-TEST_F(PointerTest, ADraggedPointFollowsThePointerAndTheListStaysBehind) {
+TEST_F(PointerTest, a_dragged_point_follows_the_pointer_and_the_list_stays_behind) {
     QTest::mousePress(&pic(), Qt::LeftButton, {}, place(10, 10));
     EXPECT_EQ(session.PtoSel, 2);
     move_to(place(11, 10), Qt::LeftButton);
@@ -58,7 +58,7 @@ TEST_F(PointerTest, ADraggedPointFollowsThePointerAndTheListStaysBehind) {
     EXPECT_EQ(session.DragPto, False);
 }
 
-TEST_F(PointerTest, ADragPaintsTheTwoSegmentsAndNothingElse) {
+TEST_F(PointerTest, a_drag_paints_the_two_segments_and_nothing_else) {
     session.ShowCoords = False;
     open_shape({{0, 0}, {40, 0}, {40, 40}, {38, 42}, {36, 40}, {0, 40}});
     session.ShowCoords = False;
@@ -74,7 +74,7 @@ TEST_F(PointerTest, ADragPaintsTheTwoSegmentsAndNothingElse) {
     QTest::mouseRelease(&pic(), Qt::LeftButton, {}, place(39, 43));
 }
 
-TEST_F(PointerTest, APressOnEmptyCanvasKeepsTheSelectionAndDragsNothing) {
+TEST_F(PointerTest, a_press_on_empty_canvas_keeps_the_selection_and_drags_nothing) {
     session.PtoSel = 1;
     QTest::mousePress(&pic(), Qt::LeftButton, {}, place(5, 5));
     move_to(place(6, 6), Qt::LeftButton);
@@ -83,7 +83,7 @@ TEST_F(PointerTest, APressOnEmptyCanvasKeepsTheSelectionAndDragsNothing) {
     EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {10, 10}, {0, 10}}));
 }
 
-TEST_F(PointerTest, TheShapeGoesWhereThePointerIsLetGo) {
+TEST_F(PointerTest, the_shape_goes_where_the_pointer_is_let_go) {
     session.PtoSel = 2;
     choose("Move_Shape");
     EXPECT_EQ(pic().cursor().shape(), Qt::UpArrowCursor);
@@ -97,7 +97,7 @@ TEST_F(PointerTest, TheShapeGoesWhereThePointerIsLetGo) {
     EXPECT_EQ(session.MoveShapeMode, False);
 }
 
-TEST_F(PointerTest, EscLeavesTheShapeWhereItIs) {
+TEST_F(PointerTest, esc_leaves_the_shape_where_it_is) {
     session.PtoSel = 2;
     choose("Move_Shape");
     EXPECT_NE(session.Velmora.StatusBar1, "");
@@ -108,7 +108,7 @@ TEST_F(PointerTest, EscLeavesTheShapeWhereItIs) {
     EXPECT_EQ(shape(), (Points{{0, 0}, {10, 0}, {10, 10}, {0, 10}}));
 }
 
-TEST_F(PointerTest, ClicksAddPointsBeforeTheSelectedOneUntilEsc) {
+TEST_F(PointerTest, clicks_add_points_before_the_selected_one_until_esc) {
     session.PtoSel = 2;
     choose("Insert_N_Ptos");
     QTest::mouseClick(&pic(), Qt::LeftButton, {}, place(12, 3));
@@ -122,7 +122,7 @@ TEST_F(PointerTest, ClicksAddPointsBeforeTheSelectedOneUntilEsc) {
     EXPECT_EQ(session.PtosToInsertMode, False);
 }
 
-TEST_F(PointerTest, ARightClickTakesTheLastPointBackAndStopsAtThree) {
+TEST_F(PointerTest, a_right_click_takes_the_last_point_back_and_stops_at_three) {
     session.PtoSel = 0;
     choose("Insert_N_Ptos");
     QTest::mouseClick(&pic(), Qt::LeftButton, {}, place(12, 3));
@@ -136,7 +136,7 @@ TEST_F(PointerTest, ARightClickTakesTheLastPointBackAndStopsAtThree) {
     EXPECT_EQ(shape().size(), 3U);
 }
 
-TEST_F(PointerTest, TheRubberBandFollowsThePointerWithoutATrail) {
+TEST_F(PointerTest, the_rubber_band_follows_the_pointer_without_a_trail) {
     session.PtoSel = 2;
     choose("Insert_N_Ptos");
     move_to(place(14, 4));
@@ -147,7 +147,7 @@ TEST_F(PointerTest, TheRubberBandFollowsThePointerWithoutATrail) {
     EXPECT_EQ(picture_now(), here);
 }
 
-TEST_F(PointerTest, TheRubberBandPaintsItsTwoSegmentsAlone) {
+TEST_F(PointerTest, the_rubber_band_paints_its_two_segments_alone) {
     open_shape({{0, 0}, {40, 0}, {40, 40}, {38, 42}, {36, 40}, {0, 40}});
     session.PtoSel = 3;
     choose("Insert_N_Ptos");

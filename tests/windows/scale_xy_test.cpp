@@ -40,7 +40,7 @@ class ScaleXyTest : public WindowsTest {
     bool enabled(const char* name) { return control<QWidget>("Scale_xy", name).isEnabled(); }
 };
 
-TEST_F(ScaleXyTest, OpensWithTheFixedModeAndTheShapesSize) {
+TEST_F(ScaleXyTest, opens_with_the_fixed_mode_and_the_shapes_size) {
     in_dialog([this] {
         EXPECT_TRUE(option("Opt_fixed").isChecked());
         EXPECT_FALSE(option("Opt_percent").isChecked());
@@ -54,7 +54,7 @@ TEST_F(ScaleXyTest, OpensWithTheFixedModeAndTheShapesSize) {
     });
 }
 
-TEST_F(ScaleXyTest, EachModeEnablesItsFrame) {
+TEST_F(ScaleXyTest, each_mode_enables_its_frame) {
     in_dialog([this] {
         option("Opt_percent").click();
         EXPECT_FALSE(enabled("frm_fixed"));
@@ -64,7 +64,7 @@ TEST_F(ScaleXyTest, EachModeEnablesItsFrame) {
     });
 }
 
-TEST_F(ScaleXyTest, OkNeedsTwoNumbersThatAreNotZero) {
+TEST_F(ScaleXyTest, ok_needs_two_numbers_that_are_not_zero) {
     in_dialog([this] {
         box("txt_fixed_y").setText("0");
         EXPECT_FALSE(ok().isEnabled());
@@ -73,7 +73,7 @@ TEST_F(ScaleXyTest, OkNeedsTwoNumbersThatAreNotZero) {
     });
 }
 
-TEST_F(ScaleXyTest, ACommaTypesAPointAndAnyOtherKeyIsRefused) {
+TEST_F(ScaleXyTest, a_comma_types_a_point_and_any_other_key_is_refused) {
     in_dialog([this] {
         box("txt_fixed_x").clear();
         QTest::keyClicks(&box("txt_fixed_x"), "2,5");
@@ -85,7 +85,7 @@ TEST_F(ScaleXyTest, ACommaTypesAPointAndAnyOtherKeyIsRefused) {
     });
 }
 
-TEST_F(ScaleXyTest, OkScalesAndTheDialogStaysForMore) {
+TEST_F(ScaleXyTest, ok_scales_and_the_dialog_stays_for_more) {
     in_dialog([this] {
         option("Opt_percent").click();
         box("txt_percent_x").setText("200");
@@ -98,7 +98,7 @@ TEST_F(ScaleXyTest, OkScalesAndTheDialogStaysForMore) {
     });
 }
 
-TEST_F(ScaleXyTest, EnterInABoxIsNoOk) {
+TEST_F(ScaleXyTest, enter_in_a_box_is_no_ok) {
     in_dialog([this] {
         box("txt_fixed_x").setText("8");
         QTest::keyClick(&box("txt_fixed_x"), Qt::Key_Return);
@@ -107,7 +107,7 @@ TEST_F(ScaleXyTest, EnterInABoxIsNoOk) {
     });
 }
 
-TEST_F(ScaleXyTest, EnterWorksTheButtonThatHasTheFocus) {
+TEST_F(ScaleXyTest, enter_works_the_button_that_has_the_focus) {
     in_dialog([this] {
         ok().setFocus();
         QTest::keyClick(&ok(), Qt::Key_Return);

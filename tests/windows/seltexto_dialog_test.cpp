@@ -66,7 +66,7 @@ class SeltextoDialogTest : public DialogsTest {
     }
 };
 
-TEST_F(SeltextoDialogTest, OpensEmptyWithTheFocusOnTheText) {
+TEST_F(SeltextoDialogTest, opens_empty_with_the_focus_on_the_text) {
     in_window([this] {
         EXPECT_EQ(window("seltexto")->windowTitle(), "Forma desde Texto");
         EXPECT_EQ(box().text(), "");
@@ -79,7 +79,7 @@ TEST_F(SeltextoDialogTest, OpensEmptyWithTheFocusOnTheText) {
     EXPECT_THAT(told, ElementsAre("open seltexto", "closed seltexto"));
 }
 
-TEST_F(SeltextoDialogTest, EachKeyShowsTheTextAnew) {
+TEST_F(SeltextoDialogTest, each_key_shows_the_text_anew) {
     in_window([this] {
         type("l");
         EXPECT_EQ(session.seltexto.last_index, 3);
@@ -96,7 +96,7 @@ TEST_F(SeltextoDialogTest, EachKeyShowsTheTextAnew) {
     });
 }
 
-TEST_F(SeltextoDialogTest, AnEmptiedBoxKeepsThePicture) {
+TEST_F(SeltextoDialogTest, an_emptied_box_keeps_the_picture) {
     in_window([this] {
         type("l");
         const int shown = inked();
@@ -106,7 +106,7 @@ TEST_F(SeltextoDialogTest, AnEmptiedBoxKeepsThePicture) {
     });
 }
 
-TEST_F(SeltextoDialogTest, LoadMakesTheTextTheShapeAndCloses) {
+TEST_F(SeltextoDialogTest, load_makes_the_text_the_shape_and_closes) {
     in_window([this] {
         type("l");
         QTest::mouseClick(&button("cmd_load"), Qt::LeftButton);
@@ -118,7 +118,7 @@ TEST_F(SeltextoDialogTest, LoadMakesTheTextTheShapeAndCloses) {
     EXPECT_THAT(dialogs().boxes, IsEmpty());
 }
 
-TEST_F(SeltextoDialogTest, LoadWorksByItsLetterAndByEnterOnIt) {
+TEST_F(SeltextoDialogTest, load_works_by_its_letter_and_by_enter_on_it) {
     in_window([this] {
         type("l");
         QTest::keyClick(&box(),
@@ -137,7 +137,7 @@ TEST_F(SeltextoDialogTest, LoadWorksByItsLetterAndByEnterOnIt) {
     EXPECT_THAT(shape(), SizeIs(8));
 }
 
-TEST_F(SeltextoDialogTest, ExitEscAndTheCloseBoxLeaveTheShape) {
+TEST_F(SeltextoDialogTest, exit_esc_and_the_close_box_leave_the_shape) {
     const std::function<void()> ways[] = {
         [this] { QTest::mouseClick(&button("cmd_exit"), Qt::LeftButton); },
         [this] { QTest::keyClick(&box(), Qt::Key_Escape); },
@@ -155,7 +155,7 @@ TEST_F(SeltextoDialogTest, ExitEscAndTheCloseBoxLeaveTheShape) {
     }
 }
 
-TEST_F(SeltextoDialogTest, AChosenFontShowsTheTextInIt) {
+TEST_F(SeltextoDialogTest, a_chosen_font_shows_the_text_in_it) {
     in_window([this] {
         type("l");
         const int at_72 = inked();
@@ -167,7 +167,7 @@ TEST_F(SeltextoDialogTest, AChosenFontShowsTheTextInIt) {
     });
 }
 
-TEST_F(SeltextoDialogTest, ACancelledFontDialogChangesNothing) {
+TEST_F(SeltextoDialogTest, a_cancelled_font_dialog_changes_nothing) {
     in_window([this] {
         type("l");
         const int before = inked();
@@ -178,7 +178,7 @@ TEST_F(SeltextoDialogTest, ACancelledFontDialogChangesNothing) {
     });
 }
 
-TEST_F(SeltextoDialogTest, ALongTextIsReachedByTheScrollBarAndByKeys) {
+TEST_F(SeltextoDialogTest, a_long_text_is_reached_by_the_scroll_bar_and_by_keys) {
     in_window([this] {
         type("mmmmmmmmmmmm");
         QScrollBar& bar = *picture_of_text().horizontalScrollBar();
@@ -193,7 +193,7 @@ TEST_F(SeltextoDialogTest, ALongTextIsReachedByTheScrollBarAndByKeys) {
     });
 }
 
-TEST_F(SeltextoDialogTest, ATextBeyond1000EntriesShowsNothingAndItsLoadEndsTheProgram) {
+TEST_F(SeltextoDialogTest, a_text_beyond1000_entries_shows_nothing_and_its_load_ends_the_program) {
     in_window([this] {
         QApplication::clipboard()->setText(QString(250, 'l'));
         box().paste();
@@ -211,7 +211,7 @@ TEST_F(SeltextoDialogTest, ATextBeyond1000EntriesShowsNothingAndItsLoadEndsThePr
     EXPECT_EQ(shape(), kTriangle);
 }
 
-TEST_F(SeltextoDialogTest, TextsOfEveryKindBecomeAShape) {
+TEST_F(SeltextoDialogTest, texts_of_every_kind_become_a_shape) {
     for (const char16_t* text : {u"שלום", u"سلام", u"e\u0301x\u0302", u"漢字", u"lאבl", u"\u0301",
                                  u"ß€", u"\xD83D\xDE00l"}) {
         in_window([&] {
@@ -227,7 +227,7 @@ TEST_F(SeltextoDialogTest, TextsOfEveryKindBecomeAShape) {
     EXPECT_THAT(told, testing::Not(testing::Contains(testing::StartsWith("fault"))));
 }
 
-TEST_F(SeltextoDialogTest, BlanksAreNoText) {
+TEST_F(SeltextoDialogTest, blanks_are_no_text) {
     in_window([this] {
         type("   ");
         EXPECT_EQ(inked(), 0);
@@ -246,7 +246,7 @@ struct Captions {
 class SeltextoLanguages : public SeltextoDialogTest,
                           public testing::WithParamInterface<Captions> {};
 
-TEST_P(SeltextoLanguages, ItsCaptionsComeFromItsTableAndNoneIsCut) {
+TEST_P(SeltextoLanguages, its_captions_come_from_its_table_and_none_is_cut) {
     const Captions& captions = GetParam();
     session.Idioma = captions.language;
     in_window([&] {

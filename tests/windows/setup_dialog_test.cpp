@@ -43,7 +43,7 @@ class SetupDialogTest : public DialogsTest {
     }
 };
 
-TEST_F(SetupDialogTest, OpensWithTheStoredValues) {
+TEST_F(SetupDialogTest, opens_with_the_stored_values) {
     in_window([this] {
         EXPECT_EQ(part<QLineEdit>("Txt_Def_Dec_Val").text(), "6");
         EXPECT_EQ(part<QLineEdit>("Txt_Def_Arc_Val").text(), "25");
@@ -58,7 +58,7 @@ TEST_F(SetupDialogTest, OpensWithTheStoredValues) {
     EXPECT_THAT(told, ElementsAre("open setup", "closed setup"));
 }
 
-TEST_F(SetupDialogTest, OffersTheFiveLanguages) {
+TEST_F(SetupDialogTest, offers_the_five_languages) {
     in_window([this] {
         QStringList names;
         for (int i = 0; i < part<QComboBox>("Cmb_Lang").count(); ++i)
@@ -67,7 +67,7 @@ TEST_F(SetupDialogTest, OffersTheFiveLanguages) {
     });
 }
 
-TEST_F(SetupDialogTest, TabRunsThroughTheTabInFront) {
+TEST_F(SetupDialogTest, tab_runs_through_the_tab_in_front) {
     in_window([this] {
         EXPECT_THAT(tab_order(part<QLineEdit>("Txt_Def_Dec_Val")),
                     ElementsAre("Txt_Def_Dec_Val", "Txt_Def_Arc_Val", "Txt_Def_Circle_Val",
@@ -82,7 +82,7 @@ TEST_F(SetupDialogTest, TabRunsThroughTheTabInFront) {
     });
 }
 
-TEST_F(SetupDialogTest, EachColourLabelPicksItsOwnColour) {
+TEST_F(SetupDialogTest, each_colour_label_picks_its_own_colour) {
     in_window([this] {
         show_colours();
         for (const char* label : kColourLabels) {
@@ -98,7 +98,7 @@ TEST_F(SetupDialogTest, EachColourLabelPicksItsOwnColour) {
         EXPECT_EQ(colour, kGreen);
 }
 
-TEST_F(SetupDialogTest, TheKeyboardPicksAColourToo) {
+TEST_F(SetupDialogTest, the_keyboard_picks_a_colour_too) {
     in_window([this] {
         show_colours();
         dialogs().colours = {kGreen};
@@ -107,7 +107,7 @@ TEST_F(SetupDialogTest, TheKeyboardPicksAColourToo) {
     });
 }
 
-TEST_F(SetupDialogTest, TheSampleShowsAPickedColourAtOnce) {
+TEST_F(SetupDialogTest, the_sample_shows_a_picked_colour_at_once) {
     in_window([this] {
         show_colours();
         picture(*window("setup"), "setup-colours");
@@ -125,7 +125,7 @@ TEST_F(SetupDialogTest, TheSampleShowsAPickedColourAtOnce) {
     });
 }
 
-TEST_F(SetupDialogTest, OkStoresWhatWasTypedAndChosen) {
+TEST_F(SetupDialogTest, ok_stores_what_was_typed_and_chosen) {
     in_window([this] {
         part<QLineEdit>("Txt_Def_zoom_Val").selectAll();
         QTest::keyClicks(&part<QLineEdit>("Txt_Def_zoom_Val"), "750");
@@ -139,7 +139,7 @@ TEST_F(SetupDialogTest, OkStoresWhatWasTypedAndChosen) {
     EXPECT_EQ(control<QLineEdit>("winoptions", "Txt_zoom").text(), "750");
 }
 
-TEST_F(SetupDialogTest, CancelStoresNothing) {
+TEST_F(SetupDialogTest, cancel_stores_nothing) {
     const auto before = settings().values;
     in_window([this] {
         QTest::keyClick(&part<QLineEdit>("Txt_Def_Dec_Val"), Qt::Key_3);
@@ -149,7 +149,7 @@ TEST_F(SetupDialogTest, CancelStoresNothing) {
     EXPECT_EQ(session.Def_Dec, 6);
 }
 
-TEST_F(SetupDialogTest, EachBoxHasItsOwnTextAfterARefusedKey) {
+TEST_F(SetupDialogTest, each_box_has_its_own_text_after_a_refused_key) {
     in_window([this] {
         const std::pair<const char*, const char*> boxes[] = {{"Txt_Def_Dec_Val", "0"},
                                                              {"Txt_Def_Arc_Val", "3"},
@@ -163,7 +163,7 @@ TEST_F(SetupDialogTest, EachBoxHasItsOwnTextAfterARefusedKey) {
     });
 }
 
-TEST_F(SetupDialogTest, ABoxBelow3TakesTheFocusBack) {
+TEST_F(SetupDialogTest, a_box_below3_takes_the_focus_back) {
     in_window([this] {
         window("setup")->activateWindow();
         QLineEdit& arcs = part<QLineEdit>("Txt_Def_Arc_Val");

@@ -29,7 +29,7 @@ class SideWindowsTest : public WindowsTest {
     int height(const char* name) { return window(name)->height(); }
 };
 
-TEST_F(SideWindowsTest, OptionsShowTheDefaultsAndTheFlags) {
+TEST_F(SideWindowsTest, options_show_the_defaults_and_the_flags) {
     EXPECT_EQ(box("TxtPutArc").text(), "25");
     EXPECT_EQ(box("TxtPutCircle").text(), "50");
     EXPECT_EQ(box("TxtPrecision").text(), "6");
@@ -41,7 +41,7 @@ TEST_F(SideWindowsTest, OptionsShowTheDefaultsAndTheFlags) {
         EXPECT_FALSE(button(off).isChecked()) << off;
 }
 
-TEST_F(SideWindowsTest, TheOutputTypesExcludeEachOther) {
+TEST_F(SideWindowsTest, the_output_types_exclude_each_other) {
     session.Velmora.TxtDat_File = "/tmp/ala.dat";
     button("ChkSCR").click();
     EXPECT_EQ(session.GenSCR, True);
@@ -54,7 +54,7 @@ TEST_F(SideWindowsTest, TheOutputTypesExcludeEachOther) {
     EXPECT_EQ(session.FileName, "/tmp/ala.dat");
 }
 
-TEST_F(SideWindowsTest, TheOptionsThatTheLogicChoosesAreShown) {
+TEST_F(SideWindowsTest, the_options_that_the_logic_chooses_are_shown) {
     session.winoptions.ChkDATSinc = false;
     session.winoptions.ChkSCR = true;
     windows().refresh();
@@ -65,7 +65,7 @@ TEST_F(SideWindowsTest, TheOptionsThatTheLogicChoosesAreShown) {
     EXPECT_FALSE(button("ChkSCR").isChecked()) << "the last one chosen can be cleared too";
 }
 
-TEST_F(SideWindowsTest, CheckBoxesSetTheirFlags) {
+TEST_F(SideWindowsTest, check_boxes_set_their_flags) {
     button("chk_optimize").click();
     EXPECT_EQ(session.OptimizeOnGen, False);
     button("chk_Redim_Capture").click();
@@ -78,7 +78,7 @@ TEST_F(SideWindowsTest, CheckBoxesSetTheirFlags) {
     EXPECT_EQ(session.ShowPtosCtrl, False);
 }
 
-TEST_F(SideWindowsTest, ARefusedKeyShowsMessage6AndSetsTheBoxToZero) {
+TEST_F(SideWindowsTest, a_refused_key_shows_message6_and_sets_the_box_to_zero) {
     for (const char* name : {"TxtPutArc", "TxtPutCircle", "Txt_zoom"}) {
         dialogs().boxes.clear();
         QTest::keyClick(&box(name), 'x');
@@ -88,7 +88,7 @@ TEST_F(SideWindowsTest, ARefusedKeyShowsMessage6AndSetsTheBoxToZero) {
     }
 }
 
-TEST_F(SideWindowsTest, DigitsAndBackspacePass) {
+TEST_F(SideWindowsTest, digits_and_backspace_pass) {
     box("TxtPutArc").clear();
     QTest::keyClicks(&box("TxtPutArc"), "123");
     QTest::keyClick(&box("TxtPutArc"), Qt::Key_Backspace);
@@ -97,14 +97,14 @@ TEST_F(SideWindowsTest, DigitsAndBackspacePass) {
     EXPECT_TRUE(dialogs().boxes.empty());
 }
 
-TEST_F(SideWindowsTest, KeysThatMoveCopyAndPasteAreNoTyping) {
+TEST_F(SideWindowsTest, keys_that_move_copy_and_paste_are_no_typing) {
     for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Home, Qt::Key_Delete, Qt::Key_Tab})
         QTest::keyClick(&box("TxtPutArc"), key);
     QTest::keyClick(&box("TxtPutArc"), Qt::Key_C, Qt::ControlModifier);
     EXPECT_TRUE(dialogs().boxes.empty());
 }
 
-TEST_F(SideWindowsTest, EnterTakesTheZoomWithEitherSeparator) {
+TEST_F(SideWindowsTest, enter_takes_the_zoom_with_either_separator) {
     box("Txt_zoom").setText("2,5");
     QTest::keyClick(&box("Txt_zoom"), Qt::Key_Return);
     EXPECT_EQ(session.ZoomFactor, 2.5);
@@ -112,19 +112,19 @@ TEST_F(SideWindowsTest, EnterTakesTheZoomWithEitherSeparator) {
     EXPECT_NE(window("winoptions"), nullptr);
 }
 
-TEST_F(SideWindowsTest, AChangedPrecisionRoundsTheShapeWithThePrecisionInForce) {
+TEST_F(SideWindowsTest, a_changed_precision_rounds_the_shape_with_the_precision_in_force) {
     session.Precision = 2;
     box("TxtPrecision").setText("3");
     EXPECT_EQ(Forma.Pto[1].X, 1.23);
     EXPECT_EQ(session.Precision, 2);
 }
 
-TEST_F(SideWindowsTest, AZeroInThePrecisionBoxRoundsNothing) {
+TEST_F(SideWindowsTest, a_zero_in_the_precision_box_rounds_nothing) {
     box("TxtPrecision").setText("0");
     EXPECT_EQ(Forma.Pto[1].X, 1.23456789);
 }
 
-TEST_F(SideWindowsTest, InformationShowsTheFiguresAndTakesNoTyping) {
+TEST_F(SideWindowsTest, information_shows_the_figures_and_takes_no_typing) {
     session.wininfo.TxtTotalPtos = "24";
     session.wininfo.TxtAcadFile = "ALA.DWG";
     windows().refresh();
@@ -134,7 +134,7 @@ TEST_F(SideWindowsTest, InformationShowsTheFiguresAndTakesNoTyping) {
         EXPECT_TRUE(shown->isReadOnly()) << shown->objectName().toStdString();
 }
 
-TEST_F(SideWindowsTest, InformationFollowsTheDesktopsColours) {
+TEST_F(SideWindowsTest, information_follows_the_desktops_colours) {
     QPalette dark;
     dark.setColor(QPalette::Window, QColor("#202327"));
     window("wininfo")->setPalette(dark);
@@ -142,7 +142,7 @@ TEST_F(SideWindowsTest, InformationFollowsTheDesktopsColours) {
         EXPECT_EQ(shown->palette().color(QPalette::Base), QColor("#202327"));
 }
 
-TEST_F(SideWindowsTest, AWindowRollsUpWhenAnotherTakesTheActivationUnlessPinned) {
+TEST_F(SideWindowsTest, a_window_rolls_up_when_another_takes_the_activation_unless_pinned) {
     windows().activate("winoptions");
     const int unrolled = height("winoptions");
     EXPECT_GT(unrolled, 200);
@@ -157,21 +157,21 @@ TEST_F(SideWindowsTest, AWindowRollsUpWhenAnotherTakesTheActivationUnlessPinned)
     EXPECT_EQ(height("winoptions"), unrolled);
 }
 
-TEST_F(SideWindowsTest, AMessageBoxTakesNoActivation) {
+TEST_F(SideWindowsTest, a_message_box_takes_no_activation) {
     windows().activate("winoptions");
     const int unrolled = height("winoptions");
     QTest::keyClick(&box("TxtPutArc"), 'x');
     EXPECT_EQ(height("winoptions"), unrolled);
 }
 
-TEST_F(SideWindowsTest, LosingTheActivationRollsUpToo) {
+TEST_F(SideWindowsTest, losing_the_activation_rolls_up_too) {
     windows().activate("wininfo");
     EXPECT_GT(height("wininfo"), 200);
     windows().deactivate("wininfo");
     EXPECT_EQ(height("wininfo"), 1);
 }
 
-TEST_F(SideWindowsTest, TheWindowsFollowTheMainWindowsRightSide) {
+TEST_F(SideWindowsTest, the_windows_follow_the_main_windows_right_side) {
     QWidget& main = *window("Velmora");
     for (const int width : {700, 780}) {
         main.resize(width, 500);
@@ -182,7 +182,7 @@ TEST_F(SideWindowsTest, TheWindowsFollowTheMainWindowsRightSide) {
     }
 }
 
-TEST_F(SideWindowsTest, TheyStayWhereTheyAreWhileTheMainWindowIsMinimised) {
+TEST_F(SideWindowsTest, they_stay_where_they_are_while_the_main_window_is_minimised) {
     QWidget& main = *window("Velmora");
     main.resize(700, 500);
     settle();
@@ -197,7 +197,7 @@ TEST_F(SideWindowsTest, TheyStayWhereTheyAreWhileTheMainWindowIsMinimised) {
     EXPECT_NE(window("wininfo")->pos(), place);
 }
 
-TEST_F(SideWindowsTest, TheyStandBesideTheMainWindowWhereTheScreenHasRoom) {
+TEST_F(SideWindowsTest, they_stand_beside_the_main_window_where_the_screen_has_room) {
     constexpr int kEnough = 1700;
     const QRect screen = window("Velmora")->screen()->availableGeometry();
     for (const char* name : {"wininfo", "winoptions"}) {
@@ -209,14 +209,14 @@ TEST_F(SideWindowsTest, TheyStandBesideTheMainWindowWhereTheScreenHasRoom) {
     }
 }
 
-TEST_F(SideWindowsTest, TheOptionsLeaveRoomForTheOpenInformationAndItsTitle) {
+TEST_F(SideWindowsTest, the_options_leave_room_for_the_open_information_and_its_title) {
     constexpr int kTitle = 25;
     windows().activate("wininfo");
     EXPECT_GE(window("winoptions")->frameGeometry().top() - window("wininfo")->geometry().bottom(),
               kTitle);
 }
 
-TEST_F(SideWindowsTest, ShownTheyLeaveTheKeyboardWithTheMainWindow) {
+TEST_F(SideWindowsTest, shown_they_leave_the_keyboard_with_the_main_window) {
     QWidget& main = *window("Velmora");
     for (const char* name : {"wininfo", "winoptions"}) {
         for (const bool loaded : {true, false}) {
@@ -235,7 +235,7 @@ TEST_F(SideWindowsTest, ShownTheyLeaveTheKeyboardWithTheMainWindow) {
 }
 
 // It got the activation when it was shown, and keeps it until the main window is used.
-TEST_F(SideWindowsTest, ShownAWindowStaysOpenUntilTheMainWindowIsUsed) {
+TEST_F(SideWindowsTest, shown_a_window_stays_open_until_the_main_window_is_used) {
     QWidget& main = *window("Velmora");
     main.activateWindow();
     settle();
@@ -252,7 +252,7 @@ TEST_F(SideWindowsTest, ShownAWindowStaysOpenUntilTheMainWindowIsUsed) {
     EXPECT_TRUE(session.wininfo.rolled_up);
 }
 
-TEST_F(SideWindowsTest, AWindowThatTheUserWentToRollsUpWhenTheFocusLeavesIt) {
+TEST_F(SideWindowsTest, a_window_that_the_user_went_to_rolls_up_when_the_focus_leaves_it) {
     show("wininfo");
     window("wininfo")->activateWindow();
     settle();
@@ -262,7 +262,8 @@ TEST_F(SideWindowsTest, AWindowThatTheUserWentToRollsUpWhenTheFocusLeavesIt) {
     EXPECT_TRUE(session.wininfo.rolled_up);
 }
 
-TEST_F(SideWindowsTest, ShownAgainAWindowKeepsTheUsersPlaceUntilTheMainWindowIsResized) {
+TEST_F(SideWindowsTest,
+       shown_again_a_window_keeps_the_users_place_until_the_main_window_is_resized) {
     QWidget& main = *window("Velmora");
     const QPoint place(40, 70);
     for (const char* name : {"wininfo", "winoptions"}) {
@@ -283,7 +284,7 @@ TEST_F(SideWindowsTest, ShownAgainAWindowKeepsTheUsersPlaceUntilTheMainWindowIsR
     }
 }
 
-TEST_F(SideWindowsTest, AClosedSideWindowComesBackByItsMenuEntry) {
+TEST_F(SideWindowsTest, a_closed_side_window_comes_back_by_its_menu_entry) {
     told.clear();
     window("wininfo")->close();
     EXPECT_EQ(window("wininfo"), nullptr);

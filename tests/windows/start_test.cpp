@@ -22,7 +22,7 @@ class StartTest : public WindowsTest {
     QAction& entry(const char* name) { return control<QAction>("Velmora", name); }
 };
 
-TEST_F(StartTest, TheStartWindowGivesWayToTheMainOneAndTheSideWindowsFollow) {
+TEST_F(StartTest, the_start_window_gives_way_to_the_main_one_and_the_side_windows_follow) {
     start_program();
     EXPECT_THAT(told, ElementsAre("open intro", "closed intro", "open Velmora", "open wininfo",
                                   "open winoptions"));
@@ -32,7 +32,7 @@ TEST_F(StartTest, TheStartWindowGivesWayToTheMainOneAndTheSideWindowsFollow) {
     EXPECT_TRUE(session.wininfo.rolled_up);
 }
 
-TEST_F(StartTest, TheTimerIsArmedForFiveSecondsAndGivesWayToo) {
+TEST_F(StartTest, the_timer_is_armed_for_five_seconds_and_gives_way_too) {
     windows().start();
     EXPECT_EQ(timer().interval(), 5000);
     EXPECT_TRUE(timer().isActive());
@@ -41,7 +41,7 @@ TEST_F(StartTest, TheTimerIsArmedForFiveSecondsAndGivesWayToo) {
     EXPECT_THAT(told, Contains("open Velmora"));
 }
 
-TEST_F(StartTest, AClickOnThePictureOrItsTextsEndsTheStartWindow) {
+TEST_F(StartTest, a_click_on_the_picture_or_its_texts_ends_the_start_window) {
     for (const char* name : {"Image1", "Label1", "lblVelmora", "lblVer"}) {
         rebuild();
         windows().start();
@@ -52,27 +52,27 @@ TEST_F(StartTest, AClickOnThePictureOrItsTextsEndsTheStartWindow) {
     }
 }
 
-TEST_F(StartTest, AClickOnTheBuildNumberDoesNothing) {
+TEST_F(StartTest, a_click_on_the_build_number_does_nothing) {
     windows().start();
     settle();
     QTest::mouseClick(&control<QWidget>("intro", "lblsubver"), Qt::LeftButton);
     EXPECT_NE(window("intro"), nullptr);
 }
 
-TEST_F(StartTest, ClosingTheStartWindowEndsTheProgram) {
+TEST_F(StartTest, closing_the_start_window_ends_the_program) {
     windows().start();
     window("intro")->close();
     EXPECT_THAT(told, ElementsAre("open intro", "closed intro", "ended"));
 }
 
-TEST_F(StartTest, TheCaptionCarriesVersionBuildAndCredit) {
+TEST_F(StartTest, the_caption_carries_version_build_and_credit) {
     start_program();
     EXPECT_TRUE(window("Velmora")->windowTitle().startsWith("Velmora 1.0 (1011) "))
         << window("Velmora")->windowTitle().toStdString();
 }
 
 // A message has no text of its own to fall back to.
-TEST_F(StartTest, WithoutADatabaseTheWindowsHaveTheirDesignTextsAndAMessageIsAFault) {
+TEST_F(StartTest, without_a_database_the_windows_have_their_design_texts_and_a_message_is_a_fault) {
     std::filesystem::remove(path("VELMORA.MDB"));
     start_program();
     EXPECT_EQ(entry("mnu_openfile").text(), "Abrir");
@@ -83,13 +83,13 @@ TEST_F(StartTest, WithoutADatabaseTheWindowsHaveTheirDesignTextsAndAMessageIsAFa
     EXPECT_EQ(told.back(), "fault 91");
 }
 
-TEST_F(StartTest, AStoredValueThatIsNoNumberIsAFaultAtTheStart) {
+TEST_F(StartTest, a_stored_value_that_is_no_number_is_a_fault_at_the_start) {
     settings().values[{"Values", "Def_Dec"}] = "seis";
     windows().start();
     EXPECT_THAT(told, ElementsAre("fault 13"));
 }
 
-TEST_F(StartTest, StoredSettingsReachTheOptions) {
+TEST_F(StartTest, stored_settings_reach_the_options) {
     settings().values[{"Values", "Def_Zoom"}] = "12.5";
     settings().values[{"Values", "Def_Arc"}] = "9";
     start_program();
@@ -97,7 +97,7 @@ TEST_F(StartTest, StoredSettingsReachTheOptions) {
     EXPECT_EQ(session.PutArc, 9);
 }
 
-TEST_F(StartTest, TheMenusExitAsksAndTheKeyIsSilentAfterANo) {
+TEST_F(StartTest, the_menus_exit_asks_and_the_key_is_silent_after_a_no) {
     start_program();
     dialogs().boxes.clear();
     dialogs().answers = {7};

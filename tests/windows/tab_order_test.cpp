@@ -37,12 +37,12 @@ class TabOrderTest : public DialogsTest {
     }
 };
 
-TEST_F(TabOrderTest, MainWindow) {
+TEST_F(TabOrderTest, main_window) {
     EXPECT_THAT(order_in("Velmora", "TxtDat_File"),
                 ElementsAre("TxtDat_File", "TxtDescDat", "Lst_Coords", "pic"));
 }
 
-TEST_F(TabOrderTest, Setup) {
+TEST_F(TabOrderTest, setup) {
     EXPECT_THAT(order_in("setup", "Txt_Def_Dec_Val"),
                 ElementsAre("Txt_Def_Dec_Val", "Txt_Def_Arc_Val", "Txt_Def_Circle_Val",
                             "Txt_Def_zoom_Val", "Cmb_Lang", "APP_Sound", "cmd_ok", "cmd_cancel",
@@ -54,7 +54,7 @@ TEST_F(TabOrderTest, Setup) {
                             "cmd_cancel", kTabs));
 }
 
-TEST_F(TabOrderTest, Options) {
+TEST_F(TabOrderTest, options) {
     EXPECT_THAT(order_in("winoptions", "TxtPrecision"),
                 ElementsAre("TxtPrecision", "Txt_zoom", "ChkPtos", "ChkPtosCtrl", "ChkCoords",
                             "chk_winoptions", kTabs));
@@ -67,7 +67,7 @@ TEST_F(TabOrderTest, Options) {
 }
 
 // Figures that only show are visited too: they can be selected and copied.
-TEST_F(TabOrderTest, Information) {
+TEST_F(TabOrderTest, information) {
     EXPECT_THAT(order_in("wininfo", "chk_wininfo"),
                 ElementsAre("chk_wininfo", kTabs, "TxtTotalPtos", "TxtPtosSupr", "TxtTotalCtrlPtos",
                             "TxtOrigX", "TxtOrigY", "Txt_longitud", "Txt_Altura"));
@@ -77,7 +77,7 @@ TEST_F(TabOrderTest, Information) {
                             "TxtNLWPolylines", "TxtProcesed"));
 }
 
-TEST_F(TabOrderTest, Scaling) {
+TEST_F(TabOrderTest, scaling) {
     EXPECT_THAT(order_in("Scale_xy", "Opt_fixed"),
                 ElementsAre("Opt_fixed", "txt_fixed_x", "txt_fixed_y", "cmd_ok", "cmd_cancel"));
     QTest::keyClick(&control<QWidget>("Scale_xy", "Opt_fixed"), Qt::Key_Right);
@@ -86,27 +86,27 @@ TEST_F(TabOrderTest, Scaling) {
         ElementsAre("Opt_percent", "txt_percent_x", "txt_percent_y", "cmd_ok", "cmd_cancel"));
 }
 
-TEST_F(TabOrderTest, FewerPoints) {
+TEST_F(TabOrderTest, fewer_points) {
     EXPECT_THAT(order_in("del_Npto", "Txt_Numpoints2del"),
                 ElementsAre("Txt_Numpoints2del", "Txt_JumpPoints", "cmd_ok", "cmd_cancel"));
 }
 
-TEST_F(TabOrderTest, MorePoints) {
+TEST_F(TabOrderTest, more_points) {
     EXPECT_THAT(order_in("Mult_Ptos", "Combo1"), ElementsAre("Combo1", "cmd_ok", "cmd_cancel"));
 }
 
-TEST_F(TabOrderTest, Compensation) {
+TEST_F(TabOrderTest, compensation) {
     EXPECT_THAT(order_in("Compensa", "Txt_merma"), ElementsAre("Txt_merma", "cmd_cancel"));
     control<QLineEdit>("Compensa", "Txt_merma").setText("2");
     EXPECT_THAT(order_in("Compensa", "Txt_merma"),
                 ElementsAre("Txt_merma", "cmd_ok", "cmd_cancel"));
 }
 
-TEST_F(TabOrderTest, ShortcutKeys) {
+TEST_F(TabOrderTest, shortcut_keys) {
     EXPECT_THAT(order_in("teclas", "Command1"), ElementsAre("Command1"));
 }
 
-TEST_F(TabOrderTest, About) {
+TEST_F(TabOrderTest, about) {
     EXPECT_THAT(order_in("acerca", "Command1"), ElementsAre("Command1", "lbl_web", "lbl_mail"));
 }
 

@@ -65,7 +65,7 @@ void expect_rows_of(const Texts& design, const Texts& table, const std::string& 
 
 } // namespace
 
-TEST(TablesTest, EveryWindowHasItsTextsAsDesigned) {
+TEST(TablesTest, every_window_has_its_texts_as_designed) {
     const RecordingPlatform machine;
     const BareWindows windows;
     for (const std::string_view name : window_names()) {

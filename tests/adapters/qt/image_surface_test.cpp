@@ -39,7 +39,7 @@ QImage blue(int width, int height) {
     return picture;
 }
 
-TEST(ImageSurface, IsTwoThousandPixelsSquareAndShowsThemAsTheyAre) {
+TEST(ImageSurface, is_two_thousand_pixels_square_and_shows_them_as_they_are) {
     ImageSurface pic;
     EXPECT_EQ(pic.Width(), 30000);
     EXPECT_EQ(pic.Height(), 30000);
@@ -51,7 +51,7 @@ TEST(ImageSurface, IsTwoThousandPixelsSquareAndShowsThemAsTheyAre) {
     EXPECT_EQ(pic.pixel(10, 20), 0xFF0000U);
 }
 
-TEST(ImageSurface, TellsTheRectangleThatChanged) {
+TEST(ImageSurface, tells_the_rectangle_that_changed) {
     ImageSurface pic;
     std::vector<QRect> told;
     pic.changed = [&](const QRect& changed) {
@@ -67,7 +67,7 @@ TEST(ImageSurface, TellsTheRectangleThatChanged) {
     EXPECT_EQ(told.back(), QRect(0, 0, 2000, 2000));
 }
 
-TEST_F(PictureFile, OfEachKindStandsAtTheCorner) {
+TEST_F(PictureFile, of_each_kind_stands_at_the_corner) {
     const QByteArray gif =
         QByteArray::fromBase64("R0lGODlhAQABAIAAAAAA/gAAACwAAAAAAQABAAACAkQBADs=");
     for (const std::string& file :
@@ -82,7 +82,7 @@ TEST_F(PictureFile, OfEachKindStandsAtTheCorner) {
     EXPECT_EQ(pic.pixel(0, 0), 0xC8C8C8U);
 }
 
-TEST_F(PictureFile, LargerThanTheCanvasIsCut) {
+TEST_F(PictureFile, larger_than_the_canvas_is_cut) {
     QImage picture = blue(2100, 2200);
     picture.setPixel(1999, 1999, 0xFF00FF00);
     pic.set_picture(save("large.bmp", picture, "BMP"));
@@ -90,19 +90,19 @@ TEST_F(PictureFile, LargerThanTheCanvasIsCut) {
     EXPECT_EQ(pic.pixel(1998, 1999), 0x0000FEU);
 }
 
-TEST_F(PictureFile, ThatIsNotThereRaises53) {
+TEST_F(PictureFile, that_is_not_there_raises53) {
     EXPECT_EQ(error_of(folder.filePath("none.bmp").toStdString()), error::file_not_found);
     EXPECT_EQ(error_of(folder.path().toStdString()), error::file_not_found);
 }
 
-TEST_F(PictureFile, ThatIsNoPictureRaises481AndTheOldOneStays) {
+TEST_F(PictureFile, that_is_no_picture_raises481_and_the_old_one_stays) {
     pic.set_picture(save("a.bmp", blue(30, 20), "BMP"));
     EXPECT_EQ(error_of(write("text.bmp", "not a picture")), error::invalid_picture);
     EXPECT_EQ(error_of(write("empty.jpg", "")), error::invalid_picture);
     EXPECT_EQ(pic.pixel(0, 0), 0x0000FEU);
 }
 
-TEST_F(PictureFile, TooLargeForMemoryRaises7) {
+TEST_F(PictureFile, too_large_for_memory_raises7) {
     // The head of a picture of 30000 by 30000 pixels.
     const QByteArray png =
         QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAAdTAAAHUwCAIAAADpRW/tAAAAAElEQVQ1rwYe");

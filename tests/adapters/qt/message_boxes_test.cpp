@@ -30,7 +30,7 @@ Seen look_at(const std::function<void()>& show) {
     return seen;
 }
 
-TEST(QtDialogs, ABoxHasTheIconOfItsCode) {
+TEST(QtDialogs, a_box_has_the_icon_of_its_code) {
     const auto dialogs = make_qt_dialogs();
     const std::pair<int, QMessageBox::Icon> icons[] = {
         {0, QMessageBox::NoIcon},
@@ -43,7 +43,7 @@ TEST(QtDialogs, ABoxHasTheIconOfItsCode) {
         EXPECT_EQ(look_at([&, code = code] { dialogs->message("a", code, "b"); }).icon, icon);
 }
 
-TEST(QtDialogs, AnIconThatHelpsIsShownWhereTheCodeNamesNone) {
+TEST(QtDialogs, an_icon_that_helps_is_shown_where_the_code_names_none) {
     const auto dialogs = make_qt_dialogs();
     const Seen helped =
         look_at([&] { dialogs->message_with_icon(buttons::question, "a", buttons::yes_no, "b"); });

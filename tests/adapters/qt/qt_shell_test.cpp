@@ -76,21 +76,21 @@ class QtShellTest : public testing::Test {
     QUrl pages = QUrl::fromLocalFile(folder.filePath("help/index.html"));
 };
 
-TEST_F(QtShellTest, AFileOpensByItsPathAndAMissingOneDoesNot) {
+TEST_F(QtShellTest, a_file_opens_by_its_path_and_a_missing_one_does_not) {
     EXPECT_GE(open(write("mi ala.dat", "0 0")), 33);
     EXPECT_EQ(opened.urls, QList{QUrl::fromLocalFile(folder.filePath("mi ala.dat"))});
     EXPECT_LT(open(folder.filePath("no.dat")), 33);
     EXPECT_EQ(opened.urls.size(), 1);
 }
 
-TEST_F(QtShellTest, AnAmpersandEndsTheSubjectOfAMailEarly) {
+TEST_F(QtShellTest, an_ampersand_ends_the_subject_of_a_mail_early) {
     EXPECT_GE(open("mailto:a@b.c?subject=uno & dos&body="), 33);
     ASSERT_EQ(opened.urls.size(), 1);
     EXPECT_EQ(opened.urls[0].scheme(), "mailto");
     EXPECT_EQ(QUrlQuery(opened.urls[0]).queryItemValue("subject", QUrl::FullyDecoded), "uno ");
 }
 
-TEST_F(QtShellTest, TheHelpFileOpensInTheProgramThatSaysItShowsThem) {
+TEST_F(QtShellTest, the_help_file_opens_in_the_program_that_says_it_shows_them) {
     with_help();
     write("system/applications/lector.desktop", "[Desktop Entry]\n");
     write("system/applications/mimeinfo.cache",
@@ -99,7 +99,7 @@ TEST_F(QtShellTest, TheHelpFileOpensInTheProgramThatSaysItShowsThem) {
     EXPECT_EQ(opened.urls, QList{file_itself});
 }
 
-TEST_F(QtShellTest, TheHelpFileOpensInTheProgramThatTheUserChose) {
+TEST_F(QtShellTest, the_help_file_opens_in_the_program_that_the_user_chose) {
     with_help();
     write("data/applications/mio.desktop", "[Desktop Entry]\n");
     for (const char* list : {"config/taller-mimeapps.list", "config/mimeapps.list"}) {
@@ -111,13 +111,13 @@ TEST_F(QtShellTest, TheHelpFileOpensInTheProgramThatTheUserChose) {
     }
 }
 
-TEST_F(QtShellTest, WithoutAProgramForHelpFilesThePagesOpenInTheBrowser) {
+TEST_F(QtShellTest, without_a_program_for_help_files_the_pages_open_in_the_browser) {
     with_help();
     EXPECT_GE(open(help_file), 33);
     EXPECT_EQ(opened.urls, QList{pages});
 }
 
-TEST_F(QtShellTest, AProgramThatIsGoneOrWasTakenAwayCountsAsNone) {
+TEST_F(QtShellTest, a_program_that_is_gone_or_was_taken_away_counts_as_none) {
     with_help();
     write("system/applications/mimeinfo.cache",
           "[MIME Cache]\napplication/vnd.ms-htmlhelp=ido.desktop;\n");
@@ -128,18 +128,18 @@ TEST_F(QtShellTest, AProgramThatIsGoneOrWasTakenAwayCountsAsNone) {
     EXPECT_EQ(opened.urls, QList{pages});
 }
 
-TEST_F(QtShellTest, WhereTheHelpFileIsMissingThePagesOpen) {
+TEST_F(QtShellTest, where_the_help_file_is_missing_the_pages_open) {
     write("help/index.html", "<html></html>");
     EXPECT_GE(open(help_file), 33);
     EXPECT_EQ(opened.urls, QList{pages});
 }
 
-TEST_F(QtShellTest, WithoutHelpFileAndPagesNothingOpens) {
+TEST_F(QtShellTest, without_help_file_and_pages_nothing_opens) {
     EXPECT_LT(open(help_file), 33);
     EXPECT_TRUE(opened.urls.isEmpty());
 }
 
-TEST_F(QtShellTest, WithoutPagesTheHelpFileIsLeftToTheDesktop) {
+TEST_F(QtShellTest, without_pages_the_help_file_is_left_to_the_desktop) {
     write("velmora.chm", "ITSF");
     EXPECT_GE(open(help_file), 33);
     EXPECT_EQ(opened.urls, QList{file_itself});

@@ -39,7 +39,7 @@ class RecycleBinTest : public testing::Test {
     QByteArray former_home_ = qgetenv("HOME");
 };
 
-TEST_F(RecycleBinTest, MovesAFileIntoTheBinOfAUserWhoHasNone) {
+TEST_F(RecycleBinTest, moves_a_file_into_the_bin_of_a_user_who_has_none) {
     const QString file = write("ala.dat");
     EXPECT_TRUE(recycle_file(file));
     EXPECT_FALSE(QFileInfo::exists(file));
@@ -48,13 +48,13 @@ TEST_F(RecycleBinTest, MovesAFileIntoTheBinOfAUserWhoHasNone) {
     EXPECT_FALSE(QFileInfo::exists(home_.filePath("files"))) << "the current folder is no bin";
 }
 
-TEST_F(RecycleBinTest, KeepsTwoFilesOfOneName) {
+TEST_F(RecycleBinTest, keeps_two_files_of_one_name) {
     EXPECT_TRUE(recycle_file(write("ala.dat")));
     EXPECT_TRUE(recycle_file(write("ala.dat")));
     EXPECT_EQ(in_bin().size(), 2);
 }
 
-TEST_F(RecycleBinTest, DeletesWhereTheBinCannotBeMade) {
+TEST_F(RecycleBinTest, deletes_where_the_bin_cannot_be_made) {
     QFile in_the_way(data());
     ASSERT_TRUE(in_the_way.open(QIODevice::WriteOnly)); // a file where the folder should be
     const QString file = write("ala.dat");
@@ -62,7 +62,7 @@ TEST_F(RecycleBinTest, DeletesWhereTheBinCannotBeMade) {
     EXPECT_FALSE(QFileInfo::exists(file));
 }
 
-TEST_F(RecycleBinTest, DeletesWhereTheBinsListCannotBeMade) {
+TEST_F(RecycleBinTest, deletes_where_the_bins_list_cannot_be_made) {
     ASSERT_TRUE(QDir().mkpath(data() + "/Trash"));
     QFile in_the_way(data() + "/Trash/info");
     ASSERT_TRUE(in_the_way.open(QIODevice::WriteOnly));
@@ -72,7 +72,7 @@ TEST_F(RecycleBinTest, DeletesWhereTheBinsListCannotBeMade) {
 }
 
 // A bin in the root of another disk would be one that its owner never looks into.
-TEST_F(RecycleBinTest, DeletesOnAnotherDiskThanTheBins) {
+TEST_F(RecycleBinTest, deletes_on_another_disk_than_the_bins) {
     const QTemporaryDir elsewhere("/dev/shm/velmora-XXXXXX");
     if (!elsewhere.isValid() || QStorageInfo(elsewhere.path()) == QStorageInfo(home_.path()))
         GTEST_SKIP() << "there is no other disk to write on";
@@ -89,11 +89,11 @@ TEST_F(RecycleBinTest, DeletesOnAnotherDiskThanTheBins) {
     EXPECT_TRUE(in_bin().isEmpty());
 }
 
-TEST_F(RecycleBinTest, AFileThatIsNotThereIsGone) {
+TEST_F(RecycleBinTest, a_file_that_is_not_there_is_gone) {
     EXPECT_TRUE(recycle_file(home_.filePath("nobody.dat")));
 }
 
-TEST_F(RecycleBinTest, AFileThatCannotGoStays) {
+TEST_F(RecycleBinTest, a_file_that_cannot_go_stays) {
     // A folder with something in it is none that a delete of files takes.
     ASSERT_TRUE(QDir().mkpath(home_.filePath("folder/inner")));
     QFile in_the_way(data());

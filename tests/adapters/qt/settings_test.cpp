@@ -20,11 +20,11 @@ class SettingsTest : public testing::Test {
     QTemporaryDir folder_;
 };
 
-TEST_F(SettingsTest, WhatWasNeverStoredIsNothing) {
+TEST_F(SettingsTest, what_was_never_stored_is_nothing) {
     EXPECT_EQ(make_file_settings(file())->get("Values", "Def_Dec"), std::nullopt);
 }
 
-TEST_F(SettingsTest, TextsComeBackFromTheFileAsTheyWere) {
+TEST_F(SettingsTest, texts_come_back_from_the_file_as_they_were) {
     const char* texts[] = {"",      " ",  "6",   "-2147483648", "1,5", "a;b", "C:\\ala ñ.dat",
                            "\"x\"", "@x", "%20", "línea"};
     for (const char* text : texts) {
@@ -33,7 +33,7 @@ TEST_F(SettingsTest, TextsComeBackFromTheFileAsTheyWere) {
     }
 }
 
-TEST_F(SettingsTest, SectionsKeepTheirKeysApart) {
+TEST_F(SettingsTest, sections_keep_their_keys_apart) {
     auto store = make_file_settings(file());
     store->save("Colors", "a", "1");
     store->save("Values", "a", "2");
@@ -41,7 +41,7 @@ TEST_F(SettingsTest, SectionsKeepTheirKeysApart) {
     EXPECT_EQ(store->get("Values", "a"), "2");
 }
 
-TEST_F(SettingsTest, ACommaThatSomeoneWroteIntoTheFileIsPartOfTheText) {
+TEST_F(SettingsTest, a_comma_that_someone_wrote_into_the_file_is_part_of_the_text) {
     write("[Values]\nDef_Zoom=2,5\n");
     EXPECT_EQ(make_file_settings(file())->get("Values", "Def_Zoom"), "2,5");
 }
