@@ -5,11 +5,11 @@
 #include "document/flag.h"
 #include "document/forma.h"
 #include "document/number_text.h"
+#include "document/shown.h"
 #include "document/state/cad.h"
 #include "document/state/document.h"
 #include "document/state/loading.h"
 #include "document/windows/velmora.h"
-#include "document/windows/wininfo.h"
 #include "runtime/prefetch.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
@@ -82,10 +82,8 @@ void put_point(const Pto& point, std::int32_t& write_index) {
 
 void start_figures() {
     state::document.UltimoPto = 0;
-    state::document.TotalPtos = 0;
-    state::document.PtosSuprimidos = 0;
-    state::wininfo.TxtTotalPtos = CStr(state::document.TotalPtos);
-    state::wininfo.TxtPtosSupr = CStr(state::document.PtosSuprimidos);
+    shown::TotalPtos().put(0);
+    shown::PtosSuprimidos().put(0);
     DoEvents();
     set_status(GetMensaje(message::reorganising_2));
     state::Velmora.Pbar1 = {.Min = 0, .Max = state::cad.ObjsCad.upper() + 1.0, .Value = 0};
@@ -134,11 +132,9 @@ void copy_chain(std::int32_t& write_index) {
 }
 
 void finish_figures() {
-    state::document.TotalPtos = state::document.UltimoPto - 1;
-    state::wininfo.TxtTotalPtos = CStr(state::document.TotalPtos);
+    shown::TotalPtos().put(state::document.UltimoPto - 1);
     set_pointer(0);
-    state::document.TotalSinc = 0;
-    state::wininfo.TxtTotalCtrlPtos = CStr(state::document.TotalSinc);
+    shown::TotalSinc().put(0);
     state::cad.ObjsCad.redim(0);
     DoEvents();
 }

@@ -1,6 +1,6 @@
 #include "cad/captured_points.h"
 
-#include "cad/entity_progress.h"
+#include "cad/entity_counters.h"
 #include "cad/flatten.h"
 #include "cad/spline.h"
 #include "document/feedback.h"

@@ -1,21 +1,18 @@
 #include "cad/entity_counters.h"
 
-#include "document/number_text.h"
+#include "document/feedback.h"
+#include "document/shown.h"
 #include "document/state/cad.h"
+#include "document/windows/velmora.h"
 #include "document/windows/wininfo.h"
 
-#include <string>
+#include <array>
 
 namespace velmora {
 
 namespace {
 
-struct Counter {
-    std::int32_t& total;
-    std::string& box;
-};
-
-Counter counter_of(TipoCad tipo) {
+ShownCount counter_of(TipoCad tipo) {
     switch (tipo) {
     case TipoCad::AcDbSpline:
         return {state::cad.NSplines, state::wininfo.TxtNSplines};
@@ -30,26 +27,40 @@ Counter counter_of(TipoCad tipo) {
     }
 }
 
+constexpr std::array kCountedKinds = {TipoCad::AcDbLine, TipoCad::AcDbSpline, TipoCad::AcDbPolyline,
+                                      TipoCad::AcDbArc, TipoCad::AcDbCircle};
+
 } // namespace
 
 void reset_entity_counters() {
-    state::cad.TotalObjs = 0;
-    state::cad.NLines = state::cad.NSplines = state::cad.NLWPolylines = 0;
-    state::cad.NArcs = state::cad.NCircles = 0;
+    shown::TotalObjs().keep(0);
+    for (const TipoCad kind : kCountedKinds)
+        counter_of(kind).keep(0);
 }
 
 void clear_entity_boxes() {
-    WinInfo& info = state::wininfo;
-    for (std::string* box : {&info.TxtProcesed, &info.TxtNlines, &info.TxtNSplines,
-                             &info.TxtNLWPolylines, &info.TxtNArcs, &info.TxtNCircles})
-        *box = CStr(std::int32_t{0});
+    shown::TotalObjs().show(0);
+    for (const TipoCad kind : kCountedKinds)
+        counter_of(kind).show(0);
+}
+
+void clear_entity_counts() {
+    for (const TipoCad kind : kCountedKinds)
+        counter_of(kind).put(0);
 }
 
 void count_entity(TipoCad tipo, std::int32_t taken) {
-    state::cad.TotalObjs = taken;
-    state::wininfo.TxtProcesed = CStr(taken);
-    const Counter counter = counter_of(tipo);
-    counter.box = CStr(++counter.total);
+    shown::TotalObjs().put(taken);
+    counter_of(tipo).count();
+}
+
+void start_entity_progress(double points) {
+    state::Velmora.pbar2 = {.Min = 0, .Max = points, .Value = 0};
+}
+
+void step_entity_progress() {
+    state::Velmora.pbar2.Value += 1;
+    DoEvents();
 }
 
 } // namespace velmora

@@ -1,6 +1,6 @@
 #include "cad/flatten.h"
 
-#include "cad/entity_progress.h"
+#include "cad/entity_counters.h"
 #include "document/forma.h"
 #include "document/number_text.h"
 #include "document/state/options.h"

@@ -4,9 +4,9 @@
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/number_text.h"
+#include "document/shown.h"
 #include "document/state/cad.h"
 #include "document/state/document.h"
-#include "document/windows/wininfo.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"
 #include "services/message_codes.h"
@@ -64,10 +64,8 @@ void take_origin() {
     state::cad.CadOrigX = Normaliza15(point[0]);
     state::cad.CadOrigY = Normaliza15(point[1]);
     platform().windows.show("wininfo");
-    state::wininfo.TxtOrigX = CStr(state::cad.CadOrigX);
-    state::wininfo.TxtOrigY = CStr(state::cad.CadOrigY);
-    state::document.OrigX = state::cad.CadOrigX;
-    state::document.OrigY = state::cad.CadOrigY;
+    shown::OrigX().put(state::cad.CadOrigX);
+    shown::OrigY().put(state::cad.CadOrigY);
 }
 
 } // namespace

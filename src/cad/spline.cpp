@@ -1,6 +1,6 @@
 #include "cad/spline.h"
 
-#include "cad/entity_progress.h"
+#include "cad/entity_counters.h"
 #include "document/number_text.h"
 #include "runtime/error.h"
 #include "runtime/numbers.h"

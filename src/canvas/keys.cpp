@@ -5,7 +5,7 @@
 #include "document/forma.h"
 #include "document/refresh.h"
 #include "document/selection.h"
-#include "document/shown_counts.h"
+#include "document/shown.h"
 #include "document/state/document.h"
 #include "document/state/view.h"
 #include "document/windows/velmora.h"
@@ -23,7 +23,7 @@ void flip_sync() {
     std::int16_t& sync = Forma.Pto[state::document.PtoSel].Sinc;
     const bool was_sync = sync != 0;
     sync = was_sync ? 0 : 1;
-    step_TotalSinc(was_sync ? -1 : 1);
+    shown::TotalSinc().step(was_sync ? -1 : 1);
 }
 
 void nudge(double Pto::*axis, double extent) {

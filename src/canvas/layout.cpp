@@ -2,13 +2,10 @@
 #include "document/extents.h"
 #include "document/feedback.h"
 #include "document/forma.h"
-#include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/shown_counts.h"
-#include "document/state/document.h"
+#include "document/shown.h"
 #include "document/state/view.h"
 #include "document/windows/velmora.h"
-#include "document/windows/wininfo.h"
 #include "runtime/numbers.h"
 
 namespace velmora {
@@ -29,18 +26,12 @@ Extents extents_of_shape() {
     return {max_x, min_x, max_y, GetMinY("0")};
 }
 
-void show(double value, double& figure, std::string& box) {
-    figure = runtime::checked(value);
-    box = CStr(value);
-}
-
 void show_figures(const Extents& extents) {
-    WinInfo& info = state::wininfo;
-    show(extents.max_x - extents.min_x, state::document.Longitud, info.Txt_longitud);
-    show(extents.max_y - extents.min_y, state::document.Altura, info.Txt_Altura);
-    show(Forma.Pto[0].X, state::document.OrigX, info.TxtOrigX);
-    show(Forma.Pto[0].Y, state::document.OrigY, info.TxtOrigY);
-    show_TotalPtos(Forma.Pto.upper() + 1);
+    shown::Longitud().put(runtime::checked(extents.max_x - extents.min_x));
+    shown::Altura().put(runtime::checked(extents.max_y - extents.min_y));
+    shown::OrigX().put(runtime::checked(Forma.Pto[0].X));
+    shown::OrigY().put(runtime::checked(Forma.Pto[0].Y));
+    shown::TotalPtos().put(Forma.Pto.upper() + 1);
 }
 
 /// The lower left corner for a shape without negatives, near the middle for another.

@@ -8,7 +8,7 @@
 #include "document/number_text.h"
 #include "document/refresh.h"
 #include "document/selection.h"
-#include "document/shown_counts.h"
+#include "document/shown.h"
 #include "document/state/document.h"
 #include "document/state/view.h"
 #include "document/windows/velmora.h"
@@ -91,7 +91,7 @@ void drop_shape(float X, float Y) {
 
 void select_last_point() {
     state::document.PtoSel = Forma.Pto.upper();
-    show_TotalPtos(Forma.Pto.upper() + 1);
+    shown::TotalPtos().put(Forma.Pto.upper() + 1);
 }
 
 void append_point(float X, float Y) {
@@ -99,7 +99,7 @@ void append_point(float X, float Y) {
     select_last_point();
     if (!state::view.CtrlDown)
         return;
-    step_TotalSinc(1);
+    shown::TotalSinc().step(1);
     Forma.Pto[Forma.Pto.upper()].Sinc = 1;
 }
 

@@ -1,21 +1,17 @@
 // The commands of the menu mnu_Archivo.
+#include "cad/entity_counters.h"
 #include "canvas/print.h"
 #include "commands/handlers.h"
 #include "document/flag.h"
 #include "document/forma.h"
-#include "document/number_text.h"
 #include "document/options.h"
 #include "document/recent_files.h"
 #include "document/refresh.h"
-#include "document/state/cad.h"
+#include "document/shown.h"
 #include "document/state/document.h"
 #include "document/state/program.h"
-#include "document/state/settings.h"
 #include "document/state/view.h"
 #include "document/windows/velmora.h"
-#include "document/windows/wininfo.h"
-#include "document/windows/winoptions.h"
-#include "formats/box_text.h"
 #include "formats/load.h"
 #include "formats/save.h"
 #include "forms/velmora.h"
@@ -29,11 +25,6 @@ namespace velmora {
 
 namespace {
 
-void take_colours() {
-    state::Velmora.pic_BackColor = state::settings.cl_fondo;
-    state::Velmora.lbl_xyfloat_ForeColor = state::settings.cl_coords;
-}
-
 void generate_when_named() {
     if (!state::document.FileName.empty())
         GeneraFichero();
@@ -45,22 +36,17 @@ void clear_list() {
 }
 
 void reset_origin_figures() {
-    state::document.OrigX = Forma.Pto[0].X;
-    state::document.OrigY = Forma.Pto[0].Y;
-    state::wininfo.TxtOrigX = CStr(state::document.OrigX);
-    state::wininfo.TxtOrigY = CStr(state::document.OrigY);
+    shown::OrigX().put(Forma.Pto[0].X);
+    shown::OrigY().put(Forma.Pto[0].Y);
 }
 
-/// TotalSinc and TotalObjs are not among them, on purpose.
+/// TotalSinc and TotalObjs keep what they were, on purpose.
 void reset_counts() {
-    WinInfo& box = state::wininfo;
-    state::document.TotalPtos = state::document.PtosSuprimidos = 0;
-    state::cad.NLines = state::cad.NSplines = state::cad.NCircles = 0;
-    state::cad.NArcs = state::cad.NLWPolylines = 0;
-    for (std::string* text :
-         {&box.TxtTotalPtos, &box.TxtPtosSupr, &box.TxtNlines, &box.TxtNSplines, &box.TxtNCircles,
-          &box.TxtNArcs, &box.TxtNLWPolylines, &box.TxtTotalCtrlPtos, &box.TxtProcesed})
-        show_count(*text, 0);
+    shown::TotalPtos().put(0);
+    shown::PtosSuprimidos().put(0);
+    clear_entity_counts();
+    shown::TotalSinc().show(0);
+    shown::TotalObjs().show(0);
 }
 
 } // namespace
@@ -89,8 +75,7 @@ void mnu_openfile() {
     state::document.PtoSel = 0;
     Apply_Precision();
     LeeSettings();
-    state::winoptions.Txt_zoom = CStr(state::settings.Def_Zoom);
-    state::view.ZoomFactor = state::settings.Def_Zoom;
+    take_stored_zoom();
     take_colours();
     Define_Layout();
     Dibuja();

@@ -4,10 +4,9 @@
 #include "canvas/surface.h"
 #include "canvas/zoom.h"
 #include "commands/handlers.h"
-#include "document/number_text.h"
 #include "document/refresh.h"
+#include "document/shown.h"
 #include "document/state/view.h"
-#include "document/windows/winoptions.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"
 #include "services/shape_at_hand.h"
@@ -28,8 +27,7 @@ void transform_and_refresh(void (*transform)()) {
 }
 
 void zoom_to(double zoom) {
-    state::view.ZoomFactor = zoom;
-    state::winoptions.Txt_zoom = CStr(zoom);
+    shown::ZoomFactor().put(zoom);
     Define_Layout();
     Dibuja();
 }

@@ -3,7 +3,7 @@
 #include "cutprep/merged_list.h"
 #include "document/feedback.h"
 #include "document/forma.h"
-#include "document/number_text.h"
+#include "document/shown.h"
 #include "document/state/workbench.h"
 #include "runtime/numbers.h"
 
@@ -52,8 +52,7 @@ class MergedPass {
     void take_sync_point(MergedList& rows) {
         points_[own_.Idx] = {.X = rows.X(), .Y = rows.Y(), .Sinc = 1};
         show_total();
-        std::string& syncs = own_.side.TxtTotalCtrlPtosNew;
-        syncs = CStr(runtime::Val(syncs) + 1);
+        step_count(own_.side.TxtTotalCtrlPtosNew, 1);
         DoEvents();
     }
 
@@ -76,7 +75,7 @@ class MergedPass {
         points_.redim_keep(own_.Idx);
     }
 
-    void show_total() { own_.side.TxtTotalPtosNew = CStr(own_.Idx + 1); }
+    void show_total() { show_count(own_.side.TxtTotalPtosNew, own_.Idx + 1); }
 
     AdjustedSide& own_;
     Array<Pto>& points_;

@@ -4,6 +4,7 @@
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
+#include "document/shown.h"
 #include "document/state/document.h"
 #include "document/state/loading.h"
 #include "document/state/program.h"

@@ -1,8 +1,5 @@
 #include "formats/box_text.h"
 
-#include <array>
-#include <charconv>
-
 namespace velmora {
 
 std::string joined_by_blanks(std::initializer_list<std::string_view> pieces) {
@@ -29,12 +26,6 @@ std::string without_control_characters(std::string_view text) {
         i += pair ? 1 : 0;
     }
     return result;
-}
-
-void show_count(std::string& box, std::int64_t count) {
-    std::array<char, 24> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), count).ptr;
-    box.assign(digits.data(), end);
 }
 
 } // namespace velmora

@@ -1,7 +1,6 @@
-// What boxes show: texts put together from messages and paths, and counts.
+// What boxes show: texts put together from messages and paths.
 #pragma once
 
-#include <cstdint>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -14,8 +13,5 @@ namespace velmora {
 /// A UTF-8 text with a blank for each control character: a line's end in a description would break
 /// the records of its file.
 [[nodiscard]] std::string without_control_characters(std::string_view text);
-
-/// A count as its box shows it; no allocation, for use at every step.
-void show_count(std::string& box, std::int64_t count);
 
 } // namespace velmora

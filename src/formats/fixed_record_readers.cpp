@@ -3,14 +3,13 @@
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/number_text.h"
-#include "document/state/document.h"
+#include "document/shown.h"
 #include "document/state/loading.h"
 #include "document/windows/velmora.h"
 #include "document/windows/wininfo.h"
 #include "formats/record_file.h"
 #include "formats/sync_matcher.h"
 #include "formats/totals.h"
-#include "runtime/numbers.h"
 #include "runtime/text.h"
 
 #include <optional>
@@ -46,7 +45,7 @@ std::int16_t read_slwsinc(std::string_view path, ReadCounts& counts) {
     drop_closing_point(Forma.Pto, counts.points);
     publish_totals(Totals::points, counts.points);
     match_slwsinc_sync_points(Forma.Pto, state::wininfo.TxtTotalCtrlPtos, counts);
-    state::document.TotalSinc = runtime::to_int32(runtime::Val(state::wininfo.TxtTotalCtrlPtos));
+    shown::TotalSinc().keep_shown();
     state::loading.files.close(1);
     return True;
 }

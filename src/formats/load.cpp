@@ -1,11 +1,11 @@
 #include "formats/load.h"
 
+#include "cad/entity_counters.h"
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
-#include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/state/cad.h"
+#include "document/shown.h"
 #include "document/state/document.h"
 #include "document/state/program.h"
 #include "document/windows/velmora.h"
@@ -56,24 +56,13 @@ std::string read_by_kind(const std::string& path) {
     return GetMensaje(format->text);
 }
 
-void clear_object_counts() {
-    WinInfo& box = state::wininfo;
-    state::document.PtosSuprimidos = state::cad.NLines = state::cad.NSplines = 0;
-    state::cad.NCircles = state::cad.NArcs = state::cad.NLWPolylines = 0;
-    for (std::string* text : {&box.TxtPtosSupr, &box.TxtNlines, &box.TxtNSplines, &box.TxtNCircles,
-                              &box.TxtNArcs, &box.TxtNLWPolylines})
-        show_count(*text, 0);
-}
-
 void show_figures() {
-    state::document.OrigX = Forma.Pto[0].X;
-    state::document.OrigY = Forma.Pto[0].Y;
-    state::wininfo.TxtOrigX = CStr(state::document.OrigX);
-    state::wininfo.TxtOrigY = CStr(state::document.OrigY);
+    shown::OrigX().put(Forma.Pto[0].X);
+    shown::OrigY().put(Forma.Pto[0].Y);
     // Not the count, on purpose: Define_Layout puts that there right after.
-    state::document.TotalPtos = Forma.Pto.upper() - 1;
-    show_count(state::wininfo.TxtTotalPtos, state::document.TotalPtos);
-    clear_object_counts();
+    shown::TotalPtos().put(Forma.Pto.upper() - 1);
+    shown::PtosSuprimidos().put(0);
+    clear_entity_counts();
 }
 
 void take_in(const std::string& path, const std::string& format_text) {

@@ -1,10 +1,8 @@
 #include "document/forma.h"
-#include "document/state/document.h"
-#include "document/windows/wininfo.h"
+#include "document/shown.h"
 #include "formats/save.h"
 
 #include "document/feedback.h"
-#include "formats/box_text.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 
@@ -13,8 +11,7 @@ namespace velmora {
 namespace {
 
 void count_removed(std::int32_t& removed) {
-    state::document.PtosSuprimidos = ++removed;
-    show_count(state::wininfo.TxtPtosSupr, removed);
+    shown::PtosSuprimidos().put(++removed);
     DoEvents();
 }
 
@@ -56,8 +53,7 @@ void OptimizaPtos() {
     scratch = without_runs(scratch, &Pto::Y, removed);
     Forma.Pto.swap(scratch);
     count_repeats(Forma.Pto, removed);
-    state::document.PtosSuprimidos = removed;
-    show_count(state::wininfo.TxtPtosSupr, removed);
+    shown::PtosSuprimidos().put(removed);
     operation.finish(GetMensaje(message::optimised));
 }
 

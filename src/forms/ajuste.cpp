@@ -7,6 +7,7 @@
 #include "cutprep/side_readers.h"
 #include "cutprep/side_writer.h"
 #include "document/feedback.h"
+#include "document/shown.h"
 #include "document/state/document.h"
 #include "document/state/program.h"
 #include "document/state/workbench.h"
@@ -71,7 +72,7 @@ void empty_results() {
 }
 
 void adjust() {
-    const std::int32_t NumSinc = runtime::to_int32(runtime::Val(state::ajuste.TxtTotalCtrlPtos_A));
+    const std::int32_t NumSinc = count_in(state::ajuste.TxtTotalCtrlPtos_A);
     adjust_sides(NumSinc, [NumSinc](std::int32_t tramo) {
         state::ajuste.lbl_estado = std::to_string(tramo) + " / " + std::to_string(NumSinc);
         DoEvents();

@@ -5,7 +5,7 @@
 #include "document/number_text.h"
 #include "document/refresh.h"
 #include "document/selection.h"
-#include "document/shown_counts.h"
+#include "document/shown.h"
 #include "document/state/document.h"
 #include "document/text_box.h"
 #include "document/windows/del_npto.h"
@@ -111,7 +111,7 @@ void del_Npto_cmd_ok_Click() {
     if (!has_selection())
         state::document.PtoSel = 0;
     Dibuja();
-    show_TotalPtos(Forma.Pto.upper() - 1);
+    shown::TotalPtos().put(Forma.Pto.upper() - 1);
     platform().windows.unload(kWindow);
 }
 

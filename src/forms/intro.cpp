@@ -3,9 +3,9 @@
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/number_text.h"
+#include "document/options.h"
 #include "document/state/options.h"
 #include "document/state/program.h"
-#include "document/state/settings.h"
 #include "document/state/view.h"
 #include "document/windows/intro.h"
 #include "platform/database.h"
@@ -32,13 +32,6 @@ void set_version() {
 void show_version() {
     state::intro.lblVer = "Ver. " + state::program.Ver;
     state::intro.lblsubver = CStr(std::int32_t{state::program.SubVer});
-}
-
-void take_working_copies() {
-    state::options.PutArc = state::settings.Def_Arc;
-    state::options.PutCircle = state::settings.Def_ACircle;
-    state::options.Precision = state::settings.Def_Dec;
-    state::view.ZoomFactor = state::settings.Def_Zoom;
 }
 
 void set_flags() {

@@ -3,7 +3,7 @@
 #include "document/forma.h"
 #include "document/number_text.h"
 #include "document/refresh.h"
-#include "document/shown_counts.h"
+#include "document/shown.h"
 #include "document/text_box.h"
 #include "document/windows/mult_ptos.h"
 #include "platform/form.h"
@@ -69,7 +69,7 @@ void Mult_Ptos_cmd_ok_Click() {
         return;
     multiply_points(Forma.Pto, factor());
     Dibuja();
-    show_TotalPtos(Forma.Pto.upper() - 1);
+    shown::TotalPtos().put(Forma.Pto.upper() - 1);
     platform().windows.unload(kWindow);
 }
 

@@ -4,15 +4,13 @@
 #include "document/flag.h"
 #include "document/forma.h"
 #include "document/number_text.h"
-#include "document/shown_counts.h"
+#include "document/options.h"
+#include "document/shown.h"
 #include "document/state/document.h"
 #include "document/state/program.h"
-#include "document/state/settings.h"
 #include "document/state/view.h"
 #include "document/windows/new_dat.h"
 #include "document/windows/velmora.h"
-#include "document/windows/wininfo.h"
-#include "document/windows/winoptions.h"
 #include "generators/figures.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"
@@ -91,7 +89,7 @@ void ask_circle_points() {
 void take_outline(std::span<const Pto> points) {
     Forma.Pto.redim(static_cast<std::int32_t>(points.size()) - 1);
     std::ranges::copy(points, Forma.Pto.all().begin());
-    show_TotalPtos(static_cast<std::int32_t>(points.size()));
+    shown::TotalPtos().put(static_cast<std::int32_t>(points.size()));
 }
 
 // The shown count of a circle takes the point that closes it with it, on purpose; the next
@@ -99,7 +97,7 @@ void take_outline(std::span<const Pto> points) {
 void take_circle() {
     const std::int32_t points = state::New_Dat.circle_points;
     take_outline(figures::circle(points).all());
-    show_TotalPtos(points + 1);
+    shown::TotalPtos().put(points + 1);
 }
 
 void take_figure() {
@@ -113,7 +111,7 @@ void take_figure() {
     default:
         take_outline(figures::square());
     }
-    show_TotalSinc(1);
+    shown::TotalSinc().put(1);
 }
 
 /// The start of the chosen button; the first where none is chosen.
@@ -132,14 +130,8 @@ void start_by_hand() {
     Forma.Pto[0] = chosen_start();
     state::view.BandaX = Forma.Pto[0].X;
     state::view.BandaY = Forma.Pto[0].Y;
-    state::wininfo.TxtPtosSupr = CStr(0);
-    state::document.PtosSuprimidos = 0;
-    show_TotalSinc(0);
-}
-
-void show_stored_zoom() {
-    state::winoptions.Txt_zoom = CStr(state::settings.Def_Zoom);
-    state::view.ZoomFactor = state::settings.Def_Zoom;
+    shown::PtosSuprimidos().put(0);
+    shown::TotalSinc().put(0);
 }
 
 } // namespace
@@ -180,7 +172,7 @@ void New_Dat_cmd_ok_Click() {
         take_figure();
     else
         start_by_hand();
-    show_stored_zoom();
+    take_stored_zoom();
     state::document.PtoSel = 0;
     state::Velmora.TxtDat_File.clear();
     state::document.FileName.clear();

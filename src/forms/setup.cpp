@@ -2,12 +2,9 @@
 
 #include "document/number_text.h"
 #include "document/options.h"
-#include "document/state/options.h"
 #include "document/state/program.h"
 #include "document/state/settings.h"
 #include "document/windows/setup.h"
-#include "document/windows/velmora.h"
-#include "document/windows/winoptions.h"
 #include "forms/numeric_box.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
@@ -106,18 +103,6 @@ void take_language() {
     state::program.Idioma = code;
 }
 
-// Precision before its box: a box that takes another text rounds the shape, and to the new value.
-void take_working_copies() {
-    take_start_zoom();
-    state::winoptions.Txt_zoom = CStr(state::settings.Def_Zoom);
-    state::options.Precision = state::settings.Def_Dec;
-    set_TxtPrecision(CStr(state::settings.Def_Dec));
-    state::options.PutArc = state::settings.Def_Arc;
-    state::winoptions.TxtPutArc = CStr(state::settings.Def_Arc);
-    state::options.PutCircle = state::settings.Def_ACircle;
-    state::winoptions.TxtPutCircle = CStr(state::settings.Def_ACircle);
-}
-
 } // namespace
 
 std::span<const std::string_view> setup_languages() {
@@ -188,9 +173,8 @@ void setup_cmd_ok_Click() {
     take_language();
     state::program.Sound = state::setup.APP_Sound ? 1 : 0;
     GuardaSettings();
-    take_working_copies();
-    state::Velmora.pic_BackColor = state::settings.cl_fondo;
-    state::Velmora.lbl_xyfloat_ForeColor = state::settings.cl_coords;
+    take_defaults(Defaults::one_by_one);
+    take_colours();
     platform().windows.unload(kWindow);
 }
 

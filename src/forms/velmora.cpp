@@ -11,7 +11,6 @@
 #include "document/state/document.h"
 #include "document/state/loading.h"
 #include "document/state/program.h"
-#include "document/state/settings.h"
 #include "document/state/view.h"
 #include "document/windows/velmora.h"
 #include "platform/database.h"
@@ -65,11 +64,6 @@ std::string credit() {
 std::string main_caption() {
     return "Velmora " + state::program.Ver + " (" + CStr(std::int32_t{state::program.SubVer}) +
            ") " + credit();
-}
-
-void take_colours() {
-    state::Velmora.pic_BackColor = state::settings.cl_fondo;
-    state::Velmora.lbl_xyfloat_ForeColor = state::settings.cl_coords;
 }
 
 void tell_of_data_files() {

@@ -4,7 +4,7 @@
 #include "document/forma.h"
 #include "document/refresh.h"
 #include "document/selection.h"
-#include "document/shown_counts.h"
+#include "document/shown.h"
 #include "document/state/document.h"
 #include "document/state/view.h"
 #include "runtime/error.h"
@@ -95,7 +95,7 @@ void Insert_Pto() {
     else
         place_before_first();
     Forma.Pto[state::document.PtoSel].Sinc = 0;
-    show_TotalPtos(Forma.Pto.upper() + 1);
+    shown::TotalPtos().put(Forma.Pto.upper() + 1);
     Dibuja_unless_NoRedraw();
 }
 
@@ -109,10 +109,10 @@ void Delete_Pto() {
     if (!has_selection())
         return;
     if (Forma.Pto[state::document.PtoSel].Sinc == 1)
-        step_TotalSinc(-1);
+        shown::TotalSinc().step(-1);
     remove_selected();
     Dibuja_unless_NoRedraw();
-    show_TotalPtos(Forma.Pto.upper() + 1);
+    shown::TotalPtos().put(Forma.Pto.upper() + 1);
 }
 
 // Only the turn by one clears the old first point's mark, and only the longer turn refreshes: on
@@ -145,7 +145,7 @@ void insert_ini() {
     state::document.PtoSel = s + 2;
     Set_CutStart();
     Carga_List_Coords("UPDATE");
-    show_TotalPtos(Forma.Pto.upper() - 1);
+    shown::TotalPtos().put(Forma.Pto.upper() - 1);
     Dibuja_unless_NoRedraw();
 }
 

@@ -5,7 +5,7 @@
 #include "document/number_text.h"
 #include "document/refresh.h"
 #include "document/selection.h"
-#include "document/shown_counts.h"
+#include "document/shown.h"
 #include "document/state/document.h"
 #include "document/state/program.h"
 #include "platform/dialogs.h"
@@ -23,14 +23,14 @@ void flip_selected(std::int16_t from, std::int16_t to, std::int32_t step) {
     if (!has_selection() || Forma.Pto[state::document.PtoSel].Sinc != from)
         return;
     Forma.Pto[state::document.PtoSel].Sinc = to;
-    step_TotalSinc(step);
+    shown::TotalSinc().step(step);
     Dibuja_unless_NoRedraw();
 }
 
-void mark_from(std::size_t first, std::int16_t sinc, std::int32_t shown) {
+void mark_from(std::size_t first, std::int16_t sinc, std::int32_t count) {
     for (Pto& point : Forma.Pto.all().subspan(first))
         point.Sinc = sinc;
-    show_TotalSinc(shown);
+    shown::TotalSinc().put(count);
     Dibuja_unless_NoRedraw();
 }
 

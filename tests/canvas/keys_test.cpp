@@ -4,7 +4,7 @@
 #include "canvas/pointer.h"
 #include "commands/handlers.h"
 #include "document/feedback.h"
-#include "document/shown_counts.h"
+#include "document/shown.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -27,7 +27,7 @@ struct Keys : Canvas {
         set_shape({{0, 0}, {10, 0, 1, 0}, {20, 10}, {10, 20}});
         session.Longitud = 20;
         session.Altura = 30;
-        show_TotalSinc(1);
+        shown::TotalSinc().put(1);
         session.PtoSel = 2;
         set_status("Forma");
     }

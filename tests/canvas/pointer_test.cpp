@@ -1,7 +1,7 @@
 #include "canvas/pointer.h"
 
 #include "canvas/drawing.h"
-#include "document/shown_counts.h"
+#include "document/shown.h"
 #include "runtime/error.h"
 
 #include <gmock/gmock.h>
@@ -358,7 +358,7 @@ struct ByHand : Pointer {
     ByHand() {
         session.PtosToInsertMode = True;
         session.PtoSel = 3;
-        show_TotalSinc(1);
+        shown::TotalSinc().put(1);
     }
 };
 

@@ -1,8 +1,10 @@
 #include "document/options.h"
 
 #include "document/session.h"
+#include "document/shown.h"
 #include "support/outline.h"
 #include "support/recording_platform.h"
+#include "support/watching.h"
 
 #include <gtest/gtest.h>
 
@@ -80,6 +82,39 @@ TEST_F(Options, take_defaults_fills_boxes_and_working_copies) {
     EXPECT_EQ(session.winoptions.TxtPrecision, "5");
     EXPECT_EQ(session.winoptions.Txt_zoom, "2,5");
     EXPECT_EQ(shape(), kFine);
+}
+
+TEST_F(Options, the_order_shows_while_the_shape_is_rounded) {
+    const std::pair<Defaults, const char*> cases[] = {{Defaults::copies_first, "12 12 7 1"},
+                                                      {Defaults::one_by_one, "25 25 7 7"}};
+    session.Def_Arc = 12;
+    session.Def_Dec = 3;
+    session.Def_Zoom = 7;
+    std::string seen;
+    const test::WatchingTurns turns([&] {
+        seen = std::to_string(session.PutArc) + " " + session.winoptions.TxtPutArc + " " +
+               CStr(session.ZoomFactor) + " " + session.winoptions.Txt_zoom;
+    });
+    for (const auto& [order, expected] : cases) {
+        session.winoptions.TxtPrecision = std::string("6");
+        shown::PutArc().put(25);
+        shown::ZoomFactor().put(1);
+        take_defaults(order);
+        EXPECT_EQ(seen, expected);
+        EXPECT_EQ(session.winoptions.TxtPutArc + session.winoptions.Txt_zoom, "127");
+    }
+}
+
+TEST_F(Options, a_start_zoom_of_0_is_kept_as_it_is_or_as_1) {
+    session.Def_Zoom = 0;
+    take_stored_zoom();
+    EXPECT_EQ(session.ZoomFactor, 0);
+    EXPECT_EQ(session.winoptions.Txt_zoom, "0");
+    take_start_zoom();
+    EXPECT_EQ(session.ZoomFactor, 1);
+    EXPECT_EQ(session.winoptions.Txt_zoom, "0");
+    take_working_copies();
+    EXPECT_EQ(session.ZoomFactor, 0);
 }
 
 TEST_F(Options, take_defaults_rounds_to_the_new_precision_at_once) {
