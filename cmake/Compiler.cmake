@@ -24,3 +24,13 @@ if(VELMORA_SANITIZE)
     -fno-omit-frame-pointer -g1 -O1)
   add_link_options(-fsanitize=address,undefined)
 endif()
+
+# Hardened as the distribution hardens, with the library's own checks of its containers on top.
+add_compile_definitions(_GLIBCXX_ASSERTIONS)
+if(NOT VELMORA_SANITIZE AND NOT WIN32)
+  include(CheckPIESupported)
+  check_pie_supported(LANGUAGES CXX)
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  add_compile_options(-fstack-protector-strong -Wformat -Werror=format-security)
+  add_link_options(-Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
+endif()
