@@ -1,19 +1,64 @@
+#include "app/command_line.h"
 #include "app/program_folder.h"
 #include "app/qt_platform.h"
+#include "commands/handlers.h"
 #include "document/state/program.h"
 #include "runtime/paths.h"
 
 #include <QApplication>
+#include <QTimer>
 
-int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    QApplication::setApplicationName("Velmora");
-    velmora::QtPlatform platform;
-    platform.install();
+#include <iostream>
+
+namespace {
+
+constexpr int kUsageFault = 2;
+
+std::vector<std::string> words_of(const QStringList& arguments) {
+    std::vector<std::string> words;
+    for (const QString& argument : arguments.sliced(1))
+        words.push_back(argument.toStdString());
+    return words;
+}
+
+void choose_folder() {
     const velmora::ProgramFolder folder = velmora::find_program_folder();
     velmora::state::program.program_folder = velmora::runtime::path_text(folder.path);
     for (const auto& file : folder.kept_aside)
         velmora::state::program.kept_aside.push_back(velmora::runtime::path_text(file));
+}
+
+/// Once the main window is there, as the first thing that its user would do.
+void open_at_start(velmora::WindowHost& windows, const std::filesystem::path& file) {
+    windows.events.opened = [&windows, file](const std::string& window) {
+        if (window != "Velmora")
+            return;
+        QTimer::singleShot(0, &windows, [&windows, file] {
+            windows.events.opened = nullptr;
+            windows.run([&] { velmora::open_named(velmora::runtime::path_text(file)); });
+        });
+    };
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (const auto answer = velmora::answer_of({argv + 1, argv + argc})) {
+        std::cout << *answer;
+        return 0;
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("Velmora");
+    const auto line = velmora::command_line_of(words_of(QApplication::arguments()));
+    if (!line.fault.empty()) {
+        std::cerr << "velmora: " << line.fault << '\n';
+        return kUsageFault;
+    }
+    velmora::QtPlatform platform;
+    platform.install();
+    choose_folder();
+    if (!line.file.empty())
+        open_at_start(*platform.windows, line.file);
     platform.windows->start();
     return QApplication::exec();
 }

@@ -85,6 +85,10 @@ void mnu_openfile() {
 
 void mnuRecentFile(int index) {
     const std::string path = state::Velmora.mnuRecentFile.at(static_cast<std::size_t>(index)).path;
+    open_named(path);
+}
+
+void open_named(std::string_view path) {
     state::Velmora.TxtDat_File = path;
     std::int16_t result = False;
     CargaFichero(0, result);

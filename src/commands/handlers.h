@@ -6,6 +6,8 @@
 #include "shapeops/point_editing.h"
 #include "shapeops/sync_points.h"
 
+#include <string_view>
+
 namespace velmora {
 
 // Archivo
@@ -17,6 +19,9 @@ void mnu_closefile();
 void mnu_edit();
 void mnu_print();
 void mnuRecentFile(int index);
+/// Opens the file at an absolute path, as its entry among the recent files would. For what the
+/// desktop names: on the command line, or dropped.
+void open_named(std::string_view path);
 void mnu_exit();
 // Configuración
 void mnu_paramgenerales();

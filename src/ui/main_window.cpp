@@ -1,8 +1,10 @@
 #include "ui/main_window.h"
 
+#include "commands/handlers.h"
 #include "document/coord_list.h"
 #include "document/windows/velmora.h"
 #include "forms/velmora.h"
+#include "ui/file_drop.h"
 #include "ui/shortcuts_first.h"
 
 #include <QApplication>
@@ -86,6 +88,8 @@ void MainWindow::bind() {
 void MainWindow::wire() {
     for (QLineEdit* box : {ui.TxtDat_File, ui.TxtDescDat})
         new ShortcutsFirst(*box);
+    new FileDrop(window_,
+                 [this](const std::string& path) { events().run([&path] { open_named(path); }); });
     canvas_.wire([this](const Handler& handler) { events().run(handler); });
     connect(ui.Lst_Coords, &CoordList::row_clicked, this, [this](const QString& row) {
         events().run([text = row.toStdString()] { Lst_Coords_Click(text); });

@@ -162,5 +162,15 @@ TEST(mnuRecentFile, a_path_that_is_gone_is_reported_and_stays_in_the_list) {
     EXPECT_EQ(platform.settings.get("RecentFiles", "RecentFile1"), platform.path("wing.dat"));
 }
 
+TEST(open_named, opens_as_a_recent_file_does) {
+    RecordingPlatform platform;
+    const std::string path = platform.write("wing.dat", triangle_file());
+    open_named(path);
+    EXPECT_EQ(session.TotalPtos, 3);
+    EXPECT_EQ(session.Velmora.TxtDat_File, path);
+    EXPECT_EQ(session.Velmora.Lst_Coords.size(), 3U);
+    EXPECT_EQ(platform.settings.get("RecentFiles", "RecentFile1"), path);
+}
+
 } // namespace
 } // namespace velmora

@@ -1,14 +1,19 @@
 // The main window's list, canvas, label, status and scroll bars.
 #include "support/outline.h"
+#include "support/places.h"
 #include "windows/canvas_test.h"
 
 #include "ui/coord_list.h"
 
+#include <QDropEvent>
+#include <QFile>
 #include <QLabel>
 #include <QMenu>
+#include <QMimeData>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QUrl>
 #include <QtTest>
 #include <gmock/gmock.h>
 
@@ -260,6 +265,37 @@ TEST_F(MainWindowTest, a_minimized_window_is_known_to_the_session) {
     window("Velmora")->showMinimized();
     settle();
     EXPECT_TRUE(session.Velmora.minimized);
+}
+
+void drop(QWidget& window, const QList<QUrl>& urls) {
+    QMimeData data;
+    data.setUrls(urls);
+    const QPointF place(window.rect().center());
+    QDragEnterEvent entering(place.toPoint(), Qt::CopyAction, &data, Qt::LeftButton,
+                             Qt::NoModifier);
+    QApplication::sendEvent(&window, &entering);
+    QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &event);
+}
+
+TEST_F(MainWindowTest, a_dropped_file_is_opened) {
+    const std::string file = path("dropped.dat");
+    ASSERT_TRUE(
+        QFile::copy(QString::fromStdString((source_dir() / "data/samples/raiz.dat").string()),
+                    QString::fromStdString(file)));
+    drop(*window("Velmora"), {QUrl::fromLocalFile(QString::fromStdString(file))});
+    settle();
+    EXPECT_EQ(session.Velmora.TxtDat_File, file);
+    EXPECT_EQ(session.TotalPtos, Forma.Pto.upper() + 1);
+}
+
+TEST_F(MainWindowTest, what_is_not_one_file_of_this_machine_is_not_taken) {
+    session.Velmora.TxtDat_File = "before";
+    drop(*window("Velmora"), {QUrl(QStringLiteral("ftp://nowhere/wing.dat"))});
+    drop(*window("Velmora"), {QUrl::fromLocalFile(QStringLiteral("/a.dat")),
+                              QUrl::fromLocalFile(QStringLiteral("/b.dat"))});
+    settle();
+    EXPECT_EQ(session.Velmora.TxtDat_File, "before");
 }
 
 } // namespace
