@@ -3,9 +3,14 @@
 #include "document/forma.h"
 #include "document/number_text.h"
 #include "document/state/loading.h"
+#include "formats/draft.h"
 #include "formats/files.h"
+#include "formats/open_number.h"
 #include "formats/record_file.h"
-#include "runtime/paths.h"
+#include "runtime/error.h"
+
+#include <optional>
+#include <string>
 
 namespace velmora {
 
@@ -34,8 +39,9 @@ void write_sync_points(const Array<Pto>& points, bool all) {
             write_record(record_of(points[i]));
 }
 
-void write_records(const Side& side, bool all_sync) {
-    open_records_anew(side.Txt_File2);
+void write_records(const Side& side, bool all_sync, const std::string& path) {
+    state::loading.files.open_random(1, path, FixedRecord::length);
+    const OpenNumber file(1);
     write_record({"Fichero DAT(KMR)2002", "corrpoltrap"});
     write_record({"SLATEWORKS", ""});
     write_outline(side.Ptos2);
@@ -46,16 +52,30 @@ void write_records(const Side& side, bool all_sync) {
     state::loading.files.close(1);
 }
 
-} // namespace
-
-void remove_earlier_result(const Side& side) {
-    if (runtime::file_exists(side.Txt_File2))
-        BorraFichero(side.Txt_File2);
+void write_whole(const Side& side, bool all_sync, const Draft& draft) {
+    write_records(side, all_sync, draft.path());
+    SetDotDecimals(draft.path());
 }
 
-void write_result(const Side& side, bool all_sync) {
-    write_or_make_room(side.Txt_File2, [&] { write_records(side, all_sync); });
-    SetDotDecimals(side.Txt_File2);
+} // namespace
+
+void write_results(const Side& first, const Side& second, bool all_sync) {
+    Draft one(first.Txt_File2);
+    write_whole(first, all_sync, one);
+    std::optional<Draft> other;
+    trap(
+        [&] {
+            other.emplace(second.Txt_File2);
+            write_whole(second, all_sync, *other);
+        },
+        [&](const RuntimeError&) {
+            one.take_place();
+            throw;
+        });
+    one.retire_target();
+    other->retire_target();
+    one.take_name();
+    other->take_name();
 }
 
 } // namespace velmora

@@ -2,6 +2,8 @@
 
 #include "document/state/loading.h"
 #include "document/state/program.h"
+#include "formats/draft.h"
+#include "formats/open_number.h"
 #include "platform/platform.h"
 #include "platform/shell.h"
 #include "runtime/error.h"
@@ -20,19 +22,6 @@ constexpr int kSource = 1;
 constexpr int kTemp = 2;
 constexpr int kHeaderLines = 3;
 constexpr int kProbedLines = 10;
-
-/// Closes a number on every way out, so that a fault leaves none behind. A number that was open
-/// before is not its own.
-class OpenNumber {
-  public:
-    explicit OpenNumber(int number) : number_(number) {}
-    ~OpenNumber() { state::loading.files.abandon(number_); }
-    OpenNumber(const OpenNumber&) = delete;
-    OpenNumber& operator=(const OpenNumber&) = delete;
-
-  private:
-    int number_;
-};
 
 /// What lines 4 to 13 say about a character.
 struct Probe {
@@ -60,17 +49,6 @@ bool same_file(std::string_view a, std::string_view b) {
     return std::filesystem::equivalent(runtime::native_path(a), runtime::native_path(b), none);
 }
 
-/// Runs `write`, which makes the file. What a fault broke off goes before the fault rises.
-template <class Write>
-void write_whole(std::string_view path, Write&& write) {
-    try {
-        write();
-    } catch (...) {
-        runtime::remove_broken_off(path);
-        throw;
-    }
-}
-
 /// All of file 1 from where it stands but for its last `left_out` bytes, with `to` for `from`, to a
 /// file of its own.
 void write_replaced(const std::string& temp, char from, char to, std::uint64_t left_out) {
@@ -88,62 +66,58 @@ void write_replaced(const std::string& temp, char from, char to, std::uint64_t l
     state::loading.files.close(kTemp);
 }
 
-/// The source's bytes as write_replaced gives them. The copy is whole and written out when this
-/// returns: the source may go only then.
-void copy_replaced(std::string_view path, const std::string& temp, char from, char to,
+/// The source's bytes as write_replaced gives them.
+void copy_replaced(std::string_view path, const std::string& copy, char from, char to,
                    std::uint64_t left_out) {
     state::loading.files.open_bytes(kSource, path);
     const OpenNumber source(kSource);
-    // The copy would be made of itself.
-    if (same_file(path, temp))
-        raise(error::file_already_open);
-    if (runtime::file_exists(temp))
-        BorraFichero(temp);
-    write_whole(temp, [&] { write_replaced(temp, from, to, left_out); });
+    write_replaced(copy, from, to, left_out);
 }
 
-/// Puts a copy in the file's place. The copy is made whole beside the file first: where that fails
-/// the file stands as it was, and a symbolic link leads to the new one.
+/// No pass leaves this file in the program's folder, not even one of another day's.
+void delete_left_temp_file(std::string_view source) {
+    const std::string left = program_file("\\temp.dat");
+    // It would be taken from under the pass.
+    if (same_file(source, left))
+        raise(error::file_already_open);
+    if (runtime::file_exists(left))
+        BorraFichero(left);
+}
+
+/// The passed copy in the program's folder, under a name that no other program has.
+std::string passed_copy(std::string_view path, char from, char to) {
+    const std::string copy = runtime::free_name_in(state::program.program_folder, "temp-", ".dat");
+    try {
+        copy_replaced(path, copy, from, to, 0);
+    } catch (...) {
+        runtime::remove_file(copy);
+        throw;
+    }
+    return copy;
+}
+
+/// Puts a copy in the file's place; where that fails the file stands as it was, and a symbolic link
+/// leads to the new one.
 void replace_by_copy(std::string_view path, const std::string& copy) {
-    const std::string target = runtime::link_target(path);
-    runtime::FileBeside fresh(target);
+    Draft fresh(runtime::link_target(path));
     runtime::copy_file(copy, fresh.path());
     fresh.take_permissions();
-    BorraFichero(target);
-    fresh.take_name();
-}
-
-/// Keeps a passed copy where the next pass does not write its own.
-std::string keep_to_be_read(const std::string& copy) {
-    const std::string kept = program_file("\\leido.dat");
-    std::error_code fault;
-    std::filesystem::rename(runtime::native_path(copy), runtime::native_path(kept), fault);
-    return fault ? copy : kept;
+    fresh.take_place();
 }
 
 /// The pass over a whole file, by way of a copy in the program's folder. Gives what is to be read:
 /// the file, or the copy where the file can't be rewritten.
 std::string rewrite(std::string_view path, char from, char to) {
-    const std::string temp = program_file("\\temp.dat");
-    copy_replaced(path, temp, from, to, 0);
+    delete_left_temp_file(path);
+    const std::string copy = passed_copy(path, from, to);
     std::string to_read(path);
     trap(
         [&] {
-            replace_by_copy(path, temp);
-            BorraFichero(temp);
+            replace_by_copy(path, copy);
+            BorraFichero(copy);
         },
-        [&](const RuntimeError&) { to_read = keep_to_be_read(temp); });
+        [&](const RuntimeError&) { to_read = copy; });
     return to_read;
-}
-
-/// Where a folder takes no new file, a full disk apart, the present one may still be written over.
-void replace_or_write_over(std::string_view path, const std::string& copy) {
-    trap([&] { replace_by_copy(path, copy); },
-         [&](const RuntimeError& failure) {
-             if (failure.number == error::disk_full)
-                 throw;
-             runtime::copy_file(copy, path);
-         });
 }
 
 std::string_view after_last(std::string_view text, std::string_view separators) {
@@ -191,20 +165,10 @@ void SetDotDecimals(std::string_view path) {
     constexpr std::uint64_t line_end = 2;
     if (!probe(path, ',').found)
         return;
-    const std::string temp = program_file("\\temp.dat");
-    copy_replaced(path, temp, ',', '.', line_end);
-    replace_or_write_over(path, temp);
-    BorraFichero(temp);
-}
-
-void write_or_make_room(std::string_view path, const std::function<void()>& write) {
-    trap(write, [&](const RuntimeError& failure) {
-        if (failure.number == error::disk_full) {
-            state::loading.files.abandon(kSource);
-            runtime::remove_broken_off(path);
-        }
-        throw;
-    });
+    delete_left_temp_file(path);
+    Draft dotted(path);
+    copy_replaced(path, dotted.path(), ',', '.', line_end);
+    dotted.take_name();
 }
 
 } // namespace velmora

@@ -1,7 +1,6 @@
 // Helpers of all file routines: the recycle bin, the pieces of a path, the passes over a file.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -28,9 +27,5 @@ std::string TabToSpace(std::string_view path);
 /// Rewrites the file with "." for "," when one of lines 4 to 13 has a comma; the last two bytes
 /// are lost, on purpose.
 void SetDotDecimals(std::string_view path);
-
-/// Runs `write`, which writes the file through file 1. What a full disk broke off is removed before
-/// the error rises: it is no use, and what comes to keep the shape needs the room.
-void write_or_make_room(std::string_view path, const std::function<void()>& write);
 
 } // namespace velmora

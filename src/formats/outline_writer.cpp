@@ -10,7 +10,9 @@
 #include "document/feedback.h"
 #include "document/number_text.h"
 #include "document/refresh.h"
+#include "formats/draft.h"
 #include "formats/files.h"
+#include "formats/open_number.h"
 #include "formats/record_file.h"
 #include "formats/sync_dat.h"
 #include "platform/dialogs.h"
@@ -54,23 +56,23 @@ bool ensure_sync_point() {
 }
 
 /// Refused, the file stays as far as it was written, on purpose.
-std::int16_t write_sync_records() {
-    open_records_anew(state::document.FileName);
+std::int16_t write_sync_records(const std::string& path) {
+    state::loading.files.open_random(1, path, FixedRecord::length);
+    const OpenNumber file(1);
     sync_dat_outline(state::Velmora.TxtDescDat, write_record, step_progress);
-    if (!ensure_sync_point()) {
-        state::loading.files.close(1);
-        return False;
-    }
-    sync_dat_sync_points(write_record, step_progress);
+    const bool wanted = ensure_sync_point();
+    if (wanted)
+        sync_dat_sync_points(write_record, step_progress);
     state::loading.files.close(1);
-    return True;
+    return wanted ? True : False;
 }
 
 std::int16_t write_sync_dat() {
-    std::int16_t written = False;
-    write_or_make_room(state::document.FileName, [&] { written = write_sync_records(); });
+    Draft draft(state::document.FileName);
+    const std::int16_t written = write_sync_records(draft.path());
     if (written == True)
-        SetDotDecimals(state::document.FileName);
+        SetDotDecimals(draft.path());
+    draft.take_place();
     return written;
 }
 
@@ -91,34 +93,43 @@ void write_point_lines(char between) {
     });
 }
 
-/// The forms that can't hold sync points ask first.
+/// The forms that can't hold sync points ask first. Refused, the earlier file goes all the same, on
+/// purpose.
 bool may_lose_sync_points() {
-    return !HayPuntosSinc() || MuestraMensaje(message::sync_points_lost) != answer::no;
+    if (!HayPuntosSinc() || MuestraMensaje(message::sync_points_lost) != answer::no)
+        return true;
+    if (runtime::file_exists(state::document.FileName))
+        BorraFichero(state::document.FileName);
+    return false;
+}
+
+/// A text file, by what `write` writes through file 1.
+template <class Write>
+std::int16_t write_text(Write&& write) {
+    if (!may_lose_sync_points())
+        return False;
+    Draft draft(state::document.FileName);
+    state::loading.files.open_output(1, draft.path());
+    const OpenNumber file(1);
+    write();
+    state::loading.files.close(1);
+    draft.take_place();
+    return True;
 }
 
 std::int16_t write_script() {
-    if (!may_lose_sync_points())
-        return False;
-    write_or_make_room(state::document.FileName, [] {
-        state::loading.files.open_output(1, state::document.FileName);
+    return write_text([] {
         write_line("pline");
         write_point_lines(',');
         write_line("");
-        state::loading.files.close(1);
     });
-    return True;
 }
 
 std::int16_t write_profile_dat() {
-    if (!may_lose_sync_points())
-        return False;
-    write_or_make_room(state::document.FileName, [] {
-        state::loading.files.open_output(1, state::document.FileName);
+    return write_text([] {
         write_line(runtime::to_1252(runtime::UCase(SoloNombre(state::document.FileName))));
         write_point_lines(' ');
-        state::loading.files.close(1);
     });
-    return True;
 }
 
 } // namespace
@@ -130,8 +141,6 @@ bool HayPuntosSinc() {
 
 std::int16_t EscribeFichero() {
     state::document.FileName = state::Velmora.TxtDat_File;
-    if (runtime::file_exists(state::document.FileName))
-        BorraFichero(state::document.FileName);
     state::Velmora.Pbar1.Max = Forma.Pto.upper() + 1;
     state::Velmora.Pbar1.Value = 0;
     if (state::options.GenDATSinc && write_sync_dat() == False)

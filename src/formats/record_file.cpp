@@ -3,7 +3,6 @@
 #include "document/forma.h"
 #include "document/number_text.h"
 #include "document/state/loading.h"
-#include "runtime/paths.h"
 
 namespace velmora {
 
@@ -17,14 +16,6 @@ void take_point(const FixedRecord& record, Array<Pto>& points, std::int32_t& cou
     point.X = CDbl(record.field1());
     point.Y = CDbl(record.field2());
     ++count;
-}
-
-void open_records_anew(std::string_view path) {
-    if (runtime::file_exists(path)) {
-        state::loading.files.open_output(1, path);
-        state::loading.files.close(1);
-    }
-    state::loading.files.open_random(1, path, FixedRecord::length);
 }
 
 void write_record(const FixedRecord& record) {

@@ -18,11 +18,7 @@ namespace velmora {
 /// counted.
 void take_point(const FixedRecord& record, Array<Pto>& points, std::int32_t& count);
 
-/// Opens the file for records, empty. Records are written over what stands there, so a file that
-/// could not be deleted is emptied first: the new one is whole and nothing but itself. Raises the
-/// file's errors.
-void open_records_anew(std::string_view path);
-
+/// To file 1.
 void write_record(const FixedRecord& record);
 
 } // namespace velmora

@@ -6,6 +6,8 @@
 #include "document/windows/velmora.h"
 #include "formats/files.h"
 #include "formats/sync_dat.h"
+#include "platform/platform.h"
+#include "platform/shell.h"
 #include "runtime/file_beside.h"
 #include "runtime/files.h"
 #include "runtime/paths.h"
@@ -28,24 +30,29 @@ std::vector<std::string> places() {
             runtime::path_text(std::filesystem::temp_directory_path(none))};
 }
 
-std::string free_number(const std::string& folder) {
-    for (int number = 1;; ++number) {
-        std::string path = runtime::join(folder, "recuperado" + std::to_string(number) + ".dat");
-        if (!runtime::file_exists(path))
-            return path;
-    }
+std::string numbered(const std::string& folder, int number) {
+    return runtime::join(folder, "recuperado" + std::to_string(number) + ".dat");
 }
 
-/// The name for the new one. An older one goes under a free number; where it must stay, another
-/// user's for one, the new one takes the number.
+/// An older one goes under a free number. Where it must stay, another user's for one, it stays.
+void make_way(const std::string& folder, const std::string& path) {
+    if (!runtime::file_exists(path))
+        return;
+    for (int number = 1;; ++number)
+        if (const std::string other = numbered(folder, number); !runtime::file_exists(other)) {
+            std::error_code fault;
+            std::filesystem::rename(runtime::native_path(path), runtime::native_path(other), fault);
+            return;
+        }
+}
+
+/// The name for the new one; what could not make way leaves it a number.
 std::string free_name(const std::string& folder) {
     std::string path = runtime::join(folder, "recuperado.dat");
-    if (!runtime::file_exists(path))
-        return path;
-    std::string other = free_number(folder);
-    std::error_code fault;
-    std::filesystem::rename(runtime::native_path(path), runtime::native_path(other), fault);
-    return fault ? other : path;
+    make_way(folder, path);
+    for (int number = 1; runtime::file_exists(path); ++number)
+        path = numbered(folder, number);
+    return path;
 }
 
 /// Through files of its own: the program's may be open, or at fault.
@@ -67,8 +74,10 @@ void write_outline(const std::string& path) {
 std::string save_in(const std::string& folder) {
     runtime::FileBeside fresh(runtime::join(folder, "recuperado.dat"));
     write_outline(fresh.path());
+    platform().shell.settle(fresh.path());
     std::string path = free_name(folder);
     fresh.take_name(path);
+    platform().shell.settle(folder);
     return path;
 }
 

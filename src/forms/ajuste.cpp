@@ -127,14 +127,9 @@ void Cmd_Ajuste_Click() {
 }
 
 void Cmd_save_Click() {
-    const Side A = side_of("A");
-    const Side B = side_of("B");
     state::ajuste.cmd_exit_enabled = false;
     set_pointer(kHourglass);
-    remove_earlier_result(A);
-    remove_earlier_result(B);
-    write_result(A, state::ajuste.ChkPtosCtrl);
-    write_result(B, state::ajuste.ChkPtosCtrl);
+    write_results(side_of("A"), side_of("B"), state::ajuste.ChkPtosCtrl);
     set_pointer(kDefaultPointer);
     state::ajuste.cmd_exit_enabled = true;
 }

@@ -14,6 +14,12 @@ class Shell {
     virtual void play(std::string_view file) = 0;
     /// To the recycle bin, or a plain delete where a path has none. True when the file is gone.
     virtual bool recycle(std::string_view path) = 0;
+    /// To the recycle bin alone. False where a path has none: the file then stands. Where nobody
+    /// tells the two apart, a delete counts as a bin.
+    virtual bool to_bin(std::string_view path) { return recycle(path); }
+    /// Waits until what was written to the file, or the names in the folder, are on the disk.
+    /// Raises 57, 61.
+    virtual void settle(std::string_view /*path*/) {}
 };
 
 } // namespace velmora

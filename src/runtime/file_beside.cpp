@@ -1,7 +1,12 @@
 #include "runtime/file_beside.h"
 
 #include "runtime/file_faults.h"
+#include "runtime/file_stream.h"
 #include "runtime/paths.h"
+
+#include <array>
+#include <charconv>
+#include <random>
 
 namespace velmora::runtime {
 namespace {
@@ -11,21 +16,30 @@ void raise_if(const std::error_code& fault) {
         raise(fault_number(fault, FileNeed::made));
 }
 
-/// Short, so that a file of the longest name has one beside it too.
-std::string free_name_beside(std::string_view target) {
-    const auto folder = native_path(target).parent_path();
+std::string any_number() {
+    std::array<char, 16> digits{};
+    std::random_device random;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), random(), 36).ptr;
+    return {digits.data(), end};
+}
+
+} // namespace
+
+// Another program may look for a name at the same moment, so a counted one would do for both.
+std::string free_name_in(std::string_view folder, std::string_view before,
+                         std::string_view behind) {
     std::error_code ignored;
-    for (int number = 0;; ++number) {
-        const auto path = folder / ("velmora-" + std::to_string(number) + ".tmp");
+    for (;;) {
+        const std::string name = std::string(before) + any_number() + std::string(behind);
+        const auto path = native_path(folder) / name;
         if (!std::filesystem::exists(std::filesystem::symlink_status(path, ignored)))
             return path_text(path);
     }
 }
 
-} // namespace
-
 FileBeside::FileBeside(std::string_view target)
-    : target_(target), path_(free_name_beside(target)) {}
+    : target_(target),
+      path_(free_name_in(path_text(native_path(target).parent_path()), "velmora-", ".tmp")) {}
 
 FileBeside::~FileBeside() {
     if (!path_.empty())
@@ -37,13 +51,16 @@ void FileBeside::take_permissions() const {
     const auto status = std::filesystem::status(native_path(target_), fault);
     if (!std::filesystem::exists(status))
         return;
-    std::filesystem::permissions(native_path(path_), status.permissions(), fault);
+    again_if_interrupted(fault, [&] {
+        std::filesystem::permissions(native_path(path_), status.permissions(), fault);
+    });
     raise_if(fault);
 }
 
 void FileBeside::take_name(std::string_view name) {
     std::error_code fault;
-    std::filesystem::rename(native_path(path_), native_path(name), fault);
+    again_if_interrupted(
+        fault, [&] { std::filesystem::rename(native_path(path_), native_path(name), fault); });
     raise_if(fault);
     path_.clear();
 }
@@ -55,15 +72,6 @@ std::string link_target(std::string_view path) {
         return std::string(path);
     const auto target = std::filesystem::canonical(native, fault);
     return fault ? std::string(path) : path_text(target);
-}
-
-void remove_broken_off(std::string_view path) {
-    std::error_code ignored;
-    const auto native = native_path(path);
-    if (!std::filesystem::is_regular_file(native, ignored))
-        return;
-    if (!remove_file(path))
-        std::filesystem::resize_file(native, 0, ignored);
 }
 
 } // namespace velmora::runtime

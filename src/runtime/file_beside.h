@@ -9,7 +9,7 @@ namespace velmora::runtime {
 
 class FileBeside {
   public:
-    /// Finds a free name in the folder of `target`; nothing is written yet.
+    /// Finds a name in the folder of `target` that no other program finds; nothing is written yet.
     explicit FileBeside(std::string_view target);
     /// Removes what did not take the name.
     ~FileBeside();
@@ -33,8 +33,9 @@ class FileBeside {
 /// What a symbolic link leads to in the end; any other path as it is.
 [[nodiscard]] std::string link_target(std::string_view path);
 
-/// Removes a file that broke off, or empties it where it can't be removed, so that it takes no
-/// room. Anything but a regular file, such as a device, is left alone. Never raises.
-void remove_broken_off(std::string_view path);
+/// A path in the folder that is free, and that no other running program comes upon: between the two
+/// texts stands a number by chance. Short, so that there is one beside a file of the longest name.
+[[nodiscard]] std::string free_name_in(std::string_view folder, std::string_view before,
+                                       std::string_view behind);
 
 } // namespace velmora::runtime

@@ -14,4 +14,12 @@ enum class FileNeed { present, made };
 /// what has no number of its own.
 [[nodiscard]] int fault_number(const std::error_code& fault, FileNeed need);
 
+/// Runs `operation`, which sets `fault`, again as long as a signal broke it off.
+template <class Operation>
+void again_if_interrupted(const std::error_code& fault, Operation&& operation) {
+    do
+        operation();
+    while (fault == std::errc::interrupted);
+}
+
 } // namespace velmora::runtime

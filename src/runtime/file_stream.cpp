@@ -14,14 +14,25 @@ std::error_code last_fault() {
     return {errno, std::generic_category()};
 }
 
-FileHandle system_open(const std::filesystem::path& path, const char* mode) {
+bool interrupted() {
+    return errno == EINTR;
+}
+
+std::FILE* open_once(const std::filesystem::path& path, const char* mode) {
     errno = 0;
 #ifdef _WIN32
     const std::wstring wide_mode(mode, mode + std::char_traits<char>::length(mode));
-    return FileHandle(_wfopen(path.c_str(), wide_mode.c_str()));
+    return _wfopen(path.c_str(), wide_mode.c_str());
 #else
-    return FileHandle(std::fopen(path.c_str(), mode));
+    return std::fopen(path.c_str(), mode);
 #endif
+}
+
+FileHandle system_open(const std::filesystem::path& path, const char* mode) {
+    std::FILE* file = open_once(path, mode);
+    while (file == nullptr && interrupted())
+        file = open_once(path, mode);
+    return FileHandle(file);
 }
 
 /// The buffers here are the only ones: the library's would copy every byte once more.
@@ -86,6 +97,33 @@ FileHandle open_to_update(const std::filesystem::path& path) {
     return open_present(path);
 }
 
+namespace {
+
+// A signal may break off either of them before or within its work; what is done counts.
+std::size_t read_some(std::FILE* file, char* place, std::size_t size) {
+    std::size_t got = 0;
+    do {
+        errno = 0;
+        std::clearerr(file);
+        got = std::fread(place, 1, size, file);
+    } while (got == 0 && std::ferror(file) != 0 && interrupted());
+    return got;
+}
+
+bool write_all(std::FILE* file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        errno = 0;
+        const std::size_t done = std::fwrite(bytes.data(), 1, bytes.size(), file);
+        bytes.remove_prefix(done);
+        if (!bytes.empty() && !interrupted())
+            return false;
+        std::clearerr(file);
+    }
+    return true;
+}
+
+} // namespace
+
 void ReadBuffer::make_room() {
     if (start_ > 0) {
         std::copy(bytes_.data() + start_, bytes_.data() + end_, bytes_.data());
@@ -98,8 +136,7 @@ void ReadBuffer::make_room() {
 
 bool ReadBuffer::more(std::FILE* file) {
     make_room();
-    errno = 0;
-    const std::size_t got = std::fread(bytes_.data() + end_, 1, bytes_.size() - end_, file);
+    const std::size_t got = read_some(file, bytes_.data() + end_, bytes_.size() - end_);
     if (got == 0 && std::ferror(file) != 0)
         raise(fault_number(last_fault(), FileNeed::present));
     end_ += got;
@@ -115,8 +152,7 @@ void WriteBuffer::add(std::FILE* file, std::string_view bytes) {
 void WriteBuffer::flush(std::FILE* file) {
     if (bytes_.empty())
         return;
-    errno = 0;
-    const bool whole = std::fwrite(bytes_.data(), 1, bytes_.size(), file) == bytes_.size();
+    const bool whole = write_all(file, bytes_);
     bytes_.clear();
     if (!whole)
         raise(fault_number(last_fault(), FileNeed::made));
@@ -134,7 +170,8 @@ void seek(std::FILE* file, std::uint64_t position) {
 
 void close_checked(FileHandle file) {
     errno = 0;
-    if (std::fclose(file.release()) != 0)
+    // Broken off by a signal it is closed all the same, and nothing waits here to be written.
+    if (std::fclose(file.release()) != 0 && !interrupted())
         raise(fault_number(last_fault(), FileNeed::made));
 }
 

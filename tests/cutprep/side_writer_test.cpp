@@ -27,12 +27,7 @@ struct SideWriterTest : testing::Test, test::Workbench {
         test::fill(session.PtosA2, A2);
         test::fill(session.PtosB2, B2);
     }
-    static void save(bool all_sync = false) {
-        for (const char* lado : {"A", "B"}) {
-            remove_earlier_result(side_of(lado));
-            write_result(side_of(lado), all_sync);
-        }
-    }
+    static void save(bool all_sync = false) { write_results(side_of("A"), side_of("B"), all_sync); }
     std::string written_A() const { return RecordingPlatform::read(path_A); }
     std::string written_B() const { return RecordingPlatform::read(path_B); }
 };
@@ -112,14 +107,34 @@ TEST_F(SideWriterTest, the_same_result_can_be_saved_again) {
 
 TEST_F(SideWriterTest, an_earlier_file_goes_to_the_recycle_bin) {
     machine.write("raiz2.DAT", "x");
-    remove_earlier_result(side_of("A"));
-    remove_earlier_result(side_of("B"));
+    save();
     EXPECT_EQ(machine.shell.recycled, std::vector<std::string>{path_A});
+}
+
+TEST_F(SideWriterTest, both_sides_under_one_name_leave_the_second) {
+    machine.write("raiz2.DAT", "x");
+    session.ajuste.Txt_File_B2 = path_A;
+    save();
+    EXPECT_EQ(written_A().substr(88, 4), "1   ");
+    EXPECT_EQ(machine.shell.recycled, std::vector<std::string>{path_A});
+}
+
+TEST_F(SideWriterTest, a_second_side_that_fails_leaves_its_earlier_file_and_a_whole_first_one) {
+    save();
+    const std::string whole = written_A();
+    machine.write("raiz2.DAT", "old");
+    std::filesystem::create_directory(machine.path("carpeta"));
+    for (const std::string& refused :
+         {machine.path("no/such/folder2.DAT"), machine.path("carpeta")}) {
+        session.ajuste.Txt_File_B2 = refused;
+        EXPECT_NE(number_of([] { save(); }), 0);
+        EXPECT_EQ(written_A(), whole);
+    }
 }
 
 TEST_F(SideWriterTest, a_folder_that_is_not_there_raises_76) {
     session.ajuste.Txt_File_B2 = machine.path("no/such/folder2.DAT");
-    EXPECT_EQ(number_of([] { write_result(side_of("B"), false); }), error::path_not_found);
+    EXPECT_EQ(number_of([] { save(); }), error::path_not_found);
 }
 
 } // namespace

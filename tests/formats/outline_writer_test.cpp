@@ -8,6 +8,7 @@
 #include "runtime/paths.h"
 #include "support/recording_platform.h"
 #include "support/unprivileged.h"
+#include "support/watching.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -259,16 +260,26 @@ TEST(EscribeFichero, a_file_1_left_open_raises_55) {
 }
 
 #ifdef __linux__
-TEST(EscribeFichero, a_full_disk_raises_61_in_each_form) {
+TEST(EscribeFichero, a_device_is_no_place_for_a_file) {
     for (const Form form : {Form::sync_dat, Form::script, Form::profile}) {
         RecordingPlatform platform;
         choose(form);
-        // The link is not deleted, so the file is written to a device that is always full.
-        platform.shell.recycle_fails = true;
-        std::filesystem::create_symlink("/dev/full", platform.folder / "wing.dat");
-        triangle(platform.path("wing.dat"));
-        EXPECT_EQ(number_of([] { EscribeFichero(); }), 61);
+        triangle("/dev/null");
+        Forma.Pto[1].Sinc = 0;
+        EXPECT_EQ(number_of([] { EscribeFichero(); }), 75);
+        EXPECT_TRUE(platform.shell.recycled.empty());
     }
+}
+
+TEST(EscribeFichero, a_link_gives_way_to_the_file_as_any_other_earlier_file) {
+    RecordingPlatform platform;
+    platform.shell.recycle_fails = true;
+    platform.write("lejos.dat", "kept");
+    std::filesystem::create_symlink("lejos.dat", platform.folder / "wing.dat");
+    triangle(platform.path("wing.dat"));
+    EXPECT_EQ(EscribeFichero(), -1);
+    EXPECT_FALSE(std::filesystem::is_symlink(platform.folder / "wing.dat"));
+    EXPECT_EQ(RecordingPlatform::read(platform.path("lejos.dat")), "kept");
 }
 
 TEST(EscribeFichero, what_a_full_disk_broke_off_is_removed) {
@@ -287,15 +298,34 @@ TEST(EscribeFichero, what_a_full_disk_broke_off_is_removed) {
     }
 }
 
-TEST(EscribeFichero, another_fault_than_a_full_disk_removes_nothing) {
+#endif
+
+TEST(EscribeFichero, a_fault_leaves_the_earlier_file_and_the_number_of_another_use) {
     RecordingPlatform platform;
-    platform.shell.recycle_fails = true;
     triangle(platform.write("wing.dat", "old"));
     session.files.open_input(1, session.Velmora.TxtDat_File);
     EXPECT_EQ(number_of([] { EscribeFichero(); }), 55);
     EXPECT_TRUE(session.files.is_open(1));
+    EXPECT_EQ(RecordingPlatform::read(session.Velmora.TxtDat_File), "old");
+    EXPECT_TRUE(platform.shell.recycled.empty());
 }
-#endif
+
+TEST(EscribeFichero, the_earlier_file_stands_until_the_new_one_is_whole) {
+    for (const Form form : {Form::sync_dat, Form::script, Form::profile}) {
+        RecordingPlatform platform;
+        choose(form);
+        const std::string path = platform.write("wing.dat", "old");
+        triangle(path);
+        Forma.Pto[1].Sinc = flag(form == Form::sync_dat) ? 1 : 0;
+        int steps = 0;
+        const test::WatchingTurns turns([&] {
+            ++steps;
+            EXPECT_EQ(RecordingPlatform::read(path), "old");
+        });
+        EXPECT_EQ(EscribeFichero(), -1);
+        EXPECT_GE(steps, 4);
+    }
+}
 
 TEST(HayPuntosSinc, only_the_value_1_counts) {
     RecordingPlatform platform;

@@ -3,7 +3,6 @@
 #include "runtime/paths.h"
 #include "support/error_number.h"
 #include "support/temporary_folder.h"
-#include "support/unprivileged.h"
 
 #include <filesystem>
 #include <fstream>
@@ -58,13 +57,25 @@ TEST(FileBeside, what_did_not_take_the_name_is_gone) {
     EXPECT_EQ(files_in(folder.path()), 1U);
 }
 
-TEST(FileBeside, passes_over_names_that_are_taken) {
+TEST(FileBeside, two_of_one_target_stand_apart) {
     const TemporaryFolder folder;
-    folder.write("velmora-0.tmp", "of another");
-    FileBeside fresh(folder.path("ala.dat"));
-    put(fresh.path(), "new");
-    fresh.take_name();
-    EXPECT_EQ(folder.read("velmora-0.tmp"), "of another");
+    FileBeside one(folder.path("ala.dat"));
+    FileBeside other(folder.path("ala.dat"));
+    EXPECT_NE(one.path(), other.path());
+    put(one.path(), "one");
+    put(other.path(), "other");
+    one.take_name();
+    EXPECT_EQ(folder.read("ala.dat"), "one");
+    other.take_name();
+    EXPECT_EQ(folder.read("ala.dat"), "other");
+}
+
+TEST(FreeNameIn, is_a_name_by_chance_between_the_two_texts) {
+    const TemporaryFolder folder;
+    const std::string path = free_name_in(folder.path(""), "temp-", ".dat");
+    EXPECT_TRUE(path.starts_with(folder.path("temp-"))) << path;
+    EXPECT_TRUE(path.ends_with(".dat")) << path;
+    EXPECT_NE(path, free_name_in(folder.path(""), "temp-", ".dat"));
 }
 
 TEST(FileBeside, a_file_that_was_never_written_takes_no_name) {
@@ -80,15 +91,6 @@ TEST(LinkTarget, a_path_that_is_no_link_stays_as_it_is) {
     const std::string path = folder.write("ala.dat", "x");
     EXPECT_EQ(link_target(path), path);
     EXPECT_EQ(link_target(folder.path("none.dat")), folder.path("none.dat"));
-}
-
-TEST(RemoveBrokenOff, takes_a_file_and_leaves_what_is_none) {
-    const TemporaryFolder folder;
-    remove_broken_off(folder.write("half.dat", "x"));
-    EXPECT_FALSE(file_exists(folder.path("half.dat")));
-    remove_broken_off(path_text(folder.path()));
-    EXPECT_TRUE(fs::is_directory(folder.path()));
-    remove_broken_off(folder.path("none.dat"));
 }
 
 #ifdef __linux__
@@ -112,25 +114,6 @@ TEST(LinkTarget, follows_links_to_their_end) {
     fs::create_symlink("none", folder.path() / "astray");
     EXPECT_EQ(link_target(folder.path("two")), path_text(fs::canonical(native_path(path))));
     EXPECT_EQ(link_target(folder.path("astray")), folder.path("astray"));
-}
-
-TEST(RemoveBrokenOff, a_link_to_a_device_stays) {
-    const TemporaryFolder folder;
-    fs::create_symlink("/dev/full", folder.path() / "full");
-    remove_broken_off(folder.path("full"));
-    EXPECT_TRUE(fs::is_symlink(folder.path() / "full"));
-}
-
-TEST(RemoveBrokenOff, what_can_not_be_removed_is_emptied) {
-    const TemporaryFolder folder;
-    const std::string path = folder.write("half.dat", "half a file");
-    fs::permissions(native_path(path), fs::perms::all);
-    fs::permissions(folder.path(), fs::perms{0555});
-    const test::OrdinaryUser user;
-    if (!user.stands())
-        GTEST_SKIP() << "no other user to be";
-    remove_broken_off(path);
-    EXPECT_EQ(fs::file_size(native_path(path)), 0U);
 }
 #endif
 

@@ -2,6 +2,7 @@
 
 #include "adapters/qt/desktop_programs.h"
 #include "adapters/qt/recycle_bin.h"
+#include "adapters/qt/settling.h"
 #include "adapters/qt/sound.h"
 #include "runtime/paths.h"
 #include "toolkit/qt_text.h"
@@ -60,6 +61,10 @@ class QtShell : public Shell {
     }
 
     bool recycle(std::string_view path) override { return recycle_file(path_of(path)); }
+
+    bool to_bin(std::string_view path) override { return move_to_bin(path_of(path)); }
+
+    void settle(std::string_view path) override { settle_on_disk(path_of(path)); }
 
   private:
     static int started(const QUrl& url) {

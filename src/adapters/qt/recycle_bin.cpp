@@ -38,12 +38,15 @@ bool bin_is_ready(const QString&) {
 
 } // namespace
 
-bool recycle_file(const QString& path) {
+bool move_to_bin(const QString& path) {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     QString in_bin;
-    if (bin_is_ready(absolute) && QFile::moveToTrash(absolute, &in_bin) && is_gone(absolute))
-        return true;
-    return QFile::remove(absolute) || is_gone(absolute);
+    return bin_is_ready(absolute) && QFile::moveToTrash(absolute, &in_bin) && is_gone(absolute);
+}
+
+bool recycle_file(const QString& path) {
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    return move_to_bin(absolute) || QFile::remove(absolute) || is_gone(absolute);
 }
 
 } // namespace velmora

@@ -26,6 +26,14 @@ bool ScriptedShell::recycle(std::string_view path) {
     return desktop_->recycle(path);
 }
 
+bool ScriptedShell::to_bin(std::string_view path) {
+    return desktop_->to_bin(path);
+}
+
+void ScriptedShell::settle(std::string_view path) {
+    desktop_->settle(path);
+}
+
 std::optional<std::string> ScriptedSettings::get(std::string_view section, std::string_view key) {
     const auto found = values_.find({std::string(section), std::string(key)});
     if (found == values_.end())

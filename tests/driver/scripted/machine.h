@@ -21,8 +21,10 @@ class ScriptedShell : public Shell {
 
     int open(std::string_view target) override;
     void play(std::string_view file) override;
-    /// Through the desktop's shell.
+    /// Through the desktop's shell, and so the two below.
     bool recycle(std::string_view path) override;
+    bool to_bin(std::string_view path) override;
+    void settle(std::string_view path) override;
 
   private:
     Transcript& transcript_;
