@@ -91,6 +91,13 @@ inline constexpr int no_support_address = 100;
 inline constexpr int no_web_page = 101;
 inline constexpr int kept_aside = 110;
 inline constexpr int stand_in_texts = 111;
+inline constexpr int settings_not_kept = 112;
+inline constexpr int changed_on_disk = 113;
+inline constexpr int no_file = 114;
+inline constexpr int very_large = 115;
+inline constexpr int reading_cancelled = 116;
+inline constexpr int offer_recovery = 117;
+inline constexpr int capture_cancelled = 118;
 inline constexpr int open_filter = 132;
 inline constexpr int picture_filter = 144;
 

@@ -1,12 +1,16 @@
 #include "services/settings.h"
 
+#include "document/feedback.h"
 #include "document/state/program.h"
 #include "document/state/settings.h"
+#include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/settings_store.h"
 #include "runtime/error.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
 
 #include <array>
 
@@ -96,6 +100,9 @@ void GuardaSettings() {
     save(kValues, "Idioma", state::program.Idioma);
     save(kValues, "Def_Zoom", runtime::CStr(state::settings.Def_Zoom, '.'));
     save(kValues, "sound", runtime::CStr(std::int32_t{state::program.Sound}));
+    if (!platform().settings.keep())
+        MsgBox(GetMensaje(message::settings_not_kept) + "\n\n" + platform().settings.place(),
+               buttons::exclamation, "Velmora");
 }
 
 void save_version() {

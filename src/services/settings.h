@@ -10,7 +10,7 @@ namespace velmora {
 /// that is no number raises 13, one that does not fit 6; the error's place names section, key and
 /// value.
 void LeeSettings();
-/// Writes all of them.
+/// Writes all of them; a box tells where they can't be kept.
 void GuardaSettings();
 
 /// The setting "sound" alone: 1 = play the sound files. Raises as LeeSettings does.

@@ -51,14 +51,30 @@ asm(".text\n"
 namespace {
 
 constexpr auto caught = std::to_array<long>({
-    SYS_open,       SYS_openat,    SYS_creat,     SYS_read,      SYS_pread64,   SYS_readv,
-    SYS_write,      SYS_pwrite64,  SYS_writev,    SYS_close,     SYS_fsync,     SYS_fdatasync,
-    SYS_rename,     SYS_renameat,  SYS_renameat2, SYS_unlink,    SYS_unlinkat,  SYS_link,
-    SYS_linkat,     SYS_symlink,   SYS_symlinkat, SYS_mkdir,     SYS_mkdirat,   SYS_rmdir,
-    SYS_truncate,   SYS_ftruncate, SYS_fallocate, SYS_chmod,     SYS_fchmod,    SYS_fchmodat,
-    SYS_stat,       SYS_lstat,     SYS_fstat,     SYS_newfstatat, SYS_statx,    SYS_access,
-    SYS_faccessat,  SYS_readlink,  SYS_readlinkat, SYS_getdents64, SYS_lseek,   SYS_utimensat,
-    SYS_statfs,     SYS_fstatfs,   SYS_flock,     SYS_copy_file_range, SYS_sendfile, SYS_chown,
+    SYS_open,       SYS_openat,
+    SYS_creat,      SYS_read,
+    SYS_pread64,    SYS_readv,
+    SYS_write,      SYS_pwrite64,
+    SYS_writev,     SYS_close,
+    SYS_fsync,      SYS_fdatasync,
+    SYS_rename,     SYS_renameat,
+    SYS_renameat2,  SYS_unlink,
+    SYS_unlinkat,   SYS_link,
+    SYS_linkat,     SYS_symlink,
+    SYS_symlinkat,  SYS_mkdir,
+    SYS_mkdirat,    SYS_rmdir,
+    SYS_truncate,   SYS_ftruncate,
+    SYS_fallocate,  SYS_chmod,
+    SYS_fchmod,     SYS_fchmodat,
+    SYS_stat,       SYS_lstat,
+    SYS_fstat,      SYS_newfstatat,
+    SYS_statx,      SYS_access,
+    SYS_faccessat,  SYS_readlink,
+    SYS_readlinkat, SYS_getdents64,
+    SYS_lseek,      SYS_utimensat,
+    SYS_statfs,     SYS_fstatfs,
+    SYS_flock,      SYS_copy_file_range,
+    SYS_sendfile,   SYS_chown,
     SYS_fchown,     SYS_fchownat,
 });
 
@@ -91,7 +107,8 @@ long half_written(Call call) {
 long fail(const Call& call) {
     met = call.number;
     if (chosen_kind == fault_kill)
-        faults_raw_call(SYS_kill, faults_raw_call(SYS_getpid, 0, 0, 0, 0, 0, 0), SIGKILL, 0, 0, 0, 0);
+        faults_raw_call(SYS_kill, faults_raw_call(SYS_getpid, 0, 0, 0, 0, 0, 0), SIGKILL, 0, 0, 0,
+                        0);
     if (chosen_kind == fault_short)
         return half_written(call);
     if (call.number == SYS_close) // a failed close has closed all the same
@@ -145,7 +162,8 @@ bool stand_between() {
     action.sa_flags = SA_SIGINFO | SA_NODEFER | SA_RESTART;
     auto steps = filter();
     const sock_fprog program{static_cast<unsigned short>(steps.size()), steps.data()};
-    stands = sigaction(SIGSYS, &action, nullptr) == 0 && prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+    stands = sigaction(SIGSYS, &action, nullptr) == 0 &&
+             prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
              prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
     return stands;
 }

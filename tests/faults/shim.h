@@ -1,6 +1,7 @@
 // A system that fails at a call of one's choice. The library stands between the program and the
-// kernel: from the first `faults_begin` on, every call that touches a file comes by here, also those
-// that the C library makes of its own. Preloaded into any program, it obeys the environment instead.
+// kernel: from the first `faults_begin` on, every call that touches a file comes by here, also
+// those that the C library makes of its own. Preloaded into any program, it obeys the environment
+// instead.
 #pragma once
 
 extern "C" {

@@ -163,5 +163,22 @@ TEST_F(SettingsTest, the_sound_and_the_version_have_ways_of_their_own) {
     EXPECT_EQ(stored("Values", "SubVer"), "1011");
 }
 
+TEST(GuardaSettings, tells_where_they_can_not_be_kept) {
+    RecordingPlatform machine;
+    struct FullDisk : test::MemorySettings {
+        bool keep() override { return false; }
+        std::string place() const override { return "/casa/Velmora.conf"; }
+    } store;
+    const Platform& now = platform();
+    set_platform({now.dialogs, now.windows, now.shell, store, now.database, now.clock, now.machine,
+                  now.pic, now.cad});
+    GuardaSettings();
+    ASSERT_EQ(machine.dialogs.boxes.size(), 1U);
+    EXPECT_EQ(machine.dialogs.boxes[0].text,
+              "Los parámetros no se han podido guardar: la próxima vez valdrán los de antes. "
+              "Fichero:\n\n/casa/Velmora.conf");
+    EXPECT_EQ(machine.dialogs.boxes[0].buttons, 48);
+}
+
 } // namespace
 } // namespace velmora

@@ -29,6 +29,15 @@ class QtSettings : public SettingsStore {
         store_->setValue(key_of(section, key), qt_text(value));
     }
 
+    bool keep() override {
+        store_->sync();
+        // A lock that could not be had is not told; what waits goes out at the next time.
+        store_->sync();
+        return store_->status() == QSettings::NoError;
+    }
+
+    std::string place() const override { return store_->fileName().toStdString(); }
+
   private:
     std::unique_ptr<QSettings> store_;
 };
