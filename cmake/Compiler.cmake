@@ -25,12 +25,10 @@ if(VELMORA_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# Hardened as the distribution hardens, with the library's own checks of its containers on top.
+# Hardened as the distribution hardens, with the library's own checks of its containers on top. Its
+# compilers make position independent programs by themselves.
 add_compile_definitions(_GLIBCXX_ASSERTIONS)
 if(NOT VELMORA_SANITIZE AND NOT WIN32)
-  include(CheckPIESupported)
-  check_pie_supported(LANGUAGES CXX)
-  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
   add_compile_options(-fstack-protector-strong -Wformat -Werror=format-security)
   add_link_options(-Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
 endif()
