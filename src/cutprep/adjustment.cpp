@@ -1,6 +1,7 @@
 #include "cutprep/adjustment.h"
 
 #include "cutprep/merged_list.h"
+#include "cutprep/side_totals.h"
 #include "document/feedback.h"
 #include "document/forma.h"
 #include "document/shown.h"
@@ -36,7 +37,8 @@ Pto beyond_run(const AdjustedSide& side, std::int32_t tramo, std::int32_t NumSin
 class MergedPass {
   public:
     MergedPass(AdjustedSide& own, std::int32_t tramo, std::int32_t NumSinc)
-        : own_(own), points_(own.side.Ptos2), tramo_(tramo), NumSinc_(NumSinc) {}
+        : own_(own), totals_(totals_of(own.side.lado)), points_(own.side.Ptos2), tramo_(tramo),
+          NumSinc_(NumSinc) {}
 
     void run() {
         points_.redim_keep(own_.Idx);
@@ -52,7 +54,7 @@ class MergedPass {
     void take_sync_point(MergedList& rows) {
         points_[own_.Idx] = {.X = rows.X(), .Y = rows.Y(), .Sinc = 1};
         show_total();
-        step_count(own_.side.TxtTotalCtrlPtosNew, 1);
+        step_count(totals_.sync_points_of_result, 1);
         DoEvents();
     }
 
@@ -75,9 +77,10 @@ class MergedPass {
         points_.redim_keep(own_.Idx);
     }
 
-    void show_total() { show_count(own_.side.TxtTotalPtosNew, own_.Idx + 1); }
+    void show_total() { show_count(totals_.points_of_result, own_.Idx + 1); }
 
     AdjustedSide& own_;
+    SideTotals totals_;
     Array<Pto>& points_;
     std::int32_t tramo_;
     std::int32_t NumSinc_;

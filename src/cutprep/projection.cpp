@@ -1,38 +1,32 @@
 #include "cutprep/projection.h"
 
-#include "document/forma.h"
-#include "document/state/workbench.h"
 #include "runtime/numbers.h"
 
 namespace velmora {
 
 namespace {
 
-double outward(double own, double other, double reach) {
-    const double way = runtime::checked((own - other) * (state::workbench.OptZ + reach));
-    return runtime::checked(runtime::divide(way, state::workbench.OptZ) + own);
+double outward(double own, double other, double reach, double between) {
+    const double way = runtime::checked((own - other) * (between + reach));
+    return runtime::checked(runtime::divide(way, between) + own);
 }
 
-Pto projected(const Pto& own, const Pto& other, double reach) {
+Pto carried(const Pto& own, const Pto& other, double reach, double between) {
     Pto moved = own;
-    moved.X = outward(own.X, other.X, reach);
-    moved.Y = outward(own.Y, other.Y, reach);
+    moved.X = outward(own.X, other.X, reach, between);
+    moved.Y = outward(own.Y, other.Y, reach, between);
     return moved;
 }
 
 } // namespace
 
-void project_results() {
-    Array<Pto> A = state::workbench.PtosA2;
-    Array<Pto> B = state::workbench.PtosB2;
-    for (std::int32_t i = 0; i <= state::workbench.PtosA2.upper(); ++i) {
-        A[i] = projected(state::workbench.PtosA2[i], state::workbench.PtosB2[i],
-                         state::workbench.OptX);
-        B[i] = projected(state::workbench.PtosB2[i], state::workbench.PtosA2[i],
-                         state::workbench.OptY);
+TwoSides projected(const Array<Pto>& A, const Array<Pto>& B, const Distances& to) {
+    TwoSides moved{A, B};
+    for (std::int32_t i = 0; i <= A.upper(); ++i) {
+        moved.A[i] = carried(A[i], B[i], to.X, to.Z);
+        moved.B[i] = carried(B[i], A[i], to.Y, to.Z);
     }
-    state::workbench.PtosA2.swap(A);
-    state::workbench.PtosB2.swap(B);
+    return moved;
 }
 
 } // namespace velmora

@@ -1,10 +1,9 @@
-// The two sides of the adjustment window, each described by its arrays and the controls that show
-// it, so that what both sides have in common is written once.
+// The two sides of the adjustment, each described by its arrays, so that what both sides have in
+// common is written once.
 #pragma once
 
 #include "document/forma.h"
 
-#include <string>
 #include <string_view>
 
 namespace velmora {
@@ -15,12 +14,6 @@ struct Side {
     Array<Pto>& Ptos;      ///< as loaded
     Array<Pto>& Trabajo;   ///< working copy
     Array<Pto>& Ptos2;     ///< the result
-    std::string& txt_file;
-    std::string& TxtTotalPtos;
-    std::string& TxtTotalCtrlPtos;
-    std::string& Txt_File2;
-    std::string& TxtTotalPtosNew;
-    std::string& TxtTotalCtrlPtosNew;
 };
 
 /// Side A for "A", side B for any other text.

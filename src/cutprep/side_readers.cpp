@@ -1,6 +1,6 @@
 #include "cutprep/side_readers.h"
 
-#include "cutprep/side.h"
+#include "cutprep/side_totals.h"
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
@@ -35,27 +35,28 @@ void report(const ReaderName& name, const RuntimeError& failure, const ReadCount
 }
 
 /// UltimoPto keeps the count with the closing point, on purpose.
-void close_outline(Array<Pto>& pts, const Side& side, ReadCounts& counts) {
+void close_outline(Array<Pto>& pts, const SideTotals& totals, ReadCounts& counts) {
     state::document.UltimoPto = counts.points;
-    show_count(side.TxtTotalPtos, counts.points);
+    show_count(totals.points, counts.points);
     drop_closing_point(pts, counts.points);
-    show_count(side.TxtTotalPtos, counts.points);
+    show_count(totals.points, counts.points);
 }
 
-void read_slwsinc(std::string_view path, Array<Pto>& pts, const Side& side, ReadCounts& counts) {
+void read_slwsinc(std::string_view path, Array<Pto>& pts, const SideTotals& totals,
+                  ReadCounts& counts) {
     state::loading.files.open_random(1, path, FixedRecord::length);
     (void)next_record(counts);
     (void)next_record(counts);
-    read_slwsinc_outline(pts, side.TxtTotalPtos, counts);
-    close_outline(pts, side, counts);
-    match_slwsinc_sync_points(pts, side.TxtTotalCtrlPtos, counts);
+    read_slwsinc_outline(pts, totals.points, counts);
+    close_outline(pts, totals, counts);
+    match_slwsinc_sync_points(pts, totals.sync_points, counts);
     state::loading.files.close(1);
 }
 
 /// The search as far as the document in the main window reaches.
 class DocumentLongSearch {
   public:
-    DocumentLongSearch(Array<Pto>& pts, const Side& side) : pts_(pts), side_(side) {}
+    DocumentLongSearch(Array<Pto>& pts, const SideTotals& totals) : pts_(pts), totals_(totals) {}
 
     void mark(double X, double Y) {
         const std::int32_t last = Forma.Pto.upper();
@@ -64,27 +65,27 @@ class DocumentLongSearch {
         const std::int32_t marked = matcher_->mark(X, Y);
         total_ += marked;
         if (marked > 0)
-            show_count(side_.TxtTotalCtrlPtos, total_);
+            show_count(totals_.sync_points, total_);
         if (last > pts_.upper())
             raise(error::subscript);
     }
 
   private:
     Array<Pto>& pts_;
-    const Side& side_;
+    const SideTotals& totals_;
     std::optional<SyncMatcher> matcher_;
     std::int64_t total_ = 0;
 };
 
-Pass read_slwmd(std::string_view path, Array<Pto>& pts, const Side& side, ReadCounts& counts,
-                CoordinateLimit& limit) {
+Pass read_slwmd(std::string_view path, Array<Pto>& pts, const SideTotals& totals,
+                ReadCounts& counts, CoordinateLimit& limit) {
     state::loading.files.open_input(1, path);
     (void)read_line(counts);
     (void)read_line(counts);
     if (!read_slwmd_outline(pts, counts, limit))
         return Pass::over_limit;
-    close_outline(pts, side, counts);
-    DocumentLongSearch search(pts, side);
+    close_outline(pts, totals, counts);
+    DocumentLongSearch search(pts, totals);
     read_slwmd_sync_points(counts, [&](double X, double Y) { search.mark(X, Y); });
     state::loading.files.close(1);
     return Pass::complete;
@@ -99,25 +100,25 @@ void refuse(std::string_view path) {
 } // namespace
 
 void CargaSLWSINC2(std::string_view fichero, Array<Pto>& pts, std::string_view lado, Flag& ok) {
-    const Side side = side_of(lado);
+    const SideTotals totals = totals_of(lado);
     ReadCounts counts;
     ok = False;
     trap(
         [&] {
-            read_slwsinc(fichero, pts, side, counts);
+            read_slwsinc(fichero, pts, totals, counts);
             ok = True;
         },
         [&](const RuntimeError& failure) { report({"CargaSLWSINC2"}, failure, counts); });
 }
 
 void CargaSLWMD_a(std::string_view fichero, Array<Pto>& pts, std::string_view lado, Flag& ok) {
-    const Side side = side_of(lado);
+    const SideTotals totals = totals_of(lado);
     ReadCounts counts;
     ok = False;
     trap(
         [&] {
             ok = read_within_limit(fichero, pts, counts, [&](CoordinateLimit& limit) {
-                return read_slwmd(fichero, pts, side, counts, limit);
+                return read_slwmd(fichero, pts, totals, counts, limit);
             });
         },
         [&](const RuntimeError& failure) { report({"CargaSLWMD_a"}, failure, counts); });

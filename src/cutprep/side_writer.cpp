@@ -1,6 +1,5 @@
 #include "cutprep/side_writer.h"
 
-#include "document/forma.h"
 #include "document/number_text.h"
 #include "document/state/loading.h"
 #include "formats/draft.h"
@@ -39,34 +38,34 @@ void write_sync_points(const Array<Pto>& points, bool all) {
             write_record(record_of(points[i]));
 }
 
-void write_records(const Side& side, bool all_sync, const std::string& path) {
+void write_records(const Array<Pto>& points, bool all_sync, const std::string& path) {
     state::loading.files.open_random(1, path, FixedRecord::length);
     const OpenNumber file(1);
     write_record({"Fichero DAT(KMR)2002", "corrpoltrap"});
     write_record({"SLATEWORKS", ""});
-    write_outline(side.Ptos2);
-    write_record(record_of(side.Ptos2[0]));
+    write_outline(points);
+    write_record(record_of(points[0]));
     write_record({sync_section_title, ""});
     write_record({"", ""});
-    write_sync_points(side.Ptos2, all_sync);
+    write_sync_points(points, all_sync);
     state::loading.files.close(1);
 }
 
-void write_whole(const Side& side, bool all_sync, const Draft& draft) {
-    write_records(side, all_sync, draft.path());
+void write_whole(const Array<Pto>& points, bool all_sync, const Draft& draft) {
+    write_records(points, all_sync, draft.path());
     SetDotDecimals(draft.path());
 }
 
 } // namespace
 
-void write_results(const Side& first, const Side& second, bool all_sync) {
-    Draft one(first.Txt_File2);
-    write_whole(first, all_sync, one);
+void write_results(const Result& first, const Result& second, bool all_sync) {
+    Draft one(first.path);
+    write_whole(first.points, all_sync, one);
     std::optional<Draft> other;
     trap(
         [&] {
-            other.emplace(second.Txt_File2);
-            write_whole(second, all_sync, *other);
+            other.emplace(second.path);
+            write_whole(second.points, all_sync, *other);
         },
         [&](const RuntimeError&) {
             one.take_place();

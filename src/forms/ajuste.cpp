@@ -53,12 +53,12 @@ void compare_sync_totals() {
         MuestraMensaje(message::sync_totals_differ);
 }
 
-void select_side(const Side& side, const Side& other, void (*draw)()) {
+void select_side(const Side& side, std::string& file, const Side& other, void (*draw)()) {
     state::ajuste.cmd_opt_enabled = false;
     const std::string path = ask_for_path();
     if (path.empty())
         return;
-    side.txt_file = path;
+    file = path;
     if (!read_side(side, path))
         return;
     draw();
@@ -80,6 +80,14 @@ void adjust() {
     state::ajuste.lbl_estado.clear();
 }
 
+void project_results() {
+    WorkbenchState& bench = state::workbench;
+    TwoSides moved =
+        projected(bench.PtosA2, bench.PtosB2, {.X = bench.OptX, .Y = bench.OptY, .Z = bench.OptZ});
+    bench.PtosA2.swap(moved.A);
+    bench.PtosB2.swap(moved.B);
+}
+
 /// The path less its last four characters, with "2.DAT" after it. Raises 5 for a shorter one.
 std::string result_path(const std::string& loaded) {
     return runtime::Left(loaded, static_cast<int>(runtime::Len(loaded)) - 4) + "2.DAT";
@@ -99,11 +107,11 @@ void ajuste_Activate() {
 }
 
 void cmd_selA_Click() {
-    select_side(side_of("A"), side_of("B"), DibujaMini_A);
+    select_side(side_of("A"), state::ajuste.txt_fileA, side_of("B"), DibujaMini_A);
 }
 
 void cmd_selB_Click() {
-    select_side(side_of("B"), side_of("A"), DibujaMini_B);
+    select_side(side_of("B"), state::ajuste.Txt_FileB, side_of("A"), DibujaMini_B);
 }
 
 void cmd_opt_Click() {
@@ -127,11 +135,13 @@ void Cmd_Ajuste_Click() {
 }
 
 void Cmd_save_Click() {
-    state::ajuste.cmd_exit_enabled = false;
+    AjusteWindow& window = state::ajuste;
+    window.cmd_exit_enabled = false;
     set_pointer(kHourglass);
-    write_results(side_of("A"), side_of("B"), state::ajuste.ChkPtosCtrl);
+    write_results({state::workbench.PtosA2, window.Txt_File_A2},
+                  {state::workbench.PtosB2, window.Txt_File_B2}, window.ChkPtosCtrl);
     set_pointer(kDefaultPointer);
-    state::ajuste.cmd_exit_enabled = true;
+    window.cmd_exit_enabled = true;
 }
 
 void ajuste_cmd_exit_Click() {

@@ -27,7 +27,10 @@ struct SideWriterTest : testing::Test, test::Workbench {
         test::fill(session.PtosA2, A2);
         test::fill(session.PtosB2, B2);
     }
-    static void save(bool all_sync = false) { write_results(side_of("A"), side_of("B"), all_sync); }
+    static void save(bool all_sync = false) {
+        write_results({session.PtosA2, session.ajuste.Txt_File_A2},
+                      {session.PtosB2, session.ajuste.Txt_File_B2}, all_sync);
+    }
     std::string written_A() const { return RecordingPlatform::read(path_A); }
     std::string written_B() const { return RecordingPlatform::read(path_B); }
 };
