@@ -2,7 +2,7 @@
 // passes over the file and the three forms of writing.
 #include "document/number_text.h"
 #include "document/session.h"
-#include "formats/files.h"
+#include "formats/file_passes.h"
 #include "formats/fixed_record.h"
 #include "formats/fixed_record_readers.h"
 #include "formats/save.h"

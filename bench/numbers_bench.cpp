@@ -1,4 +1,4 @@
-#include "runtime/files.h"
+#include "runtime/file_table.h"
 #include "runtime/numbers.h"
 #include "runtime/paths.h"
 #include "runtime/text.h"

@@ -3,7 +3,7 @@
 #include "document/number_text.h"
 #include "document/state/loading.h"
 #include "formats/draft.h"
-#include "formats/files.h"
+#include "formats/file_passes.h"
 #include "formats/open_number.h"
 #include "formats/record_file.h"
 #include "runtime/error.h"

@@ -11,7 +11,7 @@
 #include "document/windows/velmora.h"
 #include "document/windows/wininfo.h"
 #include "formats/box_text.h"
-#include "formats/files.h"
+#include "formats/file_passes.h"
 #include "formats/origin.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"

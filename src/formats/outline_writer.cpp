@@ -11,7 +11,7 @@
 #include "document/number_text.h"
 #include "document/refresh.h"
 #include "formats/draft.h"
-#include "formats/files.h"
+#include "formats/file_passes.h"
 #include "formats/open_number.h"
 #include "formats/record_file.h"
 #include "formats/sync_dat.h"

@@ -4,12 +4,12 @@
 #include "document/state/document.h"
 #include "document/state/program.h"
 #include "document/windows/velmora.h"
-#include "formats/files.h"
+#include "formats/file_passes.h"
 #include "formats/sync_dat.h"
 #include "platform/platform.h"
 #include "platform/shell.h"
 #include "runtime/file_beside.h"
-#include "runtime/files.h"
+#include "runtime/file_table.h"
 #include "runtime/paths.h"
 
 #include <algorithm>

@@ -10,7 +10,7 @@
 #include "document/state/program.h"
 #include "document/windows/velmora.h"
 #include "formats/box_text.h"
-#include "formats/files.h"
+#include "formats/file_passes.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"

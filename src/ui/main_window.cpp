@@ -91,10 +91,10 @@ void MainWindow::wire() {
     new FileDrop(window_,
                  [this](const std::string& path) { events().run([&path] { open_named(path); }); });
     canvas_.wire([this](const Handler& handler) { events().run(handler); });
-    connect(ui.Lst_Coords, &CoordList::row_clicked, this, [this](const QString& row) {
+    connect(ui.Lst_Coords, &CoordListView::row_clicked, this, [this](const QString& row) {
         events().run([text = row.toStdString()] { Lst_Coords_Click(text); });
     });
-    connect(ui.Lst_Coords, &CoordList::row_reached, this, [this](const QString& row) {
+    connect(ui.Lst_Coords, &CoordListView::row_reached, this, [this](const QString& row) {
         events().run([text = row.toStdString()] { Lst_Coords_Key(text); });
     });
 }

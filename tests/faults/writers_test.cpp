@@ -2,7 +2,7 @@
 #include "adapters/qt/qt_settings.h"
 #include "cutprep/side_writer.h"
 #include "document/session.h"
-#include "formats/files.h"
+#include "formats/file_passes.h"
 #include "formats/recovery.h"
 #include "formats/save.h"
 #include "hampered.h"

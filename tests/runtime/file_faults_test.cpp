@@ -1,5 +1,5 @@
 #include "runtime/file_faults.h"
-#include "runtime/files.h"
+#include "runtime/file_table.h"
 #include "support/error_number.h"
 
 #include <gtest/gtest.h>

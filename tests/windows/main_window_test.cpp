@@ -3,7 +3,7 @@
 #include "support/places.h"
 #include "windows/canvas_test.h"
 
-#include "ui/coord_list.h"
+#include "ui/coord_list_view.h"
 
 #include <QDropEvent>
 #include <QFile>
@@ -23,7 +23,7 @@ namespace {
 
 class MainWindowTest : public CanvasTest {
   protected:
-    CoordList& list() { return control<CoordList>("Velmora", "Lst_Coords"); }
+    CoordListView& list() { return control<CoordListView>("Velmora", "Lst_Coords"); }
     QScrollArea& scroll() { return control<QScrollArea>("Velmora", "SSScroll"); }
     QString row(int place) { return list().model()->index(place, 0).data().toString(); }
     void click_row(int place) {

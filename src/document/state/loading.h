@@ -1,7 +1,7 @@
 // What the readers share: the limit of a coordinate, the scale of a load, the numbered files.
 #pragma once
 
-#include "runtime/files.h"
+#include "runtime/file_table.h"
 
 namespace velmora {
 

@@ -1,4 +1,4 @@
-#include "runtime/files.h"
+#include "runtime/file_table.h"
 #include "runtime/error.h"
 #include "runtime/file_stream.h"
 #include "runtime/paths.h"

@@ -1,4 +1,4 @@
-#include "runtime/files.h"
+#include "runtime/file_table.h"
 #include "runtime/paths.h"
 #include "support/error_number.h"
 #include "support/temporary_folder.h"

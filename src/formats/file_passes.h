@@ -1,4 +1,5 @@
-// Helpers of all file routines: the recycle bin, the pieces of a path, the passes over a file.
+// The passes that rewrite an outline's file, and what all file routines share: the recycle bin, the
+// pieces of a path.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-#include "formats/files.h"
+#include "formats/file_passes.h"
 
 #include "document/state/loading.h"
 #include "document/state/program.h"

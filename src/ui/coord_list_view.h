@@ -34,10 +34,10 @@ class CoordListModel : public QAbstractListModel {
 };
 
 /// All rows have one height, so a row's place follows from its number and nothing is laid out.
-class CoordList : public QListView {
+class CoordListView : public QListView {
     Q_OBJECT
   public:
-    explicit CoordList(QWidget* parent = nullptr);
+    explicit CoordListView(QWidget* parent = nullptr);
 
     void show_rows_of(const VelmoraWindow& state);
     void start_over();

@@ -1,4 +1,4 @@
-#include "formats/files.h"
+#include "formats/file_passes.h"
 
 #include "document/session.h"
 #include "formats/sample_files.h"

@@ -1,4 +1,4 @@
-#include "ui/coord_list.h"
+#include "ui/coord_list_view.h"
 
 #include "document/coord_list.h"
 
@@ -61,7 +61,7 @@ int CoordListModel::widest_text() const {
     return static_cast<int>(widest);
 }
 
-CoordList::CoordList(QWidget* parent) : QListView(parent) {
+CoordListView::CoordListView(QWidget* parent) : QListView(parent) {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)); // lines the digits up
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
@@ -70,24 +70,24 @@ CoordList::CoordList(QWidget* parent) : QListView(parent) {
             [this](const QModelIndex& row) { emit row_clicked(row.data().toString()); });
 }
 
-void CoordList::show_rows_of(const VelmoraWindow& state) {
+void CoordListView::show_rows_of(const VelmoraWindow& state) {
     rows_ = new CoordListModel(state, this);
     setModel(rows_);
 }
 
-void CoordList::start_over() {
+void CoordListView::start_over() {
     rows_->start_over(fontMetrics());
 }
 
-int CoordList::row_height() const {
+int CoordListView::row_height() const {
     return rows_ == nullptr ? 1 : rows_->row_size().height();
 }
 
-int CoordList::rows_in_view() const {
+int CoordListView::rows_in_view() const {
     return std::max(1, viewport()->height() / row_height());
 }
 
-QRect CoordList::visualRect(const QModelIndex& index) const {
+QRect CoordListView::visualRect(const QModelIndex& index) const {
     if (!index.isValid())
         return {};
     const int width = std::max(rows_->row_size().width(), viewport()->width());
@@ -95,7 +95,7 @@ QRect CoordList::visualRect(const QModelIndex& index) const {
             row_height()};
 }
 
-void CoordList::scrollTo(const QModelIndex& index, ScrollHint hint) {
+void CoordListView::scrollTo(const QModelIndex& index, ScrollHint hint) {
     if (!index.isValid())
         return;
     QScrollBar* bar = verticalScrollBar();
@@ -108,16 +108,16 @@ void CoordList::scrollTo(const QModelIndex& index, ScrollHint hint) {
         bar->setValue(last_first);
 }
 
-QModelIndex CoordList::indexAt(const QPoint& point) const {
+QModelIndex CoordListView::indexAt(const QPoint& point) const {
     const int row = verticalScrollBar()->value() + point.y() / row_height();
     return rows_ == nullptr || point.y() < 0 ? QModelIndex() : rows_->index(row);
 }
 
-void CoordList::doItemsLayout() {
+void CoordListView::doItemsLayout() {
     QAbstractItemView::doItemsLayout();
 }
 
-QModelIndex CoordList::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
+QModelIndex CoordListView::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
     const int last = rows_->rowCount() - 1;
     const int now = currentIndex().row();
     const auto row = [&](int wanted) {
@@ -145,28 +145,28 @@ QModelIndex CoordList::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
     }
 }
 
-int CoordList::horizontalOffset() const {
+int CoordListView::horizontalOffset() const {
     return horizontalScrollBar()->value();
 }
 
-int CoordList::verticalOffset() const {
+int CoordListView::verticalOffset() const {
     return verticalScrollBar()->value() * row_height();
 }
 
-void CoordList::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) {
+void CoordListView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) {
     const QModelIndex row = indexAt(rect.center());
     if (row.isValid())
         selectionModel()->select(row, command);
 }
 
-QRegion CoordList::visualRegionForSelection(const QItemSelection& rows) const {
+QRegion CoordListView::visualRegionForSelection(const QItemSelection& rows) const {
     QRegion region;
     for (const QModelIndex& row : rows.indexes())
         region += visualRect(row);
     return region;
 }
 
-void CoordList::updateGeometries() {
+void CoordListView::updateGeometries() {
     if (rows_ == nullptr)
         return;
     verticalScrollBar()->setPageStep(rows_in_view());
@@ -177,11 +177,11 @@ void CoordList::updateGeometries() {
     QAbstractItemView::updateGeometries();
 }
 
-void CoordList::scrollContentsBy(int, int) {
+void CoordListView::scrollContentsBy(int, int) {
     viewport()->update();
 }
 
-void CoordList::paintEvent(QPaintEvent* event) {
+void CoordListView::paintEvent(QPaintEvent* event) {
     if (rows_ == nullptr)
         return;
     QPainter painter(viewport());
@@ -199,7 +199,7 @@ void CoordList::paintEvent(QPaintEvent* event) {
     }
 }
 
-void CoordList::keyPressEvent(QKeyEvent* event) {
+void CoordListView::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const QModelIndex before = chosen();
     QListView::keyPressEvent(event);
@@ -214,7 +214,7 @@ void CoordList::keyPressEvent(QKeyEvent* event) {
 
 // The focus, as it comes, makes the first row the current one without choosing it; a key that would
 // move to where the list stands chooses it.
-QModelIndex CoordList::chosen() const {
+QModelIndex CoordListView::chosen() const {
     const QModelIndex now = currentIndex();
     return selectionModel()->isSelected(now) ? now : QModelIndex();
 }
