@@ -1,6 +1,7 @@
 // The canvas: repaints of a large shape beside the desktop's own painter, hit test, drag.
 #include "adapters/qt/image_surface.h"
 #include "canvas/pointer.h"
+#include "canvas/rubber_band.h"
 #include "canvas/view.h"
 #include "document/refresh.h"
 #include "document/session.h"

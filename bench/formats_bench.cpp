@@ -5,7 +5,7 @@
 #include "formats/file_passes.h"
 #include "formats/fixed_record.h"
 #include "formats/fixed_record_readers.h"
-#include "formats/save.h"
+#include "formats/outline_writer.h"
 #include "support/recording_platform.h"
 
 #include <benchmark/benchmark.h>

@@ -1,6 +1,7 @@
 // Whole-shape operations on a million points.
 #include "document/refresh.h"
 #include "document/session.h"
+#include "shapeops/scaling.h"
 #include "shapeops/transforms.h"
 #include "support/recording_platform.h"
 

@@ -1,5 +1,5 @@
-// SelOrigen: the point where the cut begins, picked in the CAD.
-#include "cad/capture.h"
+#include "cad/select_origin.h"
+
 #include "cad/connection.h"
 #include "document/feedback.h"
 #include "document/flag.h"

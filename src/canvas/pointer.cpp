@@ -1,6 +1,7 @@
 #include "canvas/pointer.h"
 
 #include "canvas/mode.h"
+#include "canvas/rubber_band.h"
 #include "canvas/view.h"
 #include "document/feedback.h"
 #include "document/flag.h"

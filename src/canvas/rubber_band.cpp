@@ -1,4 +1,5 @@
-// The painters that follow the pointer: they repaint what moves and nothing else.
+#include "canvas/rubber_band.h"
+
 #include "canvas/view.h"
 #include "document/feedback.h"
 #include "document/forma.h"

@@ -1,6 +1,6 @@
-// World and canvas: the mapping, and the painters that follow the pointer. Canvas positions are
-// pixels, y growing downward; state::view.CanvasX0 and CanvasY0 are the world's origin there,
-// state::view.ZoomFactor the pixels of one unit.
+// The mapping between world and canvas. Canvas positions are pixels, y growing downward;
+// state::view.CanvasX0 and CanvasY0 are the world's origin there, state::view.ZoomFactor the pixels
+// of one unit.
 #pragma once
 
 #include "canvas/surface.h"
@@ -24,12 +24,5 @@ namespace velmora {
 [[nodiscard]] PixelPoint pixel_of(const Pto& point);
 /// A pixel position for the operations that take floats. Raises 6 beyond them.
 [[nodiscard]] float to_single(double position);
-
-/// Moves the selected point to a world position, rounded to Precision, repainting its two segments.
-/// The error route is Dibuja's without the case of 9, and an overflow ends it without a message.
-void DibujaDrag(double x, double y);
-/// The rubber band of the insertion mode, from the selected point to a world position, rounded to
-/// Precision. Error route as DibujaDrag's.
-void DibujaCreate(double x, double y);
 
 } // namespace velmora

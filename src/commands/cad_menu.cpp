@@ -1,6 +1,7 @@
 // The commands of the menu mnuacad.
 #include "cad/capture.h"
 #include "cad/connection.h"
+#include "cad/select_origin.h"
 #include "cad/send.h"
 #include "commands/handlers.h"
 #include "document/flag.h"
@@ -12,7 +13,7 @@
 #include "platform/dialogs.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
-#include "shapeops/transforms.h"
+#include "shapeops/scaling.h"
 
 namespace velmora {
 

@@ -10,6 +10,7 @@
 #include "platform/platform.h"
 #include "platform/program_windows.h"
 #include "services/shape_at_hand.h"
+#include "shapeops/scaling.h"
 #include "shapeops/transforms.h"
 
 namespace velmora {

@@ -11,6 +11,8 @@
 #include "document/windows/velmora.h"
 #include "formats/box_text.h"
 #include "formats/file_passes.h"
+#include "formats/outline_writer.h"
+#include "formats/thinning.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"

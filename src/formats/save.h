@@ -1,7 +1,5 @@
-// Saving: the dialog, the three output forms, the thinning that goes before.
+// Saving: the dialog, and all that goes around the writing.
 #pragma once
-
-#include <cstdint>
 
 namespace velmora {
 
@@ -9,11 +7,5 @@ namespace velmora {
 void DialogoGuardar();
 /// Writes the shape to TxtDat_File in the chosen form, with all that goes around it.
 void GeneraFichero();
-/// Writes; -1 done, 0 refused. Raises the file's errors.
-std::int16_t EscribeFichero();
-/// Drops points inside runs of equal X, then of equal Y; repeats are counted, not dropped.
-void OptimizaPtos();
-/// Some point has Sinc 1.
-[[nodiscard]] bool HayPuntosSinc();
 
 } // namespace velmora

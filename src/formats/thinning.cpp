@@ -1,8 +1,8 @@
-#include "document/forma.h"
-#include "document/shown.h"
-#include "formats/save.h"
+#include "formats/thinning.h"
 
 #include "document/feedback.h"
+#include "document/forma.h"
+#include "document/shown.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 

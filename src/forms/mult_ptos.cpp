@@ -10,7 +10,7 @@
 #include "platform/platform.h"
 #include "platform/program_windows.h"
 #include "runtime/numbers.h"
-#include "services/literals.h"
+#include "services/crea_literales.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 #include "services/window_literals.h"

@@ -10,7 +10,7 @@
 #include "platform/program_windows.h"
 #include "runtime/numbers.h"
 #include "services/window_literals.h"
-#include "shapeops/transforms.h"
+#include "shapeops/scaling.h"
 
 namespace velmora {
 

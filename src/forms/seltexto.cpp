@@ -10,6 +10,7 @@
 #include "runtime/error.h"
 #include "runtime/text.h"
 #include "services/window_literals.h"
+#include "shapeops/scaling.h"
 #include "shapeops/transforms.h"
 
 #include <span>

@@ -39,16 +39,6 @@ struct Bezier {
 /// The same curve as one of second degree.
 [[nodiscard]] Bezier raised(const Point& p0, const Point& p1, const Point& p2);
 
-/// A rational B-spline; without weights they are all 1.
-struct Nurbs {
-    std::size_t degree = 3;
-    std::vector<double> knots;
-    std::vector<Point> points;
-    std::vector<double> weights;
-};
-/// Numbers and orders fit together, so that it can be drawn.
-[[nodiscard]] bool is_whole(const Nurbs& curve);
-
 /// Straight pieces of an arc at the tolerance.
 [[nodiscard]] std::size_t chords_of(const EllipseArc& arc, double tolerance);
 
@@ -56,8 +46,6 @@ void flatten(const EllipseArc& arc, double tolerance, Pieces& pieces);
 /// Without its ends, for one who has them to the last digit.
 void flatten_between(const EllipseArc& arc, double tolerance, Pieces& pieces);
 void flatten(const Bezier& curve, double tolerance, Pieces& pieces);
-/// Of a curve that is whole, from its first inner knot to its last.
-void flatten(const Nurbs& curve, double tolerance, Pieces& pieces);
 
 /// The cubic of continuous curvature through all points, by the lengths between them; directions at
 /// the ends where they are given, else straight ends.

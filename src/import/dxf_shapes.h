@@ -3,6 +3,7 @@
 
 #include "import/curves.h"
 #include "import/dxf_entity.h"
+#include "import/nurbs.h"
 
 #include <cstdint>
 #include <optional>

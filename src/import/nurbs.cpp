@@ -1,4 +1,4 @@
-#include "import/curves.h"
+#include "import/nurbs.h"
 
 #include <algorithm>
 #include <array>

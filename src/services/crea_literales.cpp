@@ -1,4 +1,5 @@
-#include "services/literals.h"
+
+#include "services/crea_literales.h"
 
 #include "document/state/program.h"
 #include "platform/database.h"

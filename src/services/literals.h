@@ -17,8 +17,4 @@ void AplicaLiterales(Form& form, std::string_view nombre);
 [[nodiscard]] std::string GetLiteral(std::string_view control);
 [[nodiscard]] std::string GetTip(std::string_view control);
 
-/// Writes the form's own texts into its table for the language in use, making the table if need be.
-/// A text with an apostrophe breaks its statement, as it stands. Raises 91, 3075, 3022.
-void CreaLiterales(Form& form);
-
 } // namespace velmora

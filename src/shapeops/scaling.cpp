@@ -1,10 +1,11 @@
+#include "shapeops/scaling.h"
+
 #include "document/extents.h"
 #include "document/forma.h"
 #include "document/number_text.h"
 #include "runtime/numbers.h"
 #include "services/message_codes.h"
 #include "shapeops/framed.h"
-#include "shapeops/transforms.h"
 
 #include <cmath>
 #include <limits>

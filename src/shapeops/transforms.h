@@ -1,8 +1,6 @@
 // Whole-shape arithmetic. Each routine has its own error route: a box, and what was done stays.
 #pragma once
 
-#include <cstdint>
-
 namespace velmora {
 
 /// Adds the absolute value of the offset to every X, to every Y.
@@ -10,11 +8,6 @@ void PositivaX(double offset);
 void PositivaY(double offset);
 /// Moves a shape with negative coordinates to the positive side, axis by axis.
 void Positivarfrma();
-/// Scales so that the larger of GetMaxX and GetMaxY becomes 1.
-void ScaleToUnit();
-/// Target sizes measured from the origin when `by_size` is not 0, percentages otherwise. The loop
-/// counts in 16 bits: more than 32767 points raise an overflow in its route, on purpose.
-void ScaleXY(double xval, double yval, std::int16_t by_size);
 /// Negates every X, every Y.
 void MirrorHorDat();
 void MirrorVerDat();

@@ -1,5 +1,5 @@
-#include "cad/capture.h"
 #include "cad/scripted_cad.h"
+#include "cad/select_origin.h"
 #include "support/error_number.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,5 @@
 #include "canvas/drawing.h"
+#include "canvas/rubber_band.h"
 #include "canvas/view.h"
 #include "runtime/error.h"
 

@@ -1,8 +1,8 @@
 // The logic's own roads over the real automation interface: capture, origin, sending.
 #include "adapters/running_cad.h"
-#include "cad/capture.h"
 #include "cad/connection.h"
 #include "cad/scripted_cad.h"
+#include "cad/select_origin.h"
 #include "com/cad_server.h"
 #include "commands/handlers.h"
 #include "support/error_number.h"

@@ -1,6 +1,7 @@
 #include "cad/capture.h"
 
 #include "cad/drawing.h"
+#include "cad/select_origin.h"
 #include "cad/send.h"
 #include "commands/handlers.h"
 #include "remote_cad_session.h"

@@ -1,4 +1,4 @@
-#include "formats/save.h"
+#include "formats/outline_writer.h"
 
 #include "document/session.h"
 #include "formats/fixed_record_readers.h"

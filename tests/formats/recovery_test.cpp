@@ -2,7 +2,7 @@
 
 #include "document/session.h"
 #include "formats/load.h"
-#include "formats/save.h"
+#include "formats/outline_writer.h"
 #include "support/error_number.h"
 #include "support/recording_platform.h"
 #include "support/unprivileged.h"

@@ -1,5 +1,5 @@
 #include "formats/load.h"
-#include "formats/save.h"
+#include "formats/outline_writer.h"
 
 #include "document/session.h"
 #include "formats/sample_files.h"

@@ -1,4 +1,4 @@
-#include "formats/save.h"
+#include "formats/thinning.h"
 
 #include "document/session.h"
 #include "formats/watching_windows.h"

@@ -1,3 +1,4 @@
+#include "cad/select_origin.h"
 #include "free_cad_session.h"
 #include "plate.h"
 

@@ -1,5 +1,7 @@
 #include "import/curves.h"
 
+#include "import/nurbs.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>

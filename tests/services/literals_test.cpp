@@ -2,6 +2,7 @@
 
 #include "document/session.h"
 #include "platform/database.h"
+#include "services/crea_literales.h"
 #include "services/fake_form.h"
 #include "services/messages.h"
 #include "support/error_number.h"

@@ -1,6 +1,6 @@
 #include "document/session.h"
 #include "runtime/error.h"
-#include "shapeops/transforms.h"
+#include "shapeops/scaling.h"
 #include "support/outline.h"
 #include "support/recording_platform.h"
 

@@ -3,6 +3,7 @@
 #include "document/refresh.h"
 #include "document/session.h"
 #include "runtime/error.h"
+#include "shapeops/scaling.h"
 #include "support/outline.h"
 #include "support/recording_platform.h"
 

@@ -49,6 +49,25 @@ ABSTRACT = {"canvas/surface.h", "cad/autocad.h"}
 # The rooms that see more than the standard library.
 OUTER = {"adapters", "toolkit", "ui", "app", "import_main.cpp"}
 
+# The sources without a header of their own name, and the header that declares them on purpose.
+ALONE = {
+    "app/main.cpp": "a program",
+    "import_main.cpp": "a program",
+    "adapters/com/com_autocad.cpp": "adapters/running_cad.h: one interface, a source a platform",
+    "canvas/dibuja.cpp": "document/refresh.h: what every operation calls after a change",
+    "canvas/layout.cpp": "document/refresh.h",
+    "commands/cad_menu.cpp": "commands/handlers.h: all handlers in one list, a source a menu",
+    "commands/file_menu.cpp": "commands/handlers.h",
+    "commands/point_menu.cpp": "commands/handlers.h",
+    "commands/shape_menu.cpp": "commands/handlers.h",
+    "commands/window_menus.cpp": "commands/handlers.h",
+    "runtime/error_texts.cpp": "runtime/error.h: the table of its texts in five languages",
+    "runtime/number_printing.cpp": "runtime/numbers.h: one door to all that numbers do",
+    "runtime/number_reading.cpp": "runtime/numbers.h",
+    "runtime/rounding.cpp": "runtime/numbers.h",
+    "ui/dispatcher.cpp": "ui/window_host.h: the half of the host that runs handlers",
+}
+
 STANDARD_HEADERS = re.compile(r"^[a-z_]+$")
 TOOLKITS = re.compile(r"/(qt6|Qt[A-Z]\w*)/|/sqlite3\.h|/dbus|/canberra")
 
@@ -103,6 +122,18 @@ def check_test_names(root):
                 yield f"{path.relative_to(root)}: the test {name} is not in snake_case"
 
 
+def check_pairs(root):
+    """A source has a header of its own name: who reads one finds the other."""
+    source_files = {path.relative_to(root / "src").as_posix()
+                    for path in sources(root, ".cpp", ".h") if path.is_relative_to(root / "src")}
+    alone = {name for name in source_files
+             if name.endswith(".cpp") and name[:-4] + ".h" not in source_files}
+    for name in sorted(alone - ALONE.keys()):
+        yield f"src/{name}: no header of its name"
+    for name in sorted(ALONE.keys() - alone):
+        yield f"src/{name}: has a header of its name, or is gone; take it off the list ALONE"
+
+
 def room_of(path):
     """Of a path below src/. Each adapter is a room of its own."""
     parts = Path(path).parts
@@ -153,7 +184,8 @@ def main():
     if len(sys.argv) > 2:
         faults = list(check_core_objects(root, sys.argv[2]))
     else:
-        checks = (check_text, check_format, check_size, check_arrows, check_test_names)
+        checks = (check_text, check_format, check_size, check_arrows, check_pairs,
+                  check_test_names)
         faults = [fault for check in checks for fault in check(root)]
     for fault in faults:
         print(fault)

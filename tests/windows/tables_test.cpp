@@ -3,7 +3,7 @@
 #include "platform/platform.h"
 #include "runtime/error.h"
 #include "runtime/text.h"
-#include "services/literals.h"
+#include "services/crea_literales.h"
 #include "support/recording_platform.h"
 #include "ui/window.h"
 #include "windows/bare_windows.h"

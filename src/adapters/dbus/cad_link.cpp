@@ -1,6 +1,7 @@
 #include "adapters/dbus/cad_link.h"
 
 #include "adapters/dbus/bus_faults.h"
+#include "cad/autocad.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>

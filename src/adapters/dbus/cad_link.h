@@ -1,7 +1,7 @@
 // The line to one running CAD: its address on the bus and calls that fail with a run-time error.
 #pragma once
 
-#include "adapters/dbus/dbus_cad.h"
+#include "adapters/dbus/cad_patience.h"
 
 #include <QDBusConnection>
 #include <QString>

@@ -2,19 +2,12 @@
 // interface is data/dbus/org.velmora.Cad1.xml; docs/cad-interface.md tells it to a CAD's author.
 #pragma once
 
+#include "adapters/dbus/cad_patience.h"
 #include "cad/autocad.h"
 
-#include <chrono>
 #include <memory>
 
 namespace velmora {
-
-/// How long a CAD may think: before it counts as busy when it is looked for, and later as gone. A
-/// pick waits for the user without an end.
-struct CadPatience {
-    std::chrono::milliseconds to_attach = std::chrono::seconds(5);
-    std::chrono::milliseconds to_answer = std::chrono::seconds(60);
-};
 
 /// Needs a QCoreApplication. While a call waits the windows repaint and take no input. Nothing is
 /// ever started: what doesn't run, or owns the name without offering the interface, is no CAD.

@@ -1,4 +1,5 @@
-#include "adapters/dbus/dbus_objects.h"
+#include "adapters/dbus/dbus_entity.h"
+
 #include "runtime/error.h"
 
 #include <algorithm>

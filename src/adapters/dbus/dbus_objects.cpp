@@ -1,5 +1,6 @@
 #include "adapters/dbus/dbus_objects.h"
 
+#include "adapters/dbus/dbus_entity.h"
 #include "runtime/error.h"
 #include "toolkit/qt_text.h"
 

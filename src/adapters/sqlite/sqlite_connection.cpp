@@ -1,5 +1,6 @@
 #include "adapters/sqlite/sqlite_connection.h"
 
+#include "adapters/sqlite/sqlite_faults.h"
 #include "runtime/paths.h"
 
 #include <sqlite3.h>

@@ -1,7 +1,8 @@
 #include "adapters/sqlite/sqlite_database.h"
 
 #include "adapters/sqlite/sqlite_connection.h"
-#include "adapters/sqlite/sqlite_recordsets.h"
+#include "adapters/sqlite/sqlite_select.h"
+#include "adapters/sqlite/sqlite_table.h"
 #include "runtime/text.h"
 
 #include <sqlite3.h>

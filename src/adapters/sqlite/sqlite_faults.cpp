@@ -1,4 +1,6 @@
-#include "adapters/sqlite/sqlite_statement.h"
+#include "adapters/sqlite/sqlite_faults.h"
+
+#include "platform/database.h"
 
 #include <algorithm>
 #include <iterator>

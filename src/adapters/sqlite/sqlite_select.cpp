@@ -1,4 +1,4 @@
-#include "adapters/sqlite/sqlite_recordsets.h"
+#include "adapters/sqlite/sqlite_select.h"
 
 #include "runtime/text.h"
 

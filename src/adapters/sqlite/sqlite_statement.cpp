@@ -1,5 +1,7 @@
 #include "adapters/sqlite/sqlite_statement.h"
 
+#include "adapters/sqlite/sqlite_faults.h"
+
 #include <algorithm>
 #include <sqlite3.h>
 #include <utility>

@@ -1,5 +1,4 @@
-// Prepared statements over SQLite's own interface, and the numbers that its faults have in the
-// program.
+// Prepared statements over SQLite's own interface.
 #pragma once
 
 #include "platform/database.h"
@@ -17,9 +16,6 @@ namespace velmora::sqlite {
 
 /// Shared by the database and its recordsets: a closed file is let go with the last of them.
 using Connection = std::shared_ptr<sqlite3>;
-
-/// The run-time error of the fault that the connection met last.
-[[nodiscard]] RuntimeError fault_of(sqlite3* connection);
 
 /// A name between double quotes.
 [[nodiscard]] std::string quoted(std::string_view name);

@@ -1,4 +1,4 @@
-#include "adapters/sqlite/sqlite_recordsets.h"
+#include "adapters/sqlite/sqlite_table.h"
 
 #include <optional>
 #include <string>
