@@ -119,6 +119,15 @@ Pass read_profili(std::string_view path, ReadCounts& counts, CoordinateLimit& li
     return Pass::complete;
 }
 
+using ReadPass = Pass (*)(std::string_view path, ReadCounts& counts, CoordinateLimit& limit);
+
+/// Into the document, by as many passes as the limit asks for.
+std::int16_t within_limit(ReadPass pass, std::string_view path, std::string_view shown_path,
+                          ReadCounts& counts) {
+    return read_within_limit(shown_path, Forma.Pto, counts,
+                             [&](CoordinateLimit& limit) { return pass(path, counts, limit); });
+}
+
 } // namespace
 
 bool read_slwmd_outline(Array<Pto>& points, ReadCounts& counts, CoordinateLimit& limit) {
@@ -153,11 +162,8 @@ std::int16_t CargaSLWMD(std::string_view path) {
 
 std::int16_t CargaSLWMD(std::string_view path, std::string_view shown_path) {
     ReadCounts counts;
-    return read_refusing({"CargaSLWMD"}, counts, [&] {
-        return read_within_limit(shown_path, Forma.Pto, counts, [&](CoordinateLimit& limit) {
-            return read_slwmd(path, counts, limit);
-        });
-    });
+    return read_refusing({"CargaSLWMD"}, counts,
+                         [&] { return within_limit(read_slwmd, path, shown_path, counts); });
 }
 
 std::int16_t CargaNOSLW(std::string_view path) {
@@ -166,11 +172,8 @@ std::int16_t CargaNOSLW(std::string_view path) {
 
 std::int16_t CargaNOSLW(std::string_view path, std::string_view shown_path) {
     ReadCounts counts;
-    return read_asking({"CargaNOSLW"}, counts, [&] {
-        return read_within_limit(shown_path, Forma.Pto, counts, [&](CoordinateLimit& limit) {
-            return read_noslw(path, counts, limit);
-        });
-    });
+    return read_asking({"CargaNOSLW"}, counts,
+                       [&] { return within_limit(read_noslw, path, shown_path, counts); });
 }
 
 std::int16_t CargaPROFILI(std::string_view path) {
@@ -179,11 +182,8 @@ std::int16_t CargaPROFILI(std::string_view path) {
 
 std::int16_t CargaPROFILI(std::string_view path, std::string_view shown_path) {
     ReadCounts counts;
-    return read_asking({"CargaPROFILI"}, counts, [&] {
-        return read_within_limit(shown_path, Forma.Pto, counts, [&](CoordinateLimit& limit) {
-            return read_profili(path, counts, limit);
-        });
-    });
+    return read_asking({"CargaPROFILI"}, counts,
+                       [&] { return within_limit(read_profili, path, shown_path, counts); });
 }
 
 } // namespace velmora

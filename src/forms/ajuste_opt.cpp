@@ -48,12 +48,9 @@ void ajuste_opt_Load() {
 }
 
 void ajuste_opt_Change() {
-    const auto other_than_0 = [](const std::string& text) {
-        return runtime::Val(text) != 0;
-    };
     AjusteOptWindow& window = state::ajuste_opt;
-    window.cmb_ok_enabled =
-        other_than_0(window.txt_X) && other_than_0(window.txt_Y) && other_than_0(window.txt_Z);
+    window.cmb_ok_enabled = reads_non_zero(window.txt_X) && reads_non_zero(window.txt_Y) &&
+                            reads_non_zero(window.txt_Z);
 }
 
 int ajuste_opt_KeyPress(AjusteOptBox box, int key) {

@@ -23,7 +23,7 @@ void Compensa_Load() {
 }
 
 void Txt_merma_Change() {
-    state::Compensa.cmd_ok_enabled = runtime::Val(state::Compensa.Txt_merma) != 0;
+    state::Compensa.cmd_ok_enabled = reads_non_zero(state::Compensa.Txt_merma);
 }
 
 int Txt_merma_KeyPress(int key) {

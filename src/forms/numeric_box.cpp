@@ -3,6 +3,7 @@
 #include "document/text_box.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"
+#include "runtime/numbers.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 
@@ -26,6 +27,10 @@ int numeric_key(const NumericBox& box, int code) {
     MuestraMensaje(message::only_numbers);
     reset_box(box);
     return 0;
+}
+
+bool reads_non_zero(const std::string& text) {
+    return runtime::Val(text) != 0;
 }
 
 void reset_box(const NumericBox& box) {

@@ -25,6 +25,9 @@ struct NumericBox {
 /// The key to take, or 0 when it is refused: then message 6 was shown, the box was reset.
 [[nodiscard]] int numeric_key(const NumericBox& box, int code);
 
+/// The text reads as another number than 0. Raises 6 beyond f64.
+[[nodiscard]] bool reads_non_zero(const std::string& text);
+
 /// Puts the reset text into the box, a change when it differs, and gives the box the focus.
 void reset_box(const NumericBox& box);
 

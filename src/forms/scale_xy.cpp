@@ -18,10 +18,6 @@ namespace {
 
 constexpr std::string_view kWindow = "Scale_xy";
 
-bool reads_non_zero(const std::string& text) {
-    return runtime::Val(text) != 0;
-}
-
 void enable_ok_by(const std::string& x, const std::string& y) {
     state::Scale_xy.cmd_ok_enabled = reads_non_zero(x) && reads_non_zero(y);
 }
