@@ -37,7 +37,7 @@ class ByPosition {
         }
     }
 
-    /// The first element at `position` that a scan meets which goes on behind `from`.
+    /// The first element at `position` that a scan meets when it goes on after `from`.
     [[nodiscard]] std::int32_t find(std::int32_t position, std::int32_t from) const {
         if (index(position) >= first_.size())
             return nothing;
@@ -49,8 +49,8 @@ class ByPosition {
         return first;
     }
 
-    /// The elements lie scattered: one is fetched some positions before its turn, its points nearer
-    /// to it.
+    /// The elements are scattered in memory: one is fetched some positions ahead of its turn, its
+    /// points later.
     void fetch_ahead(std::int32_t position, const Array<ObjCad>& objects) const {
         constexpr std::int32_t points_ahead = 8;
         if (const ObjCad* element = first_at(position + 2 * points_ahead, objects))

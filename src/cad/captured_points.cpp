@@ -87,7 +87,7 @@ std::optional<std::int32_t> whole_number(const std::string& text) {
     return number;
 }
 
-/// There is no way out but a number that is large enough, on purpose.
+/// Only a number that is large enough ends it, on purpose.
 void ask_while_below(std::int32_t fewest, int prompt, std::int32_t& points, std::string& box) {
     while (points < fewest) {
         const auto given = whole_number(InputBox(GetMensaje(prompt), box_title(), ""));

@@ -41,7 +41,7 @@ void walk(ChainFinder& finder, std::int32_t current, const Place& place, const G
     }
 }
 
-/// A list at rest: its one element was never filled.
+/// An empty list: its one element was never filled.
 bool holds_no_entity(const Array<ObjCad>& objects) {
     return objects.upper() == 0 && !objects[0].Ptos.dimensioned();
 }

@@ -78,7 +78,7 @@ void look_for_document() {
         show_no_document();
 }
 
-/// What was found is open, also while it turns calls away; then `otherwise` runs.
+/// What was found is open, also while it rejects calls; then `otherwise` runs.
 template <class Call, class Otherwise>
 void unless_busy(Call call, Otherwise otherwise) {
     trap(call, [&](const RuntimeError& failure) {

@@ -17,7 +17,7 @@ namespace velmora {
 
 namespace {
 
-/// How many ends of elements that are no points lie exactly at a place.
+/// How many ends of elements other than points lie exactly at a place.
 class EndCount {
   public:
     void add(const ObjCad& object) { change(object, 1); }
@@ -57,7 +57,7 @@ bool same_but_id(const ObjCad& a, const ObjCad& b) {
            std::ranges::equal(a.Ptos.all(), b.Ptos.all());
 }
 
-/// Notices that a list comes back to an earlier state: it is held against one kept state, which is
+/// Notices that a list comes back to an earlier state: it is compared with one kept state, which is
 /// taken anew after 1, 2, 4, 8, ... rounds.
 class LoopWatch {
   public:
@@ -123,7 +123,7 @@ class Conversion {
         return i;
     }
 
-    /// The bounds stay, so that the last element stands twice.
+    /// The bounds stay, so the last element is there twice.
     void remove(std::int32_t i) {
         ends_.remove(list_[i]);
         const auto all = list_.all();

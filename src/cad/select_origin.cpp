@@ -16,7 +16,7 @@ namespace velmora {
 
 namespace {
 
-// What the CAD answers where the question could not be put yet.
+// What the CAD answers when the question could not be asked yet.
 constexpr auto kCallRejected = static_cast<std::int32_t>(0x8021001CU);
 constexpr auto kExceptionInCad = static_cast<std::int32_t>(0x80020009U);
 

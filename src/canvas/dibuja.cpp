@@ -178,7 +178,7 @@ void Dibuja() {
     draw_axes(pic);
     std::optional<RuntimeError> failure;
     trap([&] { draw_shape(pic); }, [&](const RuntimeError& raised) { failure = raised; });
-    // The picture stands before the box does.
+    // The picture is up before the box is.
     pic.present();
     if (failure)
         report(*failure);

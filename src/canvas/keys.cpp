@@ -38,7 +38,7 @@ std::int32_t first_marked() {
     return index;
 }
 
-/// Turns the array back, so that the points put in stand before the one selected then.
+/// Turns the array back, so that the points put in come before the one selected then.
 void end_insertion() {
     state::view.PtosToInsertMode = False;
     if (state::document.PtoSelAnt < 0) {

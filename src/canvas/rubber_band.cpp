@@ -73,7 +73,7 @@ void stretch(Surface& pic, double x, double y) {
     pic.set_draw_mode(DrawMode::copy_pen);
 }
 
-/// A fault leaves the draw mode as it stands, until the next call.
+/// A fault leaves the draw mode as it is, until the next call.
 template <class Paint>
 void paint_over(Paint paint) {
     Surface& pic = platform().pic;

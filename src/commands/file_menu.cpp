@@ -51,7 +51,7 @@ void reset_counts() {
 
 } // namespace
 
-// Both steps go by what stands afterwards: a cancelled window refreshes an outline too.
+// Both steps go by what is there afterwards: a cancelled window refreshes an outline too.
 void mnu_newfile() {
     platform().windows.show_modal("New_Dat");
     if (has_shape()) {
@@ -143,7 +143,8 @@ void mnu_exit() {
     SalVelmora(cancel);
 }
 
-// Unlike the menu's entry it lets a No stand: the key is silent from then on, on purpose.
+// Unlike the menu's entry it doesn't reset an earlier No: the key is silent from then on, on
+// purpose.
 void K_EXIT() {
     std::int16_t cancel = 0;
     SalVelmora(cancel);

@@ -23,8 +23,8 @@ double between(double a, double b, double percent) {
     return a;
 }
 
-/// The working point behind the run's end. The last run has no sync point of its own ordinal
-/// behind it; the last element stands in for the point that follows.
+/// The working point after the run's end. After the last run there is no sync point of its ordinal;
+/// the last element takes the place of the point that follows.
 Pto beyond_run(const AdjustedSide& side, std::int32_t tramo, std::int32_t NumSinc) {
     const Array<Pto>& points = side.side.Trabajo;
     const std::int32_t following = side.syncs.nth(tramo) + 1;
@@ -50,7 +50,7 @@ class MergedPass {
     }
 
   private:
-    /// In the place of what the run before left last.
+    /// In the place of the last element of the run before.
     void take_sync_point(MergedList& rows) {
         points_[own_.Idx] = {.X = rows.X(), .Y = rows.Y(), .Sinc = 1};
         show_total();

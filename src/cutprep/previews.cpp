@@ -69,7 +69,7 @@ class Frame {
     double y0_ = 0;
 };
 
-/// The direction of the cut can be told by the first two chords.
+/// The direction of the cut can be seen from the first two chords.
 std::uint32_t colour_of_chord(std::int32_t from) {
     if (from == 0)
         return kFirstChord;
@@ -95,7 +95,7 @@ void draw_points(PreviewSurface& picture, const Array<Pto>& points, const Frame&
     }
 }
 
-/// Asked for anew behind each turn of the windows: the pictures go with theirs.
+/// Asked for anew after each turn of the windows: the pictures are gone when their window is.
 PreviewSurface& picture_of(PreviewPicture which) {
     if (platform().previews == nullptr)
         raise(error::object_not_set);

@@ -40,7 +40,7 @@ std::string name_of(const std::string& path) {
     return {last.base(), path.end()};
 }
 
-// The place `index` takes what stands above it, and so on up to the first, which takes the path.
+// The place `index` takes what is above it, and so on up to the first, which takes the path.
 void shift_down(int last, const std::string& path, std::string (*value_at)(int)) {
     for (int index = last; index >= 1; --index)
         if (const std::string value = value_at(index); !value.empty())

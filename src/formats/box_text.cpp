@@ -16,7 +16,7 @@ std::string joined_by_blanks(std::initializer_list<std::string_view> pieces) {
 
 std::string without_control_characters(std::string_view text) {
     constexpr unsigned char delete_sign = 0x7F;
-    constexpr unsigned char second_set = 0xC2; // before 80 to 9F: the controls behind ASCII
+    constexpr unsigned char second_set = 0xC2; // before 80 to 9F: the controls after ASCII
     std::string result;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto byte = static_cast<unsigned char>(text[i]);

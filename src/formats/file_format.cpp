@@ -62,7 +62,7 @@ bool extension_decides(const FirstLines&) {
     return false;
 }
 
-/// The dialects stand in the order in which they are tried; one that is known by two signs has two
+/// The dialects are in the order in which they are tried; one that is known by two signs has two
 /// rows.
 constexpr auto kFormats = std::to_array<Format>({
     {"DAT", FileFormat::SLWSINC, has_record_lines, Passes::separator, alone<CargaSLWSINC>,

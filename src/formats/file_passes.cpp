@@ -49,8 +49,8 @@ bool same_file(std::string_view a, std::string_view b) {
     return std::filesystem::equivalent(runtime::native_path(a), runtime::native_path(b), none);
 }
 
-/// All of file 1 from where it stands but for its last `left_out` bytes, with `to` for `from`, to a
-/// file of its own.
+/// All of file 1 from its present place but for its last `left_out` bytes, with `to` for `from`, to
+/// a file of its own.
 void write_replaced(const std::string& temp, char from, char to, std::uint64_t left_out) {
     state::loading.files.open_output(kTemp, temp);
     const OpenNumber copy(kTemp);
@@ -96,7 +96,7 @@ std::string passed_copy(std::string_view path, char from, char to) {
     return copy;
 }
 
-/// Puts a copy in the file's place; where that fails the file stands as it was, and a symbolic link
+/// Puts a copy in the file's place; where that fails the file stays as it was, and a symbolic link
 /// leads to the new one.
 void replace_by_copy(std::string_view path, const std::string& copy) {
     Draft fresh(runtime::link_target(path));
@@ -161,7 +161,7 @@ std::string TabToSpace(std::string_view path) {
 }
 
 void SetDotDecimals(std::string_view path) {
-    // The final line end stays behind, on purpose.
+    // The final line end is lost, on purpose.
     constexpr std::uint64_t line_end = 2;
     if (!probe(path, ',').found)
         return;

@@ -81,8 +81,8 @@ void refuse(const std::string& path, const std::string& format_text) {
     set_pointer(0);
 }
 
-/// What a reader reads: the file, or where a pass could not rewrite it the passed copy, which goes
-/// once it was read.
+/// What a reader reads: the file, or where a pass could not rewrite it the passed copy, which is
+/// deleted once it was read.
 class PassedFile {
   public:
     explicit PassedFile(std::string_view path) : path_(path), to_read_(path) {

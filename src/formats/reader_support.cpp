@@ -19,7 +19,7 @@ std::int16_t empty_document() {
     return False;
 }
 
-/// A point whose text failed stands half read behind the whole ones: it would be cut as it is.
+/// A point whose text failed is half read and comes after the whole ones: it would be cut as it is.
 void cut_to_whole_points(std::int32_t points) {
     if (points > 0)
         Forma.Pto.redim_keep(points - 1);

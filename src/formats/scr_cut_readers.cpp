@@ -21,7 +21,7 @@ namespace velmora {
 namespace {
 
 /// A point whose numbers are written with "."; their texts are brought to the machine's separator
-/// one by one, so that what stands between them is no business of the conversion.
+/// one by one, so that what is between them is not converted.
 class DottedPoints {
   public:
     DottedPoints(ReadCounts& counts, CoordinateLimit& limit) : counts_(counts), limit_(limit) {}
@@ -69,8 +69,8 @@ Pass read_scr(std::string_view path, ReadCounts& counts, CoordinateLimit& limit)
     return Pass::complete;
 }
 
-/// The text from behind a label of three characters to the next label. A line without the first
-/// label is taken from its third character on, one without the next raises 5.
+/// The text between a label of three characters and the next label. A line without the first label
+/// is taken from its third character on, one without the next raises 5.
 std::string_view labelled(std::string_view line, std::string_view label,
                           std::string_view next_label) {
     const std::size_t at = line.find(label);

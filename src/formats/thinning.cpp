@@ -15,8 +15,8 @@ void count_removed(std::int32_t& removed) {
     DoEvents();
 }
 
-/// The outline without the points that stand inside a run of equal values of one coordinate. The
-/// first point and the last two always stay.
+/// The outline without the points inside a run of equal values of one coordinate. The first point
+/// and the last two always stay.
 Array<Pto> without_runs(const Array<Pto>& points, double Pto::*coordinate, std::int32_t& removed) {
     Array<Pto> kept;
     const std::int32_t upper = points.upper();

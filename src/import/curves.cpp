@@ -94,7 +94,7 @@ void flatten(const Bezier& curve, double tolerance, Pieces& pieces) {
 
 namespace {
 
-/// Solves a system of three diagonals, `middle` and `right` being used up; the answer stands in
+/// Solves a system of three diagonals, `middle` and `right` being used up; the answer is in
 /// `right`.
 void solve(const std::vector<double>& below, std::vector<double>& middle,
            const std::vector<double>& above, std::vector<Point>& right) {

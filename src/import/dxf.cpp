@@ -106,7 +106,7 @@ class DxfReader {
     }
 
     void leave_section() {
-        // What a file without sections or behind one holds counts as drawn.
+        // What a file holds without sections, or after one, counts as drawn.
         section_ = {};
         variable_ = {};
         block_ = nullptr;
@@ -168,7 +168,7 @@ class DxfReader {
         return {drawing_.pieces, fills_, drawing_.dots, frozen_, tolerance_, report_};
     }
 
-    /// Its vertices follow as entities of their own. Meshes are no lines.
+    /// Its vertices follow as entities of their own. Meshes are not lines.
     void begin_polyline() {
         const int flags = entity_.whole(70);
         if ((flags & (16 | 64)) != 0)

@@ -26,7 +26,7 @@ bool is_axis(char letter) {
     return std::string_view("XYZUVWABC").find(letter) != std::string_view::npos;
 }
 
-/// Which axes stand in the program.
+/// Which axes the program names.
 std::array<bool, letters> axes_in(std::string_view text) {
     std::array<bool, letters> found{};
     std::vector<GcodeWord> words;
@@ -40,7 +40,7 @@ std::array<bool, letters> axes_in(std::string_view text) {
     return found;
 }
 
-/// The road of both ends of the wire, point by point.
+/// The path of both ends of the wire, point by point.
 struct Road {
     std::vector<Point> first;
     std::vector<Point> second;
@@ -267,7 +267,7 @@ class GcodeReader {
             imported_.asks.push_back({.question = Question::unit, .options = {"mm", "in"}});
     }
 
-    /// The first point is where the machine stands: the move to the second one counts.
+    /// The first point is where the machine is: the move to the second one counts.
     void trim_approach() {
         std::size_t begin = 0;
         std::size_t end = road_.first.size();

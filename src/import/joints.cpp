@@ -14,7 +14,7 @@ namespace velmora::imports {
 
 namespace {
 
-/// Where more meet, nothing tells which goes on into which.
+/// Where more meet, nothing says which goes on into which.
 constexpr std::size_t most_meeting = 64;
 /// Ends that one end is measured against in each neighbouring cell.
 constexpr std::size_t most_neighbours = 32;

@@ -19,7 +19,7 @@ bool separates(char c, bool comma_is_decimal) {
            c == '"';
 }
 
-/// What separates two tokens at most once: two of them stand around an empty cell.
+/// What separates two tokens at most once: two of them enclose an empty cell.
 std::string_view take_token(std::string_view& line, bool comma_is_decimal) {
     while (!line.empty() && separates(line.front(), comma_is_decimal))
         line.remove_prefix(1);

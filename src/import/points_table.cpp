@@ -18,12 +18,12 @@ constexpr double outlying = 1.6;
 constexpr double count_jump = 0.5;
 constexpr double upper_above_lower = 0.9;
 
-/// Rows that stand together: of a table, a half, an element. `lines` are indexes of text lines.
+/// Rows that belong together: of a table, a half, an element. `lines` are indexes of text lines.
 struct Run {
     std::vector<Point> points = {};
     std::vector<double> third = {}; ///< empty where there is no third column
     std::vector<std::uint32_t> lines = {};
-    bool parted = false; ///< a parting row stands in front of it
+    bool parted = false; ///< a parting row is in front of it
 
     [[nodiscard]] std::size_t size() const { return points.size(); }
 

@@ -90,7 +90,7 @@ const Wording& wording(Fact fact) {
     return wordings[static_cast<std::size_t>(fact)];
 }
 
-/// Cut behind a whole UTF-8 character.
+/// Cut after a whole UTF-8 character.
 std::string_view shortened(std::string_view text) {
     if (text.size() <= longest_text)
         return text;

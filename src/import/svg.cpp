@@ -98,7 +98,7 @@ class SvgReader {
         const std::string_view name = xml.name();
         if (by_reference && ++referenced_ > most_referenced)
             return false;
-        // What is referred to is drawn though it stands among what is not.
+        // What is referred to is drawn though it is among what is not.
         const bool referred_symbol = by_reference && depth == 1 && name == "symbol";
         if (is_in(undrawn, name) && !referred_symbol) {
             if (is_in(missed, name))

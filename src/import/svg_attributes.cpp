@@ -63,7 +63,7 @@ std::optional<Map> transform_of(std::string_view name, const std::vector<double>
     return {};
 }
 
-/// A style is a list of names and values; blanks may stand anywhere.
+/// A style is a list of names and values; blanks may be anywhere.
 bool style_says(std::string_view style, std::string_view declaration) {
     std::string packed;
     std::ranges::copy_if(style, std::back_inserter(packed), [](char c) { return !is_blank(c); });

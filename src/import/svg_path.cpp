@@ -13,7 +13,7 @@ namespace velmora::imports {
 
 namespace {
 
-/// Numbers of a command; 0 for Z, none for what is no command.
+/// Numbers of a command; 0 for Z, none for anything else.
 std::optional<std::size_t> numbers_of(char command) {
     switch (command) {
     case 'M':
@@ -55,8 +55,8 @@ class PathReader {
             rest_.remove_prefix(1);
     }
 
-    /// A command's letter, or the letter before once more: pairs behind a move are lines. What
-    /// can't be carried out is left in `rest_`.
+    /// A command's letter, or the letter before once more: pairs after a move are lines. What can't
+    /// be carried out is left in `rest_`.
     bool take_command() {
         const std::string_view before = rest_;
         char letter = rest_.front();
@@ -142,8 +142,8 @@ class PathReader {
         }
     }
 
-    /// The last control point on the other side of where the path stands, behind a command of the
-    /// same family; else where it stands.
+    /// The last control point mirrored at the path's present place, after a command of the same
+    /// family; else that place.
     [[nodiscard]] Point reflected(std::string_view family) const {
         const bool follows = family.find(capital(last_)) != std::string_view::npos && last_ != 0;
         return follows ? 2 * at_ - control_ : at_;

@@ -39,7 +39,7 @@ long written_exponent(std::string_view digits) {
 }
 
 /// Whether a number that f64 can't hold is too large for it, and not too small: whether its first
-/// digit other than 0 stands before the point once the exponent is applied.
+/// digit other than 0 comes before the point once the exponent is applied.
 bool is_large(std::string_view number) {
     const auto e = std::min(number.find_first_of("Ee"), number.size());
     const auto mantissa = number.substr(0, e);
@@ -51,11 +51,11 @@ bool is_large(std::string_view number) {
 
 struct Reading {
     double value = 0;
-    std::size_t used = 0; ///< 0: no number stands at the start
+    std::size_t used = 0; ///< 0: there is no number at the start
 };
 
 /// The number at the start of a text with '.' as separator. The names that from_chars would take
-/// for infinity and NaN are no numbers here.
+/// for infinity and NaN are not numbers here.
 Reading read_number(std::string_view text) {
     std::size_t start = text.starts_with('+') ? 1 : 0;
     const std::size_t body = text.starts_with('-') ? 1 : start;

@@ -39,7 +39,7 @@ bool is_blank(const std::string& text) {
     return runtime::Trim(text).empty();
 }
 
-// The texts go in as they stand: an apostrophe breaks the statement, on purpose.
+// Nothing is escaped: an apostrophe breaks the statement, on purpose.
 void insert_row(const std::string& form, const std::string& key, const std::string& text,
                 const std::string& tip) {
     if (is_blank(text) && is_blank(tip))

@@ -11,7 +11,7 @@ namespace velmora {
 
 namespace {
 
-// Editors on several systems leave a mark in front and carriage returns behind.
+// Editors on several systems put a mark at the start and carriage returns at the ends of lines.
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view kBlanks = " \t\r";
 

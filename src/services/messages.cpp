@@ -40,7 +40,7 @@ void open_table() {
     mensajes() = platform().database.open_recordset("Mensajes", Access::read_only);
 }
 
-// Stands on the row of the code; false when there is none, a Null text counts as none.
+// Goes to the row of the code; false when there is none, a Null text counts as none.
 bool find(int codigo) {
     mensajes()->seek({std::to_string(codigo), state::program.Idioma});
     return !mensajes()->no_match() && !is_null(mensajes()->field("Descripcion"));
@@ -55,8 +55,8 @@ Message look_up(int codigo) {
             runtime::to_int32(runtime::Val(trimmed_field("Botones")))};
 }
 
-/// What the eye is shown where the table names no icon: a question, a loss to think over, a note,
-/// or that something was not done.
+/// The icon where the table names none: a question, a loss to think over, a note, or that something
+/// was not done.
 int icon_for(int codigo, int coded) {
     if (codigo == message::sync_points_lost)
         return buttons::exclamation;

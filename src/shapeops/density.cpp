@@ -25,7 +25,7 @@ struct Places {
         const std::int32_t place = runtime::to_int32(step * k + first);
         return place > upper ? place - upper - 1 : place;
     }
-    /// None stands beyond one turn.
+    /// None is beyond one turn.
     [[nodiscard]] bool fit(std::size_t points) const {
         const double most = 2.0 * static_cast<double>(points) - 1;
         const double ends[] = {static_cast<double>(first), step * last + first};
@@ -67,7 +67,7 @@ double between(double p, double q, double parts, double k) {
     return p;
 }
 
-/// Fills the points behind place `d` of the outline on the way to point `next`.
+/// Fills in the points after place `d` of the outline on the way to point `next`.
 void interpolate(Array<Pto>& outline, std::int32_t d, const Pto& next, std::int32_t parts) {
     const Pto& from = outline[d];
     const double px = from.X + kShift;

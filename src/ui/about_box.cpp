@@ -25,7 +25,7 @@ AboutBox::AboutBox(EventSink& events) : FormWindow(events) {
 
 void AboutBox::bind() {
     bindings().label(*ui.lblVer, state::acerca.lblVer);
-    // The names come when the box stands already; it makes room for them, none for none.
+    // The names come when the box is up already; it grows to hold them, by nothing for none.
     bindings().shows<std::string>([] { return state::acerca.SSPanel1; },
                                   [this](const std::string& names) {
                                       ui.SSPanel1->setText(QString::fromStdString(names));

@@ -213,7 +213,7 @@ void CoordListView::keyPressEvent(QKeyEvent* event) {
 }
 
 // The focus, as it comes, makes the first row the current one without choosing it; a key that would
-// move to where the list stands chooses it.
+// move to the row that the list is at chooses it.
 QModelIndex CoordListView::chosen() const {
     const QModelIndex now = currentIndex();
     return selectionModel()->isSelected(now) ? now : QModelIndex();

@@ -65,7 +65,7 @@ void WindowHost::run(const std::function<void()>& handler) {
         if (const auto failure = failure_of(handler))
             d->fail(*failure);
     } catch (const EndOfProgram&) {
-        // The end was told where it was asked for.
+        // The end was announced where it was asked for.
     }
     --d->running;
     if (d->ending_depth > d->running)

@@ -10,7 +10,7 @@ namespace {
 
 using Code = std::pair<int, int>;
 
-// Alt is told as Meta while Shift is held.
+// Alt is reported as Meta while Shift is held.
 constexpr Code kKeys[] = {
     {Qt::Key_Backspace, 8}, {Qt::Key_Clear, 12},   {Qt::Key_Return, 13}, {Qt::Key_Enter, 13},
     {Qt::Key_Shift, 16},    {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},    {Qt::Key_AltGr, 18},

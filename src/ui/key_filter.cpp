@@ -44,8 +44,8 @@ bool types_text(const QKeyEvent& event) {
     return first.isPrint() || first.isSurrogate() || first.category() == QChar::Other_PrivateUse;
 }
 
-/// What a character of a text is to the handler. Control characters are no keys here: a pasted line
-/// end is no Enter.
+/// What a character of a text is to the handler. Control characters are not keys here: a pasted
+/// line end is not Enter.
 int code_of(char32_t character) {
     return character < kFirstPrintable ? 0 : static_cast<int>(character);
 }
@@ -58,7 +58,7 @@ bool pastes_selection(const QKeyEvent& event) {
 
 /// The entry of a box's own menu that pastes.
 QAction* paste_entry(const QMenu& menu) {
-    const QString name = QLineEdit::tr("&Paste"); // the keys stand behind a tab
+    const QString name = QLineEdit::tr("&Paste"); // the shortcut follows a tab
     for (QAction* entry : menu.actions())
         if (entry->text().section('\t', 0, 0) == name)
             return entry;
@@ -137,8 +137,8 @@ bool KeyFilter::released(const QMouseEvent& event) {
     return true;
 }
 
-/// The desktop waits for the end of the drop, and a message would hold it: the text comes in
-/// behind it. What is moved inside the box is no new text.
+/// The desktop waits for the end of the drop, and a message would hold it up: the text comes in
+/// after it. What is moved inside the box is not new text.
 bool KeyFilter::dropped(QDropEvent& event) {
     if (event.source() == &box_ || !event.mimeData()->hasText())
         return false;

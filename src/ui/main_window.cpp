@@ -53,7 +53,7 @@ MainWindow::MainWindow(EventSink& events, ShownImage& canvas)
 }
 
 void MainWindow::add_parts_without_a_look() {
-    auto* timer = new QTimer(&window_); // stands idle, on purpose
+    auto* timer = new QTimer(&window_); // idle, on purpose
     timer->setInterval(kTimerInterval);
     add_part(timer, "Timer1");
     add_part(new QObject(&window_), "CommonDialog1");

@@ -34,8 +34,8 @@ PointerEvent pointer_event(const QMouseEvent& event, int button) {
 
 constexpr int kControlKey = 17;
 
-/// A letter from abroad is not the key whose capital it shares: the long s that AltGr and W type on
-/// a Spanish keyboard is no S.
+/// A letter of another alphabet is not the key whose capital it shares: the long s that AltGr and W
+/// type on a Spanish keyboard is not S.
 bool is_borrowed(const QKeyEvent& event) {
     const QString text = event.text();
     return text.size() == 1 && text.front().unicode() > 127 && event.key() < 128;
@@ -86,8 +86,8 @@ void PicWidget::mouseReleaseEvent(QMouseEvent* event) {
         released(pointer_event(*event, button_code(event->button())));
 }
 
-// A key whose command took the focus, with a message or a dialog, is let go there, and so is Ctrl:
-// that is told again behind the key, which has told how Ctrl was at its press.
+// A key whose command took the focus, with a message or a dialog, is released there, and so is
+// Ctrl: its state is sent again after the key, which has sent how it was at its press.
 void PicWidget::keyPressEvent(QKeyEvent* event) {
     if (!key_down)
         return;

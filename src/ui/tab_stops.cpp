@@ -6,7 +6,7 @@ namespace velmora {
 
 TabStops::TabStops(QObject& parent, const std::vector<QWidget*>& stops)
     : QObject(&parent), stops_(stops.begin(), stops.end()) {
-    // The group narrows the order when one of its buttons takes the focus; this comes behind it.
+    // The group narrows the order when one of its buttons takes the focus; this comes after that.
     connect(qApp, &QApplication::focusChanged, this, &TabStops::restore);
     restore();
 }

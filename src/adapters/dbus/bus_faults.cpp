@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kAutomationError = 440;
 
-/// Zero is no error's number.
+/// Zero is not the number of an error.
 std::optional<int> own_number(const QString& name) {
     static const QString prefix = "org.velmora.Cad1.Error.E";
     if (!name.startsWith(prefix))
@@ -68,7 +68,7 @@ bool is_silence(const QDBusError& failure) {
 
 RuntimeError fault_of(const QDBusError& failure) {
     const int number = own_number(failure.name()).value_or(number_of(failure));
-    // What the bus says of a CAD that is gone is no text for its user.
+    // What the bus says of a CAD that is gone is not a text for its user.
     if (number == error::server_unavailable)
         return RuntimeError(number);
     return RuntimeError(number, failure.message().toStdString());

@@ -39,7 +39,7 @@ RuntimeError fault_of_question(const QDBusConnection& bus, const QDBusMessage& q
     return fault_of(failure);
 }
 
-/// The windows repaint meanwhile and stand still: what a person does in them waits.
+/// Meanwhile the windows repaint and do nothing else: what a person does in them waits.
 QDBusMessage answer_to(const QDBusConnection& bus, QDBusMessage question,
                        std::chrono::milliseconds patience,
                        int silence = error::server_unavailable) {

@@ -14,7 +14,7 @@ bool is_pattern_list(const QString& text) {
     return list.match(text).hasMatch();
 }
 
-/// What stands in the last brackets of a name, when it is a pattern.
+/// What is in the last brackets of a name, when it is a pattern.
 QString pattern_in(const QString& name) {
     static const QRegularExpression brackets(R"(\(([^()]*)\)\s*$)");
     const QString found = brackets.match(name).captured(1);

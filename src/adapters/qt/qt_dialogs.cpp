@@ -109,8 +109,8 @@ QString folder_of(const FileRequest& request) {
     return qt_text(request.folder);
 }
 
-/// The dialog stands in its folder with the name put in. What `prepare` sets comes first: the name
-/// is completed by it. Empty when cancelled.
+/// The dialog opens in its folder with the name filled in. What `prepare` sets comes first: the
+/// name is completed by it. Empty when cancelled.
 std::string ask_for_file(const FileRequest& request,
                          const std::function<void(QFileDialog&)>& prepare) {
     QFileDialog dialog(owner(), qt_text(request.title), folder_of(request),

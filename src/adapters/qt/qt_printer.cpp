@@ -26,7 +26,7 @@ struct Rim {
     QColor colour;
 };
 
-/// What stands on a sheet, in twips.
+/// What is printed on a sheet, in twips.
 struct Sheet {
     std::vector<QLineF> lines;
     std::vector<Rim> circles;

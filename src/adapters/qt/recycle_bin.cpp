@@ -20,8 +20,8 @@ bool can_be_filled(const QString& folder) {
     return QDir().mkpath(folder) && QFileInfo(folder).isDir() && QFileInfo(folder).isWritable();
 }
 
-/// The bin stands ready for a file of this path. Without these folders the toolkit moves the file
-/// into the current folder, or tries for ever.
+/// The bin is ready for a file of this path. Without these folders the toolkit moves the file into
+/// the current folder, or tries for ever.
 bool bin_is_ready(const QString& path) {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     const QString bin = data + "/Trash";

@@ -23,7 +23,7 @@ struct CloseContext {
     void operator()(ca_context* context) const { ca_context_destroy(context); }
 };
 
-/// A sound server's door, or a card. Without either the sound library would complain aloud.
+/// The socket of a sound server, or a card. Without either the sound library would complain aloud.
 bool has_output() {
     if (std::getenv("PULSE_SERVER") != nullptr)
         return true;

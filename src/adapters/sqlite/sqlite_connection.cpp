@@ -19,7 +19,7 @@ void refuse_empty(const Connection& connection) {
         raise(error::not_a_database, "file is empty");
 }
 
-// Tells the first fault as a row, or "ok".
+// Gives the first fault as a row, or "ok".
 void refuse_damaged(const Connection& connection) {
     Statement check(connection, "PRAGMA quick_check(1)");
     if (check.step() && check.column(0) != Value{std::string("ok")})

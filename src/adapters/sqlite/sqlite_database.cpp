@@ -22,8 +22,8 @@ bool is_blank(std::string_view text) {
     return text.find_first_not_of("; \t\r\n") == std::string_view::npos;
 }
 
-// A comment outside the quotes. Texts are put into statements as they stand, and one with an
-// apostrophe must not make the rest of its statement a comment.
+// A comment outside the quotes. Texts are put into statements unescaped, and one with an apostrophe
+// must not make the rest of its statement a comment.
 bool has_comment(std::string_view statement) {
     bool in_text = false;
     for (std::size_t at = 0; at < statement.size(); ++at) {
