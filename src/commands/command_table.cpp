@@ -52,6 +52,8 @@ constexpr auto kMenus = std::to_array<MenuEntry>({
     recent<10>(),
     separator("mnu_Archivo"),
     {"mnu_Archivo", "mnu_exit", "Salir", "", mnu_exit},
+    separator("mnu_Archivo"),
+    {"mnu_Archivo", "mnu_importar", "Importar...", "", mnu_importar},
 
     top("mnu_config", "&Configuración"),
     {"mnu_config", "mnu_paramgenerales", "Parámetros Generales", "", mnu_paramgenerales},

@@ -11,6 +11,7 @@
 #include "document/state/document.h"
 #include "document/state/program.h"
 #include "document/state/view.h"
+#include "document/windows/importar.h"
 #include "document/windows/velmora.h"
 #include "formats/load.h"
 #include "formats/save.h"
@@ -20,6 +21,8 @@
 #include "runtime/text.h"
 #include "services/settings.h"
 #include "services/shape_at_hand.h"
+
+#include <utility>
 
 namespace velmora {
 
@@ -49,6 +52,17 @@ void reset_counts() {
     shown::TotalObjs().show(0);
 }
 
+/// The outline at the stored zoom, its first point selected.
+void show_from_the_start() {
+    state::document.PtoSel = 0;
+    Apply_Precision();
+    LeeSettings();
+    take_stored_zoom();
+    take_colours();
+    Define_Layout();
+    Dibuja();
+}
+
 } // namespace
 
 // Both steps go by what is there afterwards: a cancelled window refreshes an outline too.
@@ -72,13 +86,7 @@ void mnu_openfile() {
     CargaFichero(1, result);
     if (result != True)
         return;
-    state::document.PtoSel = 0;
-    Apply_Precision();
-    LeeSettings();
-    take_stored_zoom();
-    take_colours();
-    Define_Layout();
-    Dibuja();
+    show_from_the_start();
     UpdateFileMenu(state::Velmora.TxtDat_File);
     Carga_List_Coords("NEWFILE");
 }
@@ -148,6 +156,17 @@ void mnu_exit() {
 void K_EXIT() {
     std::int16_t cancel = 0;
     SalVelmora(cancel);
+}
+
+// As an opened file, but the recent files: there is nothing to open yet under its name.
+void mnu_importar() {
+    platform().windows.show_modal("importar");
+    const ImportarWindow import = std::exchange(state::importar, {});
+    if (!import.taken)
+        return;
+    take_in_imported(import.target, import.kind_text);
+    show_from_the_start();
+    Carga_List_Coords("NEWFILE");
 }
 
 } // namespace velmora

@@ -23,6 +23,7 @@ void mnuRecentFile(int index);
 /// desktop names: on the command line, or dropped.
 void open_named(std::string_view path);
 void mnu_exit();
+void mnu_importar();
 // Configuración
 void mnu_paramgenerales();
 // Funciones

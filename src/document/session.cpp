@@ -26,6 +26,7 @@ constinit WinInfo& wininfo = session.wininfo;
 constinit WinOptions& winoptions = session.winoptions;
 constinit ScaleXyWindow& Scale_xy = session.Scale_xy;
 constinit DelNptoWindow& del_Npto = session.del_Npto;
+constinit ImportarWindow& importar = session.importar;
 constinit MultPtosWindow& Mult_Ptos = session.Mult_Ptos;
 constinit NewDatWindow& New_Dat = session.New_Dat;
 constinit CompensaWindow& Compensa = session.Compensa;

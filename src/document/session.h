@@ -19,6 +19,7 @@
 #include "document/windows/ajuste_opt.h"
 #include "document/windows/compensa.h"
 #include "document/windows/del_npto.h"
+#include "document/windows/importar.h"
 #include "document/windows/intro.h"
 #include "document/windows/mult_ptos.h"
 #include "document/windows/new_dat.h"
@@ -45,6 +46,7 @@ struct Session : ProgramState,
     WinOptions winoptions;
     ScaleXyWindow Scale_xy;
     DelNptoWindow del_Npto;
+    ImportarWindow importar;
     MultPtosWindow Mult_Ptos;
     NewDatWindow New_Dat;
     CompensaWindow Compensa;

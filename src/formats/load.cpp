@@ -13,6 +13,7 @@
 #include "formats/box_text.h"
 #include "formats/file_passes.h"
 #include "formats/origin.h"
+#include "formats/totals.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"
@@ -74,6 +75,11 @@ void take_in(const std::string& path, const std::string& format_text) {
     Check00();
 }
 
+void show_info_window() {
+    platform().windows.show("wininfo");
+    state::wininfo.chk_wininfo = true;
+}
+
 void refuse(const std::string& path, const std::string& format_text) {
     MsgBox(joined_by_blanks(
                {GetMensaje(message::the_file), path, GetMensaje(message::not_loaded), format_text}),
@@ -121,8 +127,7 @@ void CargaFichero(std::int16_t mode, std::int16_t& result) {
     const std::string path = mode == 1 ? ask_for_path() : state::Velmora.TxtDat_File;
     if (path.empty())
         return;
-    platform().windows.show("wininfo");
-    state::wininfo.chk_wininfo = true;
+    show_info_window();
     DoEvents();
     state::document.LastDir = QuitaNombre(path);
     show_reading(path);
@@ -133,6 +138,14 @@ void CargaFichero(std::int16_t mode, std::int16_t& result) {
     }
     take_in(path, format_text);
     result = True;
+}
+
+void take_in_imported(const std::string& path, const std::string& format) {
+    clear_canvas();
+    show_info_window();
+    publish_totals(Totals::all, Forma.Pto.upper());
+    shown::TotalSinc().put(1);
+    take_in(path, format);
 }
 
 std::int16_t CargaDAT(std::string_view path, FileFormat format) {

@@ -101,10 +101,10 @@ std::string_view shortened(std::string_view text) {
 }
 
 /// To six significant digits: it is read by a person.
-std::string number_words(double value) {
+std::string number_words(double value, char separator) {
     const double size = std::abs(value);
     const int before_point = size >= 1 ? static_cast<int>(std::floor(std::log10(size))) + 1 : 0;
-    return runtime::CStr(runtime::Round(value, std::max(0, 6 - before_point)), '.');
+    return runtime::CStr(runtime::Round(value, std::max(0, 6 - before_point)), separator);
 }
 
 void put(std::string& words, std::string_view mark, std::string_view value) {
@@ -134,14 +134,23 @@ std::string_view key(Fact fact) {
     return wording(fact).key;
 }
 
+std::string_view words(Fact fact) {
+    return wording(fact).words;
+}
+
+std::string filled(std::string_view words, const Remark& remark, char separator) {
+    std::string text(words);
+    put(text, "{n}", number_words(remark.number, separator));
+    put(text, "{o}", number_words(remark.other, separator));
+    put(text, "{t}", remark.text);
+    return text;
+}
+
 std::string sentence(const Remark& remark) {
-    std::string words(wording(remark.fact).words);
-    put(words, "{n}", number_words(remark.number));
-    put(words, "{o}", number_words(remark.other));
-    put(words, "{t}", remark.text);
+    const std::string text = filled(words(remark.fact), remark, '.');
     if (remark.line == 0)
-        return words;
-    return "line " + std::to_string(remark.line) + ": " + words;
+        return text;
+    return "line " + std::to_string(remark.line) + ": " + text;
 }
 
 } // namespace velmora::imports

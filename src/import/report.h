@@ -106,6 +106,10 @@ class Report {
 
 /// The key of a fact: a word without blanks.
 [[nodiscard]] std::string_view key(Fact fact);
+/// Of its sentence in English: {t} stands for the text, {n} and {o} for the numbers.
+[[nodiscard]] std::string_view words(Fact fact);
+/// Such words, in any language, with what the remark has put in.
+[[nodiscard]] std::string filled(std::string_view words, const Remark& remark, char separator);
 /// In English, the line first where there is one: "line 77: passed over: end".
 [[nodiscard]] std::string sentence(const Remark& remark);
 

@@ -5,11 +5,13 @@
 #include "import_tool/outline_text.h"
 #include "runtime/error.h"
 #include "runtime/paths.h"
+#include "runtime/whole_file.h"
 
+#include <cstdint>
 #include <exception>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 namespace velmora::import_tool {
@@ -18,17 +20,24 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::uintmax_t largest_file = 1'000'000'000;
+
 std::string bytes_of(const std::string& file) {
-    const fs::path path = runtime::native_path(file);
-    if (!fs::exists(path))
+    using runtime::WholeFileFault;
+    runtime::WholeFile read = runtime::read_whole_file(file, largest_file);
+    switch (read.fault) {
+    case WholeFileFault::missing:
         throw std::runtime_error("no such file");
-    if (fs::is_directory(path))
-        throw std::runtime_error("is a folder");
-    std::ifstream stream(path, std::ios::binary);
-    std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    if (!stream)
+    case WholeFileFault::no_regular_file:
+        throw std::runtime_error("is no regular file");
+    case WholeFileFault::too_large:
+        throw std::runtime_error("is larger than 1 GB");
+    case WholeFileFault::unreadable:
         throw std::runtime_error("can't be read");
-    return bytes;
+    case WholeFileFault::none:
+        break;
+    }
+    return std::move(read.bytes);
 }
 
 /// The chains to write: the first, or where the program moves both ends of the wire those two.

@@ -5,6 +5,7 @@
 #include "ui/ajuste_opt_dialog.h"
 #include "ui/compensa_dialog.h"
 #include "ui/del_npto_dialog.h"
+#include "ui/importar_dialog.h"
 #include "ui/info_panel.h"
 #include "ui/intro_screen.h"
 #include "ui/main_window.h"
@@ -62,6 +63,7 @@ constexpr auto kWindows = std::to_array<Row>({
     {"setup", make<SetupDialog>},
     {"teclas", make<ShortcutList>},
     {"acerca", make<AboutBox>},
+    {"importar", make<ImportarDialog>},
 });
 
 } // namespace

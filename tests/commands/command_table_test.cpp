@@ -38,6 +38,8 @@ constexpr Row kRows[] = {
     {"mnu_Archivo", "mnuRecentFile", "", "", false, 10},
     {"mnu_Archivo", "", "-", ""},
     {"mnu_Archivo", "mnu_exit", "Salir", ""},
+    {"mnu_Archivo", "", "-", ""},
+    {"mnu_Archivo", "mnu_importar", "Importar...", ""},
     {"", "mnu_config", "&Configuración", ""},
     {"mnu_config", "mnu_paramgenerales", "Parámetros Generales", ""},
     {"", "mnu_funcs", "&Funciones", ""},

@@ -30,7 +30,7 @@ ROOMS = {
     "cutprep": LOGIC + ["formats"],
     "generators": ["runtime", "platform", "document", "cad"],
     "import": ["runtime"],
-    "forms": LOGIC + ["shapeops", "cad", "cutprep", "generators"],
+    "forms": LOGIC + ["shapeops", "cad", "cutprep", "generators", "import"],
     "commands": LOGIC + ["shapeops", "canvas", "cad", "formats", "forms"],
     "toolkit": [],
     "ui": OPERATIONS + ["forms", "commands", "toolkit"],

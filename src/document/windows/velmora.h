@@ -47,6 +47,7 @@ struct VelmoraWindow {
     std::vector<CoordRow> Lst_Coords;
     std::uint64_t Lst_Coords_fill = 0; ///< grows with every change of Lst_Coords
     std::string StatusBar1;            ///< first panel
+    std::string lbl_notice;            ///< a word on what was loaded; the next action takes it away
     int MousePointer = 0;              ///< of the screen: 0 default, 2 cross, 11 hourglass
     ProgressBar Pbar1;
     ProgressBar pbar2;

@@ -1,0 +1,30 @@
+// The dialog `importar`: files of other programs, chosen or dropped, become the shape.
+#pragma once
+
+#include "document/windows/importar.h"
+#include "ui/window.h"
+
+#include <ui_importar.h>
+
+namespace velmora {
+
+class ImportarDialog : public FormWindow<Ui::importar> {
+  public:
+    explicit ImportarDialog(EventSink& events);
+
+    void Load() override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void bind();
+    void bind_list(QComboBox& box, ImportarList& list);
+    void bind_box(QLineEdit& box, ImportarBox& text);
+    void bind_chains();
+    void wire();
+    void on_choice(QComboBox& box, void (*handler)());
+    void take_dropped(const QEvent& event);
+};
+
+} // namespace velmora
