@@ -43,8 +43,8 @@ std::array<bool, letters> axes_in(std::string_view text) {
 /// The path of both ends of the wire, point by point.
 struct Road {
     std::vector<Point> first;
-    std::vector<Point> second;
-    std::vector<bool> rapid; ///< of the move to each point
+    std::vector<Point> second; ///< none where both run alike
+    std::vector<bool> rapid;   ///< of the move to each point
 };
 
 class GcodeReader {
@@ -55,6 +55,7 @@ class GcodeReader {
 
     void read() {
         choose_axes();
+        make_room();
         Lines lines(text_);
         std::string_view line;
         while (!ended_ && lines.next(line)) {
@@ -92,6 +93,18 @@ class GcodeReader {
             axes_ = "XY";
         report().add(Fact::axes, 0, axes_);
     }
+
+    /// What is not filled of it takes no memory; growing would take twice as much.
+    void make_room() {
+        const auto lines = static_cast<std::size_t>(std::ranges::count(text_, '\n'));
+        const std::size_t points = std::min(lines + 1, Pieces::most_points);
+        road_.first.reserve(points);
+        road_.rapid.reserve(points);
+        if (two_ends())
+            road_.second.reserve(points);
+    }
+
+    [[nodiscard]] bool two_ends() const { return axes_.size() == 4; }
 
     void ask_for_axes(std::size_t best) {
         imported_.asks.push_back({.question = Question::axes,
@@ -191,7 +204,7 @@ class GcodeReader {
         put(place(0), second_place());
     }
 
-    [[nodiscard]] Point second_place() const { return axes_.size() == 4 ? place(2) : Point{}; }
+    [[nodiscard]] Point second_place() const { return two_ends() ? place(2) : Point{}; }
 
     [[nodiscard]] std::optional<double> given(char letter) const {
         return given_[index(letter)] ? std::optional(unit_ * values_[index(letter)]) : std::nullopt;
@@ -250,12 +263,13 @@ class GcodeReader {
         if (full && !std::exchange(told_of_too_many_, true))
             report().add(Fact::too_many_points, line_, {},
                          static_cast<double>(Pieces::most_points));
-        const bool stands =
-            !road_.first.empty() && road_.first.back() == first && road_.second.back() == second;
+        const bool stands = !road_.first.empty() && road_.first.back() == first &&
+                            (!two_ends() || road_.second.back() == second);
         if (full || stands || beyond)
             return;
         road_.first.push_back(first);
-        road_.second.push_back(second);
+        if (two_ends())
+            road_.second.push_back(second);
         road_.rapid.push_back(mode_ == 0);
     }
 
@@ -280,6 +294,8 @@ class GcodeReader {
             return;
         report().add(Fact::approach_left_out, 0, {}, static_cast<double>(left_out));
         for (std::vector<Point>* points : {&road_.first, &road_.second}) {
+            if (points->empty())
+                continue;
             points->resize(end);
             points->erase(points->begin(), points->begin() + static_cast<std::ptrdiff_t>(begin));
         }
@@ -290,8 +306,8 @@ class GcodeReader {
             trim_approach();
         if (road_.first.size() < 2)
             return;
-        const bool closed = comes_back(road_.first) && comes_back(road_.second);
-        const bool two = axes_.size() == 4;
+        const bool two = two_ends();
+        const bool closed = comes_back(road_.first) && (!two || comes_back(road_.second));
         add_chain(std::move(road_.first), closed, two ? axes_.substr(0, 2) : "");
         if (two)
             add_chain(std::move(road_.second), closed, axes_.substr(2));

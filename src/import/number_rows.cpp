@@ -11,7 +11,6 @@ namespace velmora::imports {
 
 namespace {
 
-constexpr std::size_t most_columns = 16;
 constexpr double parting_number = 999;
 
 bool separates(char c, bool comma_is_decimal) {
@@ -63,54 +62,58 @@ NumberRows::NumberRows(std::string_view text, Report& report)
     : text_(text), comma_is_decimal_(has_decimal_commas(text)) {
     if (comma_is_decimal_)
         report.add(Fact::decimal_comma, 0);
+    // What is not filled of the room takes no memory; growing would take twice as much.
+    lines_.reserve(1 + static_cast<std::size_t>(std::max(std::ranges::count(text, '\n'),
+                                                         std::ranges::count(text, '\r'))));
     Lines lines(text);
     for (std::string_view line; lines.next(line);)
         read_line(line, lines.number());
     find_columns();
 }
 
-void NumberRows::read_line(std::string_view line, std::size_t number) {
-    if (trimmed(line).empty())
-        return;
+NumberRow NumberRows::row_of(std::string_view line) const {
     std::string_view rest = trimmed(without_comment(line));
-    const bool is_comment = rest.empty();
-    std::array<double, most_columns> row;
-    std::size_t columns = 0;
-    bool numeric = true;
-    while (numeric) {
+    NumberRow row;
+    while (row.numeric) {
         const std::string_view token = take_token(rest, comma_is_decimal_);
         if (token.empty())
             break;
         const auto value = comma_is_decimal_ && token.find(',') != std::string_view::npos
                                ? number_with_comma(token)
                                : number_of(token);
-        numeric = value && columns < row.size();
-        if (numeric)
-            row[columns++] = *value;
+        row.numeric = value && row.columns < row.values.size();
+        if (row.numeric)
+            row.values[row.columns++] = *value;
     }
-    TextLine read{.number = static_cast<std::uint32_t>(number)};
-    if (is_comment)
+    return row;
+}
+
+void NumberRows::read_line(std::string_view line, std::size_t number) {
+    if (trimmed(line).empty())
+        return;
+    TextLine read{.number = static_cast<std::uint32_t>(number),
+                  .start = static_cast<std::uint32_t>(line.data() - text_.data())};
+    if (trimmed(without_comment(line)).empty())
         read.kind = LineKind::comment;
-    if (numeric && columns >= 2) {
-        const bool parts = columns == 2 && row[0] == parting_number && row[1] == parting_number;
+    const NumberRow row = row_of(line);
+    if (row.numeric && row.columns >= 2) {
+        const bool parts =
+            row.columns == 2 && row.values[0] == parting_number && row.values[1] == parting_number;
         read.kind = parts ? LineKind::parting : LineKind::row;
-        read.columns = static_cast<std::uint8_t>(columns);
-        read.first = static_cast<std::uint32_t>(values_.size());
-        values_.insert(values_.end(), row.begin(),
-                       row.begin() + static_cast<std::ptrdiff_t>(columns));
+        read.columns = static_cast<std::uint8_t>(row.columns);
     }
     lines_.push_back(read);
-    starts_.push_back(static_cast<std::uint32_t>(line.data() - text_.data()));
 }
 
 void NumberRows::find_columns() {
-    std::array<std::size_t, most_columns + 1> counts{};
+    std::array<std::size_t, NumberRow::most_columns + 1> counts{};
     for (const TextLine& line : lines_) {
         if (line.kind == LineKind::row)
             ++counts[line.columns];
     }
     const auto most = std::ranges::max_element(counts);
-    if (*most > 0)
+    rows_ = *most;
+    if (rows_ > 0)
         columns_ = static_cast<std::size_t>(most - counts.begin());
     for (TextLine& line : lines_) {
         if (line.kind == LineKind::row && line.columns != columns_)
@@ -119,8 +122,7 @@ void NumberRows::find_columns() {
 }
 
 std::string_view NumberRows::text(const TextLine& line) const {
-    const auto i = static_cast<std::size_t>(&line - lines_.data());
-    const std::string_view rest = text_.substr(starts_[i]);
+    const std::string_view rest = text_.substr(line.start);
     return trimmed(rest.substr(0, rest.find_first_of("\r\n")));
 }
 

@@ -3,8 +3,9 @@
 
 #include "import/report.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,34 +22,42 @@ enum class LineKind : std::uint8_t {
 
 struct TextLine {
     std::uint32_t number = 0; ///< of the line, from 1
-    std::uint32_t first = 0;  ///< of its values
+    std::uint32_t start = 0;  ///< of the line in the text
     std::uint8_t columns = 0;
     LineKind kind = LineKind::words;
 };
 
-/// Lines of blanks do not stand in it. The text has to outlive it.
+struct NumberRow {
+    static constexpr std::size_t most_columns = 16;
+    std::array<double, most_columns> values;
+    std::size_t columns = 0;
+    bool numeric = true; ///< nothing else stands in the line
+};
+
+/// Lines of blanks do not stand in it. The text has to outlive it; the numbers stay there, since a
+/// table of short rows holds many times its size in numbers.
 class NumberRows {
   public:
     NumberRows(std::string_view text, Report& report);
 
     [[nodiscard]] const std::vector<TextLine>& lines() const { return lines_; }
-    [[nodiscard]] std::span<const double> values(const TextLine& line) const {
-        return std::span(values_).subspan(line.first, line.columns);
-    }
+    [[nodiscard]] NumberRow values(const TextLine& line) const { return row_of(text(line)); }
     /// The line as it stands in the text.
     [[nodiscard]] std::string_view text(const TextLine& line) const;
     /// The number of columns that most rows have; 0 where there is no row.
     [[nodiscard]] std::size_t columns() const { return columns_; }
+    /// How many lines are rows of that many.
+    [[nodiscard]] std::size_t rows() const { return rows_; }
 
   private:
+    [[nodiscard]] NumberRow row_of(std::string_view line) const;
     void read_line(std::string_view line, std::size_t number);
     void find_columns();
 
     std::vector<TextLine> lines_;
-    std::vector<double> values_;
-    std::vector<std::uint32_t> starts_; ///< of each line of `lines_` in the text
     std::string_view text_;
     std::size_t columns_ = 0;
+    std::size_t rows_ = 0;
     bool comma_is_decimal_ = false;
 };
 

@@ -122,9 +122,8 @@ class TableReader {
         bool parted = false;
         for (const TextLine& line : rows_.lines()) {
             if (line.kind == LineKind::row) {
-                if (fresh)
-                    runs_.push_back({.parted = std::exchange(parted, false)});
-                fresh = false;
+                if (std::exchange(fresh, false))
+                    begin_run(std::exchange(parted, false));
                 take_row(line);
                 continue;
             }
@@ -137,13 +136,22 @@ class TableReader {
         }
     }
 
+    void begin_run(bool parted) {
+        runs_.push_back({.parted = parted});
+        if (runs_.size() > 1)
+            return;
+        // Most tables are one run.
+        runs_[0].points.reserve(rows_.rows());
+        runs_[0].lines.reserve(rows_.rows());
+    }
+
     void take_row(const TextLine& line) {
-        const auto values = rows_.values(line);
+        const NumberRow row = rows_.values(line);
         Run& run = runs_.back();
-        run.points.push_back({values[0], values[1]});
+        run.points.push_back({row.values[0], row.values[1]});
         run.lines.push_back(static_cast<std::uint32_t>(&line - rows_.lines().data()));
         if (rows_.columns() >= 3)
-            run.third.push_back(values[2]);
+            run.third.push_back(row.values[2]);
     }
 
     /// The first row of four numbers or more is the extent of a grid around the outline.
@@ -174,9 +182,9 @@ class TableReader {
     /// Halves under titles of their own are one outline; elements are chosen from.
     Run chosen_element() {
         if (!are_elements()) {
-            Run whole;
-            for (const Run& run : runs_)
-                whole.append(run);
+            Run whole = std::move(runs_[0]);
+            for (std::size_t i = 1; i < runs_.size(); ++i)
+                whole.append(runs_[i]);
             return whole;
         }
         const auto longest = std::ranges::max_element(runs_, {}, &Run::size);
@@ -265,9 +273,8 @@ class TableReader {
                 return take_halves(run, jump);
             return finish(std::move(run.points), Fact::order_unknown, line);
         case RowOrder::from_the_nose:
-            return take_loop(started_right(run.points), run, Fact::from_the_nose);
         case RowOrder::selig:
-            return take_loop(run.points, run, Fact::selig);
+            return take_loop(std::move(run.points), order, line);
         case RowOrder::as_it_is:
             if (course.open && !comes_back(run.points))
                 return finish_open(std::move(run.points), line);
@@ -280,11 +287,12 @@ class TableReader {
     }
 
     /// What goes over and comes back, but not to its start, is left open.
-    void take_loop(std::vector<Point> points, Run& run, Fact order) {
-        const std::size_t line = line_of(run, 0).number;
-        if (comes_back(run.points))
-            return finish(std::move(points), order, line);
-        finish_open(std::move(run.points), line);
+    void take_loop(std::vector<Point> points, RowOrder order, std::size_t line) {
+        if (!comes_back(points))
+            return finish_open(std::move(points), line);
+        if (order == RowOrder::selig)
+            return finish(std::move(points), Fact::selig, line);
+        finish(started_right(std::move(points)), Fact::from_the_nose, line);
     }
 
     void drop_outlying(Run& run) {

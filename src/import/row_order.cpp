@@ -10,6 +10,7 @@ namespace {
 constexpr double hysteresis = 0.02;
 constexpr double whole_drop = 0.8;
 constexpr double near_ends = 0.25;
+constexpr std::size_t most_turns = 100;
 
 bool starts_high(std::span<const Point> points, const Box& box) {
     return points.front().X > (box.min_X + box.max_X) / 2;
@@ -25,7 +26,7 @@ std::vector<std::size_t> turns_of_x(std::span<const Point> points) {
     std::size_t lowest = 0;
     std::size_t highest = 0;
     int direction = 0;
-    for (std::size_t i = 1; i < points.size(); ++i) {
+    for (std::size_t i = 1; i < points.size() && turns.size() < most_turns; ++i) {
         const double x = points[i].X;
         if (x < points[lowest].X)
             lowest = i;

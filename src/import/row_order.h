@@ -11,7 +11,7 @@
 namespace velmora::imports {
 
 /// Where x turns: each index is of the last point before it runs back by more than 2 % of the
-/// chord.
+/// chord. No more than the first hundred: an outline has two.
 [[nodiscard]] std::vector<std::size_t> turns_of_x(std::span<const Point> points);
 /// The one step in x of more than `least` times the chord: the index of the point behind it; 0
 /// where there is none or more than one.
