@@ -1,6 +1,7 @@
 #include "import/dxf.h"
 
 #include "import/dxf_blocks.h"
+#include "import/dxf_hatch.h"
 #include "import/dxf_tags.h"
 #include "import/text.h"
 #include "import/units.h"
@@ -137,12 +138,27 @@ class DxfReader {
             ++invisible_;
         else if (kind == "POLYLINE")
             begin_polyline();
+        else if (kind == "HATCH")
+            take_hatch();
         else if (!draws_shape(kind))
             count_in(left_out_, kind);
         else if (auto shape = shape_of(entity_))
             place(std::move(*shape));
         else
             report_.add(Fact::bad_entity, entity_.line(), kind);
+    }
+
+    /// An area is bounded by loops; each is a shape of its own.
+    void take_hatch() {
+        std::vector<DxfShape> loops = hatch_loops(entity_);
+        if (loops.empty())
+            return report_.add(Fact::bad_entity, entity_.line(), "HATCH");
+        count_in(read_, "HATCH");
+        for (DxfShape& loop : loops) {
+            loop.line = static_cast<std::uint32_t>(entity_.line());
+            loop.layer = layer_number(entity_.layer());
+            place_finished(std::move(loop));
+        }
     }
 
     void place(DxfShape&& shape) {

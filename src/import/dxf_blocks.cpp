@@ -16,6 +16,8 @@ std::size_t weight_of(const DxfShape& shape) {
         return 1 + path->vertices.size();
     if (const auto* spline = std::get_if<DxfSpline>(&shape.what))
         return 1 + spline->curve.points.size();
+    if (const auto* loop = std::get_if<DxfLoop>(&shape.what))
+        return loop->weight();
     return 1;
 }
 

@@ -8,7 +8,7 @@ namespace velmora::imports {
 namespace {
 
 bool holds_number(int code) {
-    return (code >= 10 && code < 80) || (code >= 210 && code < 240);
+    return (code >= 10 && code < 100) || (code >= 210 && code < 240);
 }
 
 } // namespace
@@ -19,6 +19,8 @@ void DxfEntity::begin(const DxfTag& tag) {
     name_ = {};
     layer_ = {};
     listing_ = kind_ == "LWPOLYLINE" || kind_ == "SPLINE";
+    ordering_ = kind_ == "HATCH";
+    ordered_.clear();
     ++stamp_;
     vertices_.clear();
     fit_points_.clear();
@@ -38,6 +40,8 @@ void DxfEntity::take(const DxfTag& tag) {
         return;
     values_[index(tag.code)] = *value;
     stamps_[index(tag.code)] = stamp_;
+    if (ordering_)
+        ordered_.push_back({tag.code, *value});
     if (listing_)
         take_list_value(tag.code, *value);
 }

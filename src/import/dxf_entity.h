@@ -39,6 +39,13 @@ class DxfEntity {
     [[nodiscard]] const std::vector<double>& knots() const { return knots_; }          ///< 40
     [[nodiscard]] const std::vector<double>& weights() const { return weights_; }      ///< 41
 
+    struct Value {
+        int code = 0;
+        double number = 0;
+    };
+    /// Of a hatch all its numbers in their order, in which alone they have a meaning.
+    [[nodiscard]] const std::vector<Value>& ordered() const { return ordered_; }
+
   private:
     static constexpr std::size_t codes = 240;
     [[nodiscard]] static std::size_t index(int code) { return static_cast<std::size_t>(code); }
@@ -49,6 +56,7 @@ class DxfEntity {
     std::string_view layer_;
     std::size_t line_ = 0;
     bool listing_ = false; ///< values under one code are many
+    bool ordering_ = false;
     std::array<double, codes> values_{};
     std::array<std::uint32_t, codes> stamps_{}; ///< equal to `stamp_` where the entity has a value
     std::uint32_t stamp_ = 0;
@@ -56,6 +64,7 @@ class DxfEntity {
     std::vector<Point> fit_points_;
     std::vector<double> knots_;
     std::vector<double> weights_;
+    std::vector<Value> ordered_;
 };
 
 } // namespace velmora::imports

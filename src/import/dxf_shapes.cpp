@@ -190,6 +190,15 @@ Map DxfInsert::placed(int column, int row, const Point& base) const {
            Map{scale_X, 0, 0, scale_Y, 0, 0} * moved({-base.X, -base.Y});
 }
 
+std::size_t DxfLoop::weight() const {
+    std::size_t sum = 1 + edges.size();
+    for (const auto& edge : edges) {
+        if (const auto* curve = std::get_if<Nurbs>(&edge))
+            sum += curve->points.size();
+    }
+    return sum;
+}
+
 Map plane_map(const DxfEntity& entity) {
     if (!entity.has(210) && !entity.has(220) && !entity.has(230))
         return {};
@@ -211,6 +220,23 @@ std::optional<DxfShape> shape_of(const DxfEntity& entity) {
 }
 
 namespace {
+
+struct EdgeDrawer {
+    Map map;
+    double tolerance;
+    Pieces& pieces;
+
+    void operator()(const DxfLine& line) const {
+        pieces.add(map(line.from));
+        pieces.add(map(line.to));
+    }
+    void operator()(const EllipseArc& arc) const { flatten(mapped(arc, map), tolerance, pieces); }
+    void operator()(Nurbs curve) const {
+        for (Point& point : curve.points)
+            point = map(point);
+        flatten(curve, tolerance, pieces);
+    }
+};
 
 struct Drawer {
     const Map& map;
@@ -249,6 +275,23 @@ struct Drawer {
         for (const Bezier& c : spline.curves)
             flatten(Bezier{map(c.p0), map(c.p1), map(c.p2), map(c.p3)}, tolerance, pieces);
         return spline.closed;
+    }
+
+    /// An edge begins where the one before ends, to the last digits of its angles; the loop ends
+    /// where it began.
+    bool operator()(const DxfLoop& loop) const {
+        Pieces edge;
+        edge.begin(0, 0);
+        for (const auto& drawn : loop.edges)
+            std::visit(EdgeDrawer{map * loop.plane, tolerance, edge}, drawn);
+        const std::vector<Point>& points = edge.pool();
+        const double near = box_of(points).size() * nothing;
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            const Point& next = i + 1 < points.size() ? points[i + 1] : points[0];
+            if (distance(points[i], next) > near)
+                pieces.add(points[i]);
+        }
+        return true;
     }
 
     bool operator()(const DxfDot& dot) const {

@@ -31,6 +31,18 @@ struct DxfFitSpline {
     std::vector<Bezier> curves;
     bool closed = false;
 };
+struct DxfLine {
+    Point from;
+    Point to;
+};
+/// Edges one behind the other round an area, in a plane of its own.
+struct DxfLoop {
+    std::vector<std::variant<DxfLine, EllipseArc, Nurbs>> edges;
+    Map plane;
+
+    /// How much there is to draw.
+    [[nodiscard]] std::size_t weight() const;
+};
 struct DxfDot {
     Point at;
 };
@@ -49,7 +61,7 @@ struct DxfInsert {
 };
 
 struct DxfShape {
-    std::variant<DxfPath, DxfArc, DxfSpline, DxfFitSpline, DxfDot, DxfInsert> what;
+    std::variant<DxfPath, DxfArc, DxfSpline, DxfFitSpline, DxfLoop, DxfDot, DxfInsert> what;
     std::uint32_t line = 0;
     std::uint16_t layer = 0;
     bool fill = false; ///< of an area: it usually stands over an outline
