@@ -6,6 +6,7 @@
 #include "formats/dxf.h"
 #include "formats/fixed_record_readers.h"
 #include "formats/free_text_readers.h"
+#include "formats/point_lines.h"
 #include "formats/scr_cut_readers.h"
 #include "runtime/error.h"
 #include "services/message_codes.h"
@@ -71,13 +72,14 @@ constexpr auto kFormats = std::to_array<Format>({
      message::format_slws},
     {"DAT", FileFormat::SLWSINC, has_sync_head, Passes::separator, alone<CargaSLWSINC>,
      message::format_slwsinc},
-    {"DAT", FileFormat::SLWMD, names_meridol, Passes::separator, CargaSLWMD, message::format_slwmd},
+    {"DAT", FileFormat::SLWMD, names_meridol, Passes::separator, CargaSLWMD, message::format_slwmd,
+     is_point_line},
     {"DAT", FileFormat::PROFILI, has_upper_surface, Passes::separator_and_tabs, CargaPROFILI,
-     message::format_profili},
+     message::format_profili, is_point_line},
     {"DAT", FileFormat::NOSLW, any_lines, Passes::separator_and_tabs, CargaNOSLW,
-     message::format_noslw},
+     message::format_noslw, is_point_line},
     {"SCR", FileFormat::undecided, extension_decides, Passes::none, alone<CargaSCR>,
-     message::format_scr},
+     message::format_scr, is_script_point},
     {"CUT", FileFormat::undecided, extension_decides, Passes::none, alone<CargaCUT>,
      message::format_cut},
     {"DXF", FileFormat::undecided, extension_decides, Passes::none, alone<CargaDXF>,

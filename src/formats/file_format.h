@@ -41,6 +41,8 @@ struct Format {
     /// Reads the first path; texts show the second.
     std::int16_t (*read)(std::string_view path, std::string_view shown_path);
     int text; ///< message
+    /// The reader takes a point from the line; null where it passes over none in silence.
+    bool (*takes)(std::string_view line) = nullptr;
 };
 
 /// The row of a format that its extension alone decides, nullptr where there is none.

@@ -13,6 +13,7 @@
 #include "formats/box_text.h"
 #include "formats/file_passes.h"
 #include "formats/origin.h"
+#include "formats/passed_over.h"
 #include "formats/totals.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
@@ -21,6 +22,8 @@
 #include "runtime/text.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
+
+#include <algorithm>
 
 namespace velmora {
 
@@ -39,6 +42,17 @@ void show_reading(std::string_view path) {
     set_status(GetMensaje(message::loading) + " " + runtime::UCase(path));
 }
 
+/// A word on the lines that the reader passed over in silence.
+void tell_of_losses(const std::string& path, const Format& format) {
+    const std::size_t lost = format.takes == nullptr ? 0 : lines_passed_over(path, format.takes);
+    if (lost == 0)
+        return;
+    std::string text = GetMensaje(message::lines_passed_over);
+    text.replace(std::min(text.find("{n}"), text.size()), 3, CStr(Forma.Pto.upper() + 1));
+    text.replace(std::min(text.find("{m}"), text.size()), 3, std::to_string(lost));
+    state::Velmora.lbl_notice = text;
+}
+
 /// Reads the file by the reader of its kind and gives the format's text. Where the kind is not
 /// found there is no text, and LoadOk keeps the value of the load before, on purpose.
 std::string read_by_kind(const std::string& path) {
@@ -54,6 +68,8 @@ std::string read_by_kind(const std::string& path) {
     if (format == nullptr)
         return {};
     state::document.LoadOk = format->read(path, path);
+    if (state::document.LoadOk != False)
+        tell_of_losses(path, *format);
     return GetMensaje(format->text);
 }
 
@@ -116,13 +132,17 @@ std::int16_t read_dialect_file(PassedFile& file, FileFormat code) {
         return False;
     if (format->passes == Passes::separator_and_tabs)
         file.tabs_to_blanks();
-    return format->read(file.to_read(), file.path());
+    const std::int16_t result = format->read(file.to_read(), file.path());
+    if (result != False)
+        tell_of_losses(file.to_read(), *format);
+    return result;
 }
 
 } // namespace
 
 void CargaFichero(std::int16_t mode, std::int16_t& result) {
     result = False;
+    state::Velmora.lbl_notice.clear();
     clear_canvas();
     const std::string path = mode == 1 ? ask_for_path() : state::Velmora.TxtDat_File;
     if (path.empty())

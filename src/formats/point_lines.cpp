@@ -21,6 +21,11 @@ std::optional<PointText> point_of_line(std::string_view line, std::string& room)
     return PointText{numbers.substr(0, blank), runtime::Trim(numbers.substr(blank))};
 }
 
+bool is_point_line(std::string_view line) {
+    std::string room;
+    return point_of_line(line, room).has_value();
+}
+
 bool take_point(const PointText& text, Array<Pto>& points, std::int32_t& count,
                 CoordinateLimit& limit) {
     points.redim_keep(count);

@@ -26,6 +26,9 @@ struct PointText {
 /// for a line that is skipped. They look into `line` or into `room`.
 [[nodiscard]] std::optional<PointText> point_of_line(std::string_view line, std::string& room);
 
+/// The line is no such line that is skipped.
+[[nodiscard]] bool is_point_line(std::string_view line);
+
 /// Grows the outline to index `count`, stores the two numbers there divided by EscalaCarga, and
 /// counts the point when the limit admits it; false otherwise. A text that fails raises 13 or 6
 /// with the point in the array, zero or with its X alone, and not counted.

@@ -102,6 +102,10 @@ Pass read_cut(std::string_view path, ReadCounts& counts, CoordinateLimit& limit)
 
 } // namespace
 
+bool is_script_point(std::string_view line) {
+    return point_of_script_line(line).has_value();
+}
+
 std::int16_t CargaSCR(std::string_view path) {
     ReadCounts counts;
     return read_asking({"CargaSCR"}, counts, [&] {

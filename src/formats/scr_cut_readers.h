@@ -11,4 +11,7 @@ namespace velmora {
 std::int16_t CargaSCR(std::string_view path);
 std::int16_t CargaCUT(std::string_view path);
 
+/// CargaSCR takes a point from the line.
+[[nodiscard]] bool is_script_point(std::string_view line);
+
 } // namespace velmora

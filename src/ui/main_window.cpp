@@ -35,7 +35,13 @@ void add_part(QObject* part, const char* name) {
 
 MainWindow::MainWindow(EventSink& events, ShownImage& canvas)
     : FormWindow(events), window_(static_cast<QMainWindow&>(widget())),
-      commands_(window_, [&events](void (*handler)()) { events.run(handler); }),
+      commands_(window_,
+                [&events](void (*handler)()) {
+                    events.run([handler] {
+                        state::Velmora.lbl_notice.clear();
+                        handler();
+                    });
+                }),
       status_(*new ElidedLabel(ui.StatusBar1)), pbar1_(*new QProgressBar(ui.StatusBar1)),
       pbar2_(*new QProgressBar(ui.StatusBar1)),
       canvas_(canvas, *ui.pic, *ui.lbl_xyfloat, *ui.SSScroll) {
@@ -77,6 +83,9 @@ void MainWindow::bind() {
     bindings().text(*ui.TxtDat_File, state.TxtDat_File);
     bindings().text(*ui.TxtDescDat, state.TxtDescDat);
     bindings().label(status_, state.StatusBar1);
+    bindings().label(*ui.lbl_notice, state.lbl_notice);
+    bindings().shows<bool>([&state] { return !state.lbl_notice.empty(); },
+                           [this](bool told) { ui.lbl_notice->setVisible(told); });
     bindings().progress(pbar1_, state.Pbar1);
     bindings().progress(pbar2_, state.pbar2);
     bindings().each_push([this, &state] { commands_.show(state); });
@@ -152,8 +161,11 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &window_ && event->type() == QEvent::Paint && !std::exchange(looked_at_, true) &&
         !window_.screen()->availableGeometry().contains(window_.frameGeometry()))
         fit_to_screen();
-    if (watched == window_.windowHandle() && is_use(*event))
+    if (watched == window_.windowHandle() && is_use(*event)) {
+        if (!state::Velmora.lbl_notice.empty())
+            events().run([] { state::Velmora.lbl_notice.clear(); });
         events().activate(name());
+    }
     if (watched == &window_ && event->type() == QEvent::WindowStateChange)
         state::Velmora.minimized = window_.isMinimized();
     return Window::eventFilter(watched, event);

@@ -5,6 +5,7 @@
 
 #include "ui/coord_list_view.h"
 
+#include <QAction>
 #include <QDropEvent>
 #include <QFile>
 #include <QLabel>
@@ -14,6 +15,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QUrl>
+#include <QWindow>
 #include <QtTest>
 #include <gmock/gmock.h>
 
@@ -250,6 +252,30 @@ TEST_F(MainWindowTest, the_status_is_shown_while_the_handler_runs) {
         ASSERT_FALSE(labels.isEmpty());
         EXPECT_EQ(labels.first()->text(), "Invirtiendo Sentido de Corte...");
     });
+}
+
+TEST_F(MainWindowTest, a_note_stands_in_a_line_of_its_own_until_the_next_action) {
+    const QLabel& note = control<QLabel>("Velmora", "lbl_notice");
+    EXPECT_FALSE(note.isVisible());
+    const auto tell = [&] {
+        session.Velmora.lbl_notice = "3 puntos; 72 líneas con números pasadas por alto";
+        windows().refresh();
+        settle();
+    };
+    tell();
+    EXPECT_TRUE(note.isVisible());
+    EXPECT_EQ(note.text().toStdString(), session.Velmora.lbl_notice);
+    EXPECT_FALSE(session.Velmora.StatusBar1 == session.Velmora.lbl_notice);
+    control<QAction>("Velmora", "mnu_mirrorh").trigger();
+    EXPECT_FALSE(note.isVisible());
+    tell();
+    QTest::keyClick(window("Velmora")->windowHandle(), Qt::Key_N);
+    settle();
+    EXPECT_FALSE(note.isVisible());
+    tell();
+    QTest::mouseClick(window("Velmora")->windowHandle(), Qt::LeftButton, {}, {300, 300});
+    settle();
+    EXPECT_FALSE(note.isVisible());
 }
 
 TEST_F(MainWindowTest, move_shape_shows_the_up_arrow_on_the_canvas) {
