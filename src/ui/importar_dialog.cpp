@@ -2,25 +2,13 @@
 
 #include "forms/importar.h"
 #include "toolkit/qt_text.h"
+#include "ui/file_drop.h"
 
-#include <QDropEvent>
-#include <QMimeData>
 #include <QSignalBlocker>
-#include <QUrl>
 
 namespace velmora {
 
 namespace {
-
-constexpr QSize kSizeAtStart(980, 720);
-
-/// The first file that is dropped; empty where none is.
-QString dropped_file(const QDropEvent& event) {
-    for (const QUrl& url : event.mimeData()->urls())
-        if (url.isLocalFile())
-            return url.toLocalFile();
-    return {};
-}
 
 void fill(QComboBox& box, const ImportarList& list) {
     const QSignalBlocker quiet(box);
@@ -33,7 +21,9 @@ void fill(QComboBox& box, const ImportarList& list) {
 } // namespace
 
 ImportarDialog::ImportarDialog(EventSink& events) : FormWindow(events) {
-    widget().setAcceptDrops(true);
+    new FileDrop(widget(), [this](const std::string& path) {
+        this->events().run([&path] { importar_take_file(path); });
+    });
     // A box or a report that took the drop would show the path and read nothing.
     for (QLineEdit* box : widget().findChildren<QLineEdit*>())
         box->setAcceptDrops(false);
@@ -49,7 +39,6 @@ ImportarDialog::ImportarDialog(EventSink& events) : FormWindow(events) {
                    "Frm_Outline", "lbl_start",  "Cmb_Start",   "lbl_direction", "Cmb_Direction",
                    "lbl_scale",   "Txt_Scale",  "lbl_chord",   "Txt_Chord",     "lbl_note",
                    "cmd_ok",      "cmd_cancel"});
-    widget().resize(kSizeAtStart);
     ui.Cmd_File->setFocus();
 }
 
@@ -131,24 +120,6 @@ void ImportarDialog::on_choice(QComboBox& box, void (*handler)()) {
 
 void ImportarDialog::Load() {
     importar_Load();
-}
-
-void ImportarDialog::take_dropped(const QEvent& event) {
-    const QString file = dropped_file(static_cast<const QDropEvent&>(event));
-    events().run([path = file.toStdString()] { importar_take_file(path); });
-}
-
-bool ImportarDialog::eventFilter(QObject* watched, QEvent* event) {
-    const bool dragged = event->type() == QEvent::DragEnter || event->type() == QEvent::Drop;
-    if (watched != &widget() || !dragged)
-        return Window::eventFilter(watched, event);
-    auto& drop = static_cast<QDropEvent&>(*event);
-    if (dropped_file(drop).isEmpty())
-        return Window::eventFilter(watched, event);
-    drop.acceptProposedAction();
-    if (event->type() == QEvent::Drop)
-        take_dropped(*event);
-    return true;
 }
 
 } // namespace velmora

@@ -14,9 +14,6 @@ class ImportarDialog : public FormWindow<Ui::importar> {
 
     void Load() override;
 
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
   private:
     void bind();
     void bind_list(QComboBox& box, ImportarList& list);
@@ -24,7 +21,6 @@ class ImportarDialog : public FormWindow<Ui::importar> {
     void bind_chains();
     void wire();
     void on_choice(QComboBox& box, void (*handler)());
-    void take_dropped(const QEvent& event);
 };
 
 } // namespace velmora

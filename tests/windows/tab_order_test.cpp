@@ -102,6 +102,12 @@ TEST_F(TabOrderTest, compensation) {
                 ElementsAre("Txt_merma", "cmd_ok", "cmd_cancel"));
 }
 
+TEST_F(TabOrderTest, importing_before_a_file_is_chosen) {
+    EXPECT_THAT(order_in("importar", "Cmd_File"),
+                ElementsAre("Cmd_File", "Lst_Chains", "Txt_Report", "Chk_Doubles", "cmd_cancel",
+                            "Txt_File"));
+}
+
 TEST_F(TabOrderTest, shortcut_keys) {
     EXPECT_THAT(order_in("teclas", "Command1"), ElementsAre("Command1"));
 }
