@@ -188,6 +188,78 @@ TEST_F(TranslationsTest, filters_have_the_patterns_and_the_missing_bar_of_the_Sp
     }
 }
 
+// The Spanish captions stand as designed, with few marks; the others have one each.
+TEST_F(TranslationsTest, every_entry_of_a_menu_has_a_mnemonic) {
+    const std::set<std::string_view> never_seen = {"OPT_PTO", "ptss"};
+    for (const char* language : kTranslations) {
+        const Rows texts = rows("Velmora", language);
+        for (const MenuEntry& entry : menu_entries()) {
+            const bool has_caption = entry.caption != "-" && entry.index == 0;
+            if (!has_caption || never_seen.contains(entry.name))
+                continue;
+            EXPECT_NE(mnemonic_of(texts.at(std::string(entry.name)).text), "")
+                << language << ' ' << entry.name;
+        }
+    }
+}
+
+/// What asks for something before it acts, by table.
+const std::map<std::string, std::set<std::string>> kAsks = {
+    {"Velmora",
+     {"mnu_newfile", "mnu_openfile", "mnu_savefileas", "mnu_paramgenerales", "Mult_Points_Shape",
+      "mnu_loadimg", "mnu_scale_xy", "mnu_seltexto", "mnu_corrpoltrap", "mnu_paralela",
+      "Delete_N_Ptos", "Rotate"}},
+    {"ajuste", {"cmd_selA", "cmd_selB", "cmd_opt"}},
+    {"seltexto", {"cmd_font"}},
+};
+
+TEST_F(TranslationsTest, what_opens_a_dialog_ends_in_an_ellipsis) {
+    for (const auto& [table, asking] : kAsks)
+        for (const char* language : kTranslations)
+            for (const auto& [key, row] : rows(table, language))
+                EXPECT_EQ(row.text.ends_with("…"), asking.contains(key))
+                    << table << ' ' << language << ' ' << key;
+}
+
+// The Spanish texts are given with three points.
+TEST_F(TranslationsTest, a_language_has_one_form_of_the_ellipsis) {
+    std::vector<std::string> tables = form_tables();
+    tables.emplace_back("Mensajes");
+    for (const std::string& table : tables) {
+        for (const char* language : {"E", "I", "F", "P", "T"}) {
+            const std::string other = language == std::string("E") ? "…" : "...";
+            for (const auto& [key, row] : rows(table, language))
+                EXPECT_THAT(row.text + row.tip, Not(HasSubstr(other))) << table << language << key;
+        }
+    }
+}
+
+// A line may break at a plain blank, and a colon must not stand alone.
+TEST_F(TranslationsTest, French_has_no_plain_blank_before_its_high_marks) {
+    std::vector<std::string> tables = form_tables();
+    tables.emplace_back("Mensajes");
+    for (const std::string& table : tables)
+        for (const auto& [key, row] : rows(table, "F"))
+            for (const char* mark : {" :", " ;", " !", " ?", " »"})
+                EXPECT_THAT(row.text + row.tip, Not(HasSubstr(mark))) << table << ' ' << key;
+}
+
+TEST_F(TranslationsTest, a_sync_point_has_one_name_in_a_language) {
+    const std::map<std::string, std::vector<std::string>> others = {
+        {"I", {"ontrol p"}},
+        {"F", {"synchronisation", "contrôle"}},
+        {"P", {"inc.", "controlo", "incronização"}},
+        {"T", {"inc.", "controllo", "incronizzazione"}}};
+    std::vector<std::string> tables = form_tables();
+    tables.emplace_back("Mensajes");
+    for (const std::string& table : tables)
+        for (const auto& [language, words] : others)
+            for (const auto& [key, row] : rows(table, language))
+                for (const std::string& word : words)
+                    EXPECT_THAT(row.text + row.tip, Not(HasSubstr(word)))
+                        << table << ' ' << language << ' ' << key;
+}
+
 TEST_F(TranslationsTest, a_menu_has_no_mnemonic_twice) {
     for (const char* language : {"E", "I", "F", "P", "T"}) {
         const Rows texts = rows("Velmora", language);

@@ -102,8 +102,11 @@ TEST_F(AjusteDialogTest, tab_goes_through_the_halves_in_reading_order) {
 }
 
 TEST_F(AjusteDialogTest, nothing_is_cut_in_any_language) {
-    const std::pair<const char*, const char*> captions[] = {
-        {"E", "Guardar"}, {"I", "Save"}, {"F", "Enregistrer"}, {"P", "Guardar"}, {"T", "Salva"}};
+    const std::pair<const char*, const char*> captions[] = {{"E", "Guardar"},
+                                                            {"I", "&Save"},
+                                                            {"F", "&Enregistrer"},
+                                                            {"P", "&Guardar"},
+                                                            {"T", "&Salva"}};
     for (const auto& [language, caption] : captions) {
         SCOPED_TRACE(language);
         session.Idioma = language;

@@ -70,10 +70,10 @@ TEST_F(AjusteOptDialogTest, opens_empty_with_the_drawing_and_a_button_that_waits
 
 TEST_F(AjusteOptDialogTest, nothing_is_cut_in_any_language) {
     const std::pair<const char*, const char*> titles[] = {{"E", "Opciones del Ajuste"},
-                                                          {"I", "Adjustment Options"},
-                                                          {"F", "Options de l’ajustement"},
-                                                          {"P", "Opções do ajuste"},
-                                                          {"T", "Opzioni dell’adattamento"}};
+                                                          {"I", "Distances of the Machine"},
+                                                          {"F", "Distances de la machine"},
+                                                          {"P", "Distâncias da máquina"},
+                                                          {"T", "Distanze della macchina"}};
     for (const auto& [language, title] : titles) {
         SCOPED_TRACE(language);
         session.Idioma = language;

@@ -267,14 +267,14 @@ INSTANTIATE_TEST_SUITE_P(
     Languages, SeltextoLanguages,
     testing::Values(Captions{"E", "Forma desde Texto", "Texto que será la forma", "&Fuente...",
                              "&Cargar", "&Salir"},
-                    Captions{"I", "Shape from Text", "Text that becomes the shape", "&Font...",
-                             "&Load", "E&xit"},
-                    Captions{"F", "Forme à partir de texte", "Texte qui deviendra la forme",
-                             "&Police...", "&Charger", "&Quitter"},
-                    Captions{"P", "Forma a partir de Texto", "Texto que será a forma",
-                             "Tipo de &Letra...", "&Carregar", "&Sair"},
-                    Captions{"T", "Sagoma da testo", "Testo che diventerà la sagoma",
-                             "Ca&rattere...", "&Carica", "&Esci"}),
+                    Captions{"I", "Shape from Text", "Text that becomes the shape", "&Font…",
+                             "&Load", "&Close"},
+                    Captions{"F", "Forme à partir d’un texte", "Texte qui deviendra la forme",
+                             "&Police…", "&Charger", "&Fermer"},
+                    Captions{"P", "Forma a partir de texto", "Texto que será a forma",
+                             "Tipo de &letra…", "&Carregar", "&Fechar"},
+                    Captions{"T", "Sagoma da testo", "Testo che diventerà la sagoma", "Ca&rattere…",
+                             "&Carica", "Chi&udi"}),
     [](const auto& tongue) { return std::string(tongue.param.language); });
 
 } // namespace
