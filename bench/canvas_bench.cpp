@@ -5,7 +5,8 @@
 #include "canvas/view.h"
 #include "document/refresh.h"
 #include "document/session.h"
-#include "support/recording_platform.h"
+#include "fakes/put_in_place.h"
+#include "fakes/recording_platform.h"
 
 #include <QImage>
 #include <QPainter>
@@ -22,9 +23,7 @@ constexpr std::int32_t kPoints = 32000;
 class RingOnCanvas {
   public:
     explicit RingOnCanvas(double waves) {
-        set_platform({platform_.dialogs, platform_.windows, platform_.shell, platform_.settings,
-                      *platform_.database, platform_.clock, platform_.machine, pic_,
-                      platform_.cad});
+        test::put_in_place(pic_);
         session.ZoomFactor = 1;
         session.PtoSel = -1;
         session.MinXForma = session.MinYForma = -1000;

@@ -2,9 +2,9 @@
 // preview, with the real table behind it.
 #include "cutprep/preview_surface.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "forms/ajuste.h"
 #include "platform/platform.h"
-#include "support/recording_platform.h"
 
 #include <benchmark/benchmark.h>
 #include <cmath>

@@ -1,9 +1,9 @@
 // The language database: rows of a merged list in and out, beside SQLite's interface by itself, and
 // the look-up of a message.
+#include "fakes/recording_platform.h"
 #include "platform/database.h"
 #include "platform/platform.h"
 #include "services/messages.h"
-#include "support/recording_platform.h"
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>

@@ -1,6 +1,6 @@
 #include "document/forma.h"
+#include "fakes/recording_platform.h"
 #include "formats/dxf.h"
-#include "support/recording_platform.h"
 
 #include <benchmark/benchmark.h>
 

@@ -2,11 +2,12 @@
 // passes over the file and the three forms of writing.
 #include "document/number_text.h"
 #include "document/session.h"
+#include "fakes/put_in_place.h"
+#include "fakes/recording_platform.h"
 #include "formats/file_passes.h"
 #include "formats/fixed_record.h"
 #include "formats/fixed_record_readers.h"
 #include "formats/outline_writer.h"
-#include "support/recording_platform.h"
 
 #include <benchmark/benchmark.h>
 
@@ -44,9 +45,8 @@ class BlankSurface : public Surface {
 class Bench : public test::RecordingWindows {
   public:
     Bench() {
-        set_platform({platform_.dialogs, *this, platform_.shell, platform_.settings,
-                      *platform_.database, platform_.clock, platform_.machine, pic_,
-                      platform_.cad});
+        test::put_in_place(*this);
+        test::put_in_place(pic_);
         session.ShowPtos = session.ShowPtosCtrl = False;
     }
     void yield() override { benchmark::DoNotOptimize(std::chrono::steady_clock::now()); }

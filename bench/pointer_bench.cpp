@@ -6,9 +6,9 @@
 #include "commands/handlers.h"
 #include "document/refresh.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "services/messages.h"
 #include "support/places.h"
-#include "support/recording_platform.h"
 
 #include <QApplication>
 #include <QMouseEvent>

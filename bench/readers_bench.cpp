@@ -1,7 +1,7 @@
 #include "document/forma.h"
+#include "fakes/recording_platform.h"
 #include "formats/free_text_readers.h"
 #include "formats/scr_cut_readers.h"
-#include "support/recording_platform.h"
 
 #include <benchmark/benchmark.h>
 

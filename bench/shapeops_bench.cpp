@@ -1,9 +1,9 @@
 // Whole-shape operations on a million points.
 #include "document/refresh.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "shapeops/scaling.h"
 #include "shapeops/transforms.h"
-#include "support/recording_platform.h"
 
 #include <benchmark/benchmark.h>
 

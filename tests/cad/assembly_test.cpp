@@ -2,9 +2,9 @@
 
 #include "cad/chain_walk.h"
 #include "cad/drawing.h"
+#include "fakes/recording_platform.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
-#include "support/recording_platform.h"
 #include "support/trap_text.h"
 
 #include <gtest/gtest.h>
@@ -40,7 +40,7 @@ std::vector<Place> plain_outline() {
 }
 
 TEST(OBJS2PTS, a_square_of_four_lines_becomes_four_points) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({0, 0}, {10, 0}), line({10, 10}, {10, 0}), line({10, 10}, {0, 10}),
                  line({0, 10}, {0, 0})});
     walk_dxf();
@@ -70,7 +70,7 @@ TEST(OBJS2PTS, a_square_of_four_lines_becomes_four_points) {
 }
 
 TEST(OBJS2PTS, an_open_chain_loses_its_last_point) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({0, 0}, {10, 0}), line({10, 0}, {20, 5})});
     walk_dxf();
     OBJS2PTS();
@@ -78,7 +78,7 @@ TEST(OBJS2PTS, an_open_chain_loses_its_last_point) {
 }
 
 TEST(OBJS2PTS, a_single_entity_gives_all_its_points_but_the_last) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({entity(TipoCad::AcDbPolyline, {{0, 0}, {4, 0}, {4, 4}, {0, 0}})});
     session.ObjsCad[0].Ptos[1].Sinc = 1;
     OBJS2PTS();
@@ -89,7 +89,7 @@ TEST(OBJS2PTS, a_single_entity_gives_all_its_points_but_the_last) {
 }
 
 TEST(OBJS2PTS, the_first_point_of_later_entities_is_skipped_even_where_it_lies_apart) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({0, 0}, {10.1, 0}), line({10.9, 0}, {20, 0}), line({20, 0}, {30, 0})});
     walk_dxf();
     OBJS2PTS();
@@ -97,7 +97,7 @@ TEST(OBJS2PTS, the_first_point_of_later_entities_is_skipped_even_where_it_lies_a
 }
 
 TEST(OBJS2PTS, what_is_outside_the_outline_is_left_out) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({5, 5}, {6, 6}), line({0, 0}, {10, 0}), line({10, 0}, {0, 9})});
     session.ObjsCad[0].Orden = -1;
     session.ObjsCad[1].Orden = 0;
@@ -107,7 +107,7 @@ TEST(OBJS2PTS, what_is_outside_the_outline_is_left_out) {
 }
 
 TEST(OBJS2PTS, the_empty_list_is_reported_and_kept) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.files.open_input(1, platform.write("any", "x"));
     OBJS2PTS();
     ASSERT_EQ(platform.dialogs.boxes.size(), 1U);
@@ -118,7 +118,7 @@ TEST(OBJS2PTS, the_empty_list_is_reported_and_kept) {
 
 // The write index belongs to the chain: an only entity is copied without it.
 TEST(OBJS2PTS, an_only_entity_of_one_point_is_reported_at_point_0) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({entity(TipoCad::AcDbPolyline, {{3, 4}})});
     OBJS2PTS();
     ASSERT_EQ(platform.dialogs.boxes.size(), 1U);
@@ -130,7 +130,7 @@ TEST(OBJS2PTS, an_only_entity_of_one_point_is_reported_at_point_0) {
 }
 
 TEST(OBJS2PTS, a_scan_that_places_nothing_ends_with_5_and_keeps_points_and_list) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({0, 0}, {10, 0}), line({50, 50}, {60, 60}), line({70, 70}, {80, 80}),
                  line({10, 0}, {10, 10})});
     walk_dxf();
@@ -145,7 +145,7 @@ TEST(OBJS2PTS, a_scan_that_places_nothing_ends_with_5_and_keeps_points_and_list)
 }
 
 TEST(OBJS2PTS, an_entity_without_points_stops_it_with_what_was_placed) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({0, 0}, {10, 0}), line({10, 0}, {20, 0})});
     session.ObjsCad[1].Orden = 1;
     session.ObjsCad[1].Ptos.erase();
@@ -156,7 +156,7 @@ TEST(OBJS2PTS, an_entity_without_points_stops_it_with_what_was_placed) {
 }
 
 TEST(OBJS2PTS, places_as_scans_of_the_whole_list_do) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::mt19937 random(58);
     for (int drawing = 0; drawing < 2000; ++drawing) {
         auto objects = random_drawing(random, 9);

@@ -1,9 +1,9 @@
 #include "cad/capture.h"
 
 #include "cad/drawing.h"
-#include "cad/scripted_cad.h"
+#include "fakes/scripted_cad_session.h"
+#include "fakes/watching.h"
 #include "support/error_number.h"
-#include "support/watching.h"
 
 #include <gmock/gmock.h>
 
@@ -13,6 +13,7 @@ namespace {
 using test::number_of;
 using test::Place;
 using test::places_of;
+using test::set_shape;
 using test::ShownBox;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -26,6 +27,8 @@ constexpr auto kOneIncoherent = "Se han encontrado 1 lineas incoherentes en el d
                                 "han marcado en amarillo; procede a repararlas!";
 
 struct CaptureTest : test::ScriptedCadSession {
+    CaptureTest() { machine.open_database(); }
+
     Flag origin = True;
     void capture() { CapturaAcad(origin); }
     static std::vector<Place> outline() { return places_of(Forma.Pto); }

@@ -1,10 +1,10 @@
 #include "cad/chain_walk.h"
 
 #include "cad/drawing.h"
+#include "fakes/recording_platform.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -83,7 +83,7 @@ TEST(DxfWalk, goes_as_plain_scans_go) {
 }
 
 TEST(CaptureWalk, starts_at_the_origin_and_turns_the_first_entity_too) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({10, 0}, {10, 10}), line({0.2, 0.2}, {10, 0})});
     set_all_orden(-1);
     origin(10.5, 10.5);
@@ -96,7 +96,7 @@ TEST(CaptureWalk, starts_at_the_origin_and_turns_the_first_entity_too) {
 }
 
 TEST(CaptureWalk, the_only_entity_of_a_drawing_is_placed_by_the_loop_and_turned_by_it) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({0, 0}, {10, 0})});
     set_all_orden(-1);
     origin(0, 0);
@@ -107,7 +107,7 @@ TEST(CaptureWalk, the_only_entity_of_a_drawing_is_placed_by_the_loop_and_turned_
 }
 
 TEST(CaptureWalk, the_only_taken_entity_among_several_is_placed_at_once) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({0, 0}, {10, 0})});
     set_all_orden(-1);
     origin(0, 0);
@@ -117,7 +117,7 @@ TEST(CaptureWalk, the_only_taken_entity_among_several_is_placed_at_once) {
 }
 
 TEST(CaptureWalk, without_an_entity_at_the_origin_message_22_is_all) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({0, 0}, {10, 0}), line({10, 0}, {20, 20})});
     set_all_orden(-1);
     origin(5, 5);
@@ -129,13 +129,13 @@ TEST(CaptureWalk, without_an_entity_at_the_origin_message_22_is_all) {
 }
 
 TEST(CaptureWalk, a_drawing_without_entities_shows_message_22) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     EXPECT_EQ(walk_capture(2, no_colour), std::nullopt);
     EXPECT_EQ(platform.dialogs.boxes.size(), 1U);
 }
 
 TEST(CaptureWalk, an_origin_on_a_mid_vertex_starts_at_the_polylines_vertex_0) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({9, 0}, {0, 0}), entity(TipoCad::AcDbPolyline, {{0, 0}, {5, 5}, {9, 0}})});
     set_all_orden(-1);
     origin(5.1, 5.1);
@@ -145,7 +145,7 @@ TEST(CaptureWalk, an_origin_on_a_mid_vertex_starts_at_the_polylines_vertex_0) {
 }
 
 TEST(CaptureWalk, an_incoherent_entity_is_coloured_by_its_place_in_the_list) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({0, 0}, {10, 0}), line({50, 50}, {60, 60}), line({70, 70}, {80, 80}),
                  line({10, 0}, {10, 10})});
     set_all_orden(-1);
@@ -157,7 +157,7 @@ TEST(CaptureWalk, an_incoherent_entity_is_coloured_by_its_place_in_the_list) {
 }
 
 TEST(CaptureWalk, of_three_entities_the_stray_one_is_joined_as_the_last_one_left) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({0, 0}, {10, 0}), line({500, 500}, {600, 600}), line({10, 0}, {10, 10})});
     set_all_orden(-1);
     origin(0, 0);
@@ -166,7 +166,7 @@ TEST(CaptureWalk, of_three_entities_the_stray_one_is_joined_as_the_last_one_left
 }
 
 TEST(CaptureWalk, goes_as_plain_scans_go) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::mt19937 random(47);
     for (int drawing = 0; drawing < 2000; ++drawing) {
         set_drawing(random_drawing(random, 40));

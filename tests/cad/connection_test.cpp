@@ -2,37 +2,29 @@
 
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/scripted_cad_session.h"
+#include "fakes/watching.h"
 #include "services/messages.h"
 #include "support/error_number.h"
-#include "support/fake_cad.h"
-#include "support/recording_platform.h"
-#include "support/watching.h"
 
 #include <gtest/gtest.h>
 
 namespace velmora {
 namespace {
 
-using test::FakeApplication;
-using test::FakeCad;
-using test::FakeDocument;
 using test::number_of;
-using test::RecordingPlatform;
 
-struct ConnectionTest : testing::Test {
-    explicit ConnectionTest(bool without_database = false) : machine(without_database) {
-        set_platform({machine.dialogs, machine.windows, machine.shell, machine.settings,
-                      *machine.database, machine.clock, machine.machine, machine.pic, cad});
-    }
-    ~ConnectionTest() override { acad() = {}; }
-
-    RecordingPlatform machine;
-    FakeCad cad;
-
+struct ConnectionWithoutDatabaseTest : test::ScriptedCadSession {
     void run_application(bool with_document) {
-        cad.application = std::make_shared<FakeApplication>();
+        say({"none", "running AutoCAD 15.0"});
         if (with_document)
-            cad.application->document = std::make_shared<FakeDocument>();
+            state.application->open(" Dibujo1.dwg ");
+    }
+    void end_application() { state.stop(); }
+    /// The next `times` that the program asks for it.
+    void fail(const char* member, int number, int times = 1) {
+        state.failures.insert(state.failures.end(), static_cast<std::size_t>(times),
+                              {member, number});
     }
     static bool enabled(const char* entry) {
         const auto found = session.Velmora.menus.find(entry);
@@ -45,8 +37,8 @@ struct ConnectionTest : testing::Test {
     }
 };
 
-struct ConnectionWithoutDatabaseTest : ConnectionTest {
-    ConnectionWithoutDatabaseTest() : ConnectionTest(true) {}
+struct ConnectionTest : ConnectionWithoutDatabaseTest {
+    ConnectionTest() { machine.open_database(); }
 };
 
 TEST_F(ConnectionTest, with_none_running_message_31_and_everything_off) {
@@ -70,7 +62,8 @@ TEST_F(ConnectionTest, with_a_document_everything_is_on) {
     EXPECT_EQ(session.wininfo.TxtAcadFile, "DIBUJO1.DWG");
     EXPECT_EQ(session.wininfo.ShpAcadOpen, 65280U);
     EXPECT_EQ(session.wininfo.ShpAcadDocLoaded, 65280U);
-    EXPECT_EQ(acad().AcadDoc, cad.application->document);
+    ASSERT_NE(acad().AcadDoc, nullptr);
+    EXPECT_EQ(acad().AcadDoc->Name(), " Dibujo1.dwg ");
     expect_commands(true, true, true);
     EXPECT_TRUE(machine.dialogs.boxes.empty());
 }
@@ -91,7 +84,7 @@ TEST_F(ConnectionTest, without_a_document_only_sending_is_on) {
 TEST_F(ConnectionTest, an_application_that_went_clears_its_own_fields_alone) {
     run_application(true);
     ReconectaAcad();
-    cad.application.reset();
+    end_application();
     ReconectaAcad();
     EXPECT_EQ(session.wininfo.TxtOpensw, "");
     EXPECT_EQ(session.wininfo.txtAcadVer, "");
@@ -106,7 +99,7 @@ TEST_F(ConnectionTest, an_application_that_went_clears_its_own_fields_alone) {
 TEST_F(ConnectionTest, message_31_comes_while_the_application_still_shows) {
     run_application(true);
     ReconectaAcad();
-    cad.application.reset();
+    end_application();
     int told = 0;
     const test::WatchingDialogs dialogs([&] {
         ++told;
@@ -124,14 +117,14 @@ TEST_F(ConnectionTest, message_31_comes_while_the_application_still_shows) {
 
 TEST_F(ConnectionTest, a_connected_application_that_fails_is_not_passed_over) {
     run_application(true);
-    cad.application->name_error = 462;
+    fail("AcadApplication.Name", 462);
     EXPECT_EQ(number_of([] { ReconectaAcad(); }), 462);
 }
 
 TEST_F(ConnectionTest, an_application_that_is_busy_is_open_without_texts_and_document) {
     run_application(true);
     ReconectaAcad();
-    cad.application->name_error = error::cad_busy;
+    fail("AcadApplication.Name", error::cad_busy);
     ReconectaAcad();
     EXPECT_EQ(session.AcadOpen, True);
     EXPECT_EQ(session.AcadDocLoaded, False);
@@ -146,7 +139,7 @@ TEST_F(ConnectionTest, an_application_that_is_busy_is_open_without_texts_and_doc
 
 TEST_F(ConnectionTest, one_that_becomes_busy_with_its_document_has_none) {
     run_application(true);
-    cad.application->document->name_error = error::cad_busy;
+    fail("AcadDocument.Name", error::cad_busy);
     ReconectaAcad();
     EXPECT_EQ(session.AcadOpen, True);
     EXPECT_EQ(session.AcadDocLoaded, False);

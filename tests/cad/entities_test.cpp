@@ -1,8 +1,8 @@
 #include "cad/entities.h"
 
 #include "cad/drawing.h"
+#include "fakes/recording_platform.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "cad/points_to_lines.h"
 
 #include "cad/drawing.h"
+#include "fakes/recording_platform.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -86,7 +86,7 @@ int plain_points_to_lines() {
 }
 
 TEST(PuntosALineas, a_run_of_points_becomes_one_line_fewer) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({point({0, 0}), point({5, 0}), point({5, 5})});
     PuntosALineas();
     EXPECT_EQ(runs(), (std::vector<std::vector<Place>>{{{0, 0}, {5, 0}}, {{5, 0}, {5, 5}}}));
@@ -95,14 +95,14 @@ TEST(PuntosALineas, a_run_of_points_becomes_one_line_fewer) {
 }
 
 TEST(PuntosALineas, a_list_without_points_stays_as_it_is) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({0, 0}, {1, 1}), line({1, 1}, {2, 2})});
     PuntosALineas();
     EXPECT_EQ(session.ObjsCad.upper(), 1);
 }
 
 TEST(PuntosALineas, a_real_line_that_stops_the_run_is_dropped) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({50, 50}, {60, 60}), point({0, 0}), point({5, 0}), point({9, 9})});
     PuntosALineas();
     // The last point stands twice after the removal, so that one line more comes out, from itself
@@ -112,7 +112,7 @@ TEST(PuntosALineas, a_real_line_that_stops_the_run_is_dropped) {
 }
 
 TEST(PuntosALineas, a_point_on_the_end_of_a_line_becomes_a_line_first) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({point({1, 1}), line({5, 5}, {1, 1})});
     PuntosALineas();
     EXPECT_EQ(runs(), (std::vector<std::vector<Place>>{{{5, 5}, {1, 1}}, {{5, 5}, {1, 1}}}));
@@ -120,26 +120,26 @@ TEST(PuntosALineas, a_point_on_the_end_of_a_line_becomes_a_line_first) {
 }
 
 TEST(PuntosALineas, the_meeting_of_a_line_is_exact) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({point({1, 1}), line({5, 5}, {1, 1.25})});
     PuntosALineas();
     EXPECT_EQ(runs(), (std::vector<std::vector<Place>>{{{1, 1}, {5, 5}}}));
 }
 
 TEST(PuntosALineas, a_single_point_shrinks_the_list_to_nothing_and_raises_9) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({point({1, 1})});
     EXPECT_EQ(number_of(PuntosALineas), 9);
 }
 
 TEST(PuntosALineas, a_list_that_comes_back_to_an_earlier_state_raises_6) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_drawing({line({0, 0}, {1, 1}), line({7, 7}, {3, 3}), point({3, 3})});
     EXPECT_EQ(number_of(PuntosALineas), 6);
 }
 
 TEST(PuntosALineas, does_what_a_plain_reading_of_its_steps_does) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::mt19937 random(69);
     const auto place = [&] {
         return Place{static_cast<int>(random() % 4), static_cast<int>(random() % 2)};

@@ -1,5 +1,5 @@
-#include "cad/scripted_cad.h"
 #include "cad/select_origin.h"
+#include "fakes/scripted_cad_session.h"
 #include "support/error_number.h"
 
 #include <gmock/gmock.h>
@@ -12,7 +12,9 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 
-using SelOrigenTest = test::ScriptedCadSession;
+struct SelOrigenTest : test::ScriptedCadSession {
+    SelOrigenTest() { machine.open_database(); }
+};
 
 TEST_F(SelOrigenTest, without_a_cad_message_31) {
     EXPECT_EQ(SelOrigen(), False);

@@ -1,14 +1,15 @@
 #include "cad/send.h"
 
-#include "cad/scripted_cad.h"
 #include "commands/handlers.h"
-#include "support/watching.h"
+#include "fakes/scripted_cad_session.h"
+#include "fakes/watching.h"
 
 #include <gmock/gmock.h>
 
 namespace velmora {
 namespace {
 
+using test::set_shape;
 using test::ShownBox;
 using testing::Contains;
 using testing::ElementsAre;
@@ -16,6 +17,8 @@ using testing::IsEmpty;
 using testing::Not;
 
 struct SendTest : test::ScriptedCadSession {
+    SendTest() { machine.open_database(); }
+
     std::string template_path;
 
     void run_cad() {

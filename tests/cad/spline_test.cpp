@@ -1,7 +1,7 @@
 #include "cad/spline.h"
 
+#include "fakes/recording_platform.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 

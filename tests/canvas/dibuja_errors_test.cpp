@@ -1,5 +1,6 @@
 #include "canvas/drawing.h"
 #include "document/refresh.h"
+#include "fakes/put_in_place.h"
 #include "runtime/error.h"
 
 #include <gmock/gmock.h>
@@ -26,7 +27,7 @@ TEST(DibujaErrors, of_too_many_points_for_polyline_stops_behind_the_first_segmen
         bool drawn;
     };
     for (const Case& one : {Case{32768, true}, Case{32769, false}}) {
-        Canvas canvas;
+        Canvas canvas{test::with_database};
         Forma.Pto.redim(one.upper);
         session.ShowPtos = False;
         session.ShowPtosCtrl = False;
@@ -39,7 +40,7 @@ TEST(DibujaErrors, of_too_many_points_for_polyline_stops_behind_the_first_segmen
 }
 
 TEST(DibujaErrors, of_too_many_compensated_points_shows_message43) {
-    Canvas canvas;
+    Canvas canvas{test::with_database};
     set_triangle();
     Forma.Paralela.redim(32767);
     Dibuja();
@@ -48,7 +49,7 @@ TEST(DibujaErrors, of_too_many_compensated_points_shows_message43) {
 }
 
 TEST(DibujaErrors, of_a_pixel_beyond32_bits_shows_message43) {
-    Canvas canvas;
+    Canvas canvas{test::with_database};
     session.ZoomFactor = 1e9;
     set_shape({{0, 0}, {1, 0}, {3, 0}});
     Dibuja();
@@ -59,7 +60,7 @@ TEST(DibujaErrors, of_a_pixel_beyond32_bits_shows_message43) {
 }
 
 TEST(DibujaErrors, without_a_shape_shows_message37_and_touches_nothing) {
-    Canvas canvas;
+    Canvas canvas{test::with_database};
     session.NoRedraw = True;
     Dibuja();
     EXPECT_THAT(canvas.operations(), ElementsAre());
@@ -77,8 +78,7 @@ TEST(DibujaErrors, shows_any_other_error_in_a_plain_box) {
     Canvas canvas;
     set_triangle();
     FailingSurface failing;
-    set_platform({canvas.dialogs, canvas.windows, canvas.shell, canvas.settings, *canvas.database,
-                  canvas.clock, canvas.machine, failing, canvas.cad});
+    test::put_in_place(failing);
     Dibuja();
     EXPECT_EQ(failing.operations.back(), "present");
     ASSERT_EQ(canvas.dialogs.boxes.size(), 1U);

@@ -2,22 +2,15 @@
 #pragma once
 
 #include "document/session.h"
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
+#include "support/outline.h"
 
-#include <initializer_list>
 #include <string>
 #include <vector>
 
 namespace velmora::test {
 
 using Operations = std::vector<std::string>;
-
-inline void set_shape(std::initializer_list<Pto> points) {
-    Forma.Pto.redim(static_cast<std::int32_t>(points.size()) - 1);
-    std::int32_t i = 0;
-    for (const Pto& point : points)
-        Forma.Pto[i++] = point;
-}
 
 inline void set_colours() {
     session.cl_fondo = 1;
@@ -32,6 +25,7 @@ inline void set_colours() {
 
 /// A platform with zoom 5 and a shape without negative values: (0, 0) is pixel (30, 1970).
 struct Canvas : RecordingPlatform {
+    explicit Canvas(WithDatabase) : Canvas() { open_database(); }
     Canvas() {
         set_colours();
         session.ZoomFactor = 5;

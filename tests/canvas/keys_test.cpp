@@ -148,6 +148,7 @@ TEST(Keys, ctrl_shift_and_alt_alone_are_none_and_ctrl_is_noted) {
 
 TEST(Keys, without_a_shape_every_other_key_tells_so) {
     Keys canvas;
+    canvas.open_database();
     Forma.Pto.redim(0);
     pic_KeyDown(65, 0);
     EXPECT_EQ(canvas.dialogs.boxes.size(), 1U);
@@ -220,6 +221,7 @@ TEST(Keys, delete_and_insert_are_the_point_commands) {
 
 TEST(Keys, delete_with_a_selection_beyond_the_array_still_shows_the_commands_messages) {
     Keys canvas;
+    canvas.open_database();
     Forma.Pto.redim_keep(2);
     session.PtoSel = 3;
     pic_KeyDown(46, 0);

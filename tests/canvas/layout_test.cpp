@@ -1,6 +1,6 @@
 #include "canvas/drawing.h"
 #include "document/refresh.h"
-#include "support/watching.h"
+#include "fakes/watching.h"
 
 #include <gtest/gtest.h>
 

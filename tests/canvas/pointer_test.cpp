@@ -407,6 +407,7 @@ TEST(InsertionMode, the_right_button_removes_the_last_point) {
 TEST(InsertionMode, a_right_click_on_three_points_or_fewer_refuses) {
     for (const std::int32_t upper : {0, 1, 2}) {
         ByHand canvas;
+        canvas.open_database();
         Forma.Pto.redim_keep(upper);
         session.PtoSel = upper;
         pic_MouseUp(2, 0, 500, 500);

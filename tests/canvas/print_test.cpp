@@ -156,6 +156,7 @@ TEST_F(PrintTest, the_next_repaint_has_its_own_origin_again) {
 }
 
 TEST_F(PrintTest, one_point_shows_message_37_and_touches_nothing) {
+    machine.open_database();
     session.NoRedraw = True;
     PrintPic();
     ASSERT_EQ(machine.dialogs.boxes.size(), 1U);

@@ -1,7 +1,7 @@
 #include "canvas/drawing.h"
 #include "canvas/paralela.h"
 #include "canvas/view.h"
-#include "runtime/error.h"
+#include "support/error_number.h"
 
 #include <gtest/gtest.h>
 
@@ -12,13 +12,7 @@ namespace velmora {
 namespace {
 
 using test::Canvas;
-
-template <class Body>
-int error_of(Body body) {
-    int number = 0;
-    trap([&] { static_cast<void>(body()); }, [&](const RuntimeError& e) { number = e.number; });
-    return number;
-}
+using test::number_of;
 
 TEST(View, maps_there_and_back) {
     Canvas canvas;
@@ -33,11 +27,11 @@ TEST(View, maps_there_and_back) {
 
 TEST(View, raises_beyond_F64_and_without_a_zoom) {
     Canvas canvas;
-    EXPECT_EQ(error_of([] { return canvas_x(1e308); }), error::overflow);
-    EXPECT_EQ(error_of([] { return canvas_y(-1e308); }), error::overflow);
+    EXPECT_EQ(number_of([] { return canvas_x(1e308); }), error::overflow);
+    EXPECT_EQ(number_of([] { return canvas_y(-1e308); }), error::overflow);
     session.ZoomFactor = 0;
-    EXPECT_EQ(error_of([] { return world_x(80); }), error::division_by_zero);
-    EXPECT_EQ(error_of([] { return world_y(80); }), error::division_by_zero);
+    EXPECT_EQ(number_of([] { return world_x(80); }), error::division_by_zero);
+    EXPECT_EQ(number_of([] { return world_y(80); }), error::division_by_zero);
 }
 
 TEST(ToPixel, rounds_ties_to_even_up_to_the_ends_of32_bits) {
@@ -69,7 +63,7 @@ TEST(ToPixel, rounds_ties_to_even_up_to_the_ends_of32_bits) {
         if (one.pixel)
             EXPECT_EQ(to_pixel(one.position), *one.pixel) << one.position;
         else
-            EXPECT_EQ(error_of([&] { return to_pixel(one.position); }), error::overflow)
+            EXPECT_EQ(number_of([&] { return to_pixel(one.position); }), error::overflow)
                 << one.position;
     }
 }
@@ -77,8 +71,8 @@ TEST(ToPixel, rounds_ties_to_even_up_to_the_ends_of32_bits) {
 TEST(ToSingle, narrows_and_raises_beyond_a_float) {
     EXPECT_EQ(to_single(0.1), 0.1F);
     EXPECT_EQ(to_single(-3.4e38), -3.4e38F);
-    EXPECT_EQ(error_of([] { return to_single(3.5e38); }), error::overflow);
-    EXPECT_EQ(error_of([] { return to_single(std::numeric_limits<double>::quiet_NaN()); }),
+    EXPECT_EQ(number_of([] { return to_single(3.5e38); }), error::overflow);
+    EXPECT_EQ(number_of([] { return to_single(std::numeric_limits<double>::quiet_NaN()); }),
               error::overflow);
 }
 
@@ -117,8 +111,8 @@ TEST(ParalelaPixel, is_the_pixel_of_any_other_point_away_from_ties) {
 TEST(ParalelaPixel, raises_beyond32_bits) {
     Canvas canvas;
     for (const double far : {1e9, -1e9, 1e20, 1e40, 1e308}) {
-        EXPECT_EQ(error_of([&] { return paralela_pixel({far, 0}); }), error::overflow) << far;
-        EXPECT_EQ(error_of([&] { return paralela_pixel({0, far}); }), error::overflow) << far;
+        EXPECT_EQ(number_of([&] { return paralela_pixel({far, 0}); }), error::overflow) << far;
+        EXPECT_EQ(number_of([&] { return paralela_pixel({0, far}); }), error::overflow) << far;
     }
 }
 

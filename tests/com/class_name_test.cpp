@@ -6,9 +6,10 @@
 #include "cad/connection.h"
 #include "com/cad_server.h"
 #include "document/session.h"
+#include "fakes/put_in_place.h"
+#include "fakes/recording_platform.h"
 #include "server/registration.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 
 #include <array>
 #include <gmock/gmock.h>
@@ -100,10 +101,9 @@ TEST(ClassName, of_an_object_without_automation_is_no_cad) {
 TEST(ClassName, of_an_object_with_other_members_is_message_31) {
     test::CadServer server;
     server.say({"running Hoja 1.0", "document Ala.dwg", "hide Documents"});
-    test::RecordingPlatform machine;
+    test::RecordingPlatform machine{test::with_database};
     const auto cad = make_running_cad();
-    set_platform({machine.dialogs, machine.windows, machine.shell, machine.settings,
-                  *machine.database, machine.clock, machine.machine, machine.pic, *cad});
+    test::put_in_place(*cad);
     ReconectaAcad();
     ASSERT_EQ(machine.dialogs.boxes.size(), 1U);
     EXPECT_THAT(machine.dialogs.boxes[0].text, testing::StartsWith("Autocad no está abierto"));

@@ -1,10 +1,11 @@
 // The logic's own roads over the real automation interface: capture, origin, sending.
 #include "adapters/running_cad.h"
 #include "cad/connection.h"
-#include "cad/scripted_cad.h"
 #include "cad/select_origin.h"
 #include "com/cad_server.h"
 #include "commands/handlers.h"
+#include "fakes/put_in_place.h"
+#include "fakes/scripted_cad_session.h"
 #include "support/error_number.h"
 
 #include <gmock/gmock.h>
@@ -23,8 +24,7 @@ using Lines = std::initializer_list<const char*>;
 /// A session whose CAD is the real adapter.
 struct ComSession {
     ComSession() {
-        set_platform({machine.dialogs, machine.windows, machine.shell, machine.settings,
-                      *machine.database, machine.clock, machine.machine, machine.pic, *cad});
+        test::put_in_place(*cad);
         session.RedimCapture = False;
     }
     ~ComSession() { acad() = {}; }
@@ -32,7 +32,7 @@ struct ComSession {
     ComSession& operator=(const ComSession&) = delete;
 
     test::CadServer server;
-    test::RecordingPlatform machine;
+    test::RecordingPlatform machine{test::with_database};
     std::unique_ptr<Autocad> cad = make_running_cad();
 
     void open_drawing(Lines entities) {
@@ -82,6 +82,7 @@ constexpr Lines kMixedDrawing = {"other AcDbText",
 
 /// The same session over the drawing in this process.
 struct MemorySession : test::ScriptedCadSession {
+    MemorySession() { machine.open_database(); }
     void TestBody() override {}
 };
 

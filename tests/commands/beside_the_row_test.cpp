@@ -1,9 +1,9 @@
 // What a command needs besides its row, and no program makes of the row: the shortcut window, the
 // guide, the icons, the tips. Each test says where to go.
 #include "commands/command_table.h"
+#include "fakes/recording_platform.h"
 #include "platform/database.h"
 #include "support/places.h"
-#include "support/recording_platform.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ std::set<std::string> keys_on(const std::string& page) {
 }
 
 struct BesideTheRowTest : testing::Test {
-    test::RecordingPlatform machine;
+    test::RecordingPlatform machine{test::with_database};
 
     std::string literal(const char* table, const std::string& key, const char* language,
                         const char* field) {

@@ -1,8 +1,8 @@
 #include "cad/drawing.h"
-#include "cad/scripted_cad.h"
 #include "commands/handlers.h"
+#include "fakes/scripted_cad_session.h"
+#include "fakes/watching.h"
 #include "support/error_number.h"
-#include "support/watching.h"
 
 #include <gmock/gmock.h>
 
@@ -11,6 +11,7 @@ namespace {
 
 using test::Place;
 using test::places_of;
+using test::set_shape;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -18,6 +19,7 @@ constexpr auto kOfferScaling = "Desea escalar la forma a la unidad?";
 
 struct CadCommandsTest : test::ScriptedCadSession {
     CadCommandsTest() {
+        machine.open_database();
         session.Velmora.TxtDat_File = session.FileName = "/viejo.dat";
         session.Velmora.TxtDescDat = "viejo";
         session.PtoSel = 2;

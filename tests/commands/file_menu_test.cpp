@@ -1,12 +1,12 @@
 #include "commands/handlers.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "formats/sample_files.h"
 #include "forms/new_dat.h"
 #include "platform/dialogs.h"
 #include "runtime/paths.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ void load_triangle(RecordingPlatform& platform) {
 }
 
 TEST(mnu_savefile, writes_under_the_name_that_stands_in_the_box) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     load_triangle(platform);
     mnu_savefile();
     EXPECT_TRUE(platform.dialogs.save_calls.empty());
@@ -34,7 +34,7 @@ TEST(mnu_savefile, writes_under_the_name_that_stands_in_the_box) {
 }
 
 TEST(mnu_savefile, an_empty_box_starts_the_dialog_even_when_FileName_stands) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     load_triangle(platform);
     session.Velmora.TxtDat_File = "  ";
     platform.dialogs.paths = {platform.path("nuevo.dat")};
@@ -44,7 +44,7 @@ TEST(mnu_savefile, an_empty_box_starts_the_dialog_even_when_FileName_stands) {
 }
 
 TEST(mnu_savefile, a_cancelled_dialog_and_an_empty_box_write_nothing) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     load_triangle(platform);
     session.Velmora.TxtDat_File.clear();
     mnu_savefile();
@@ -54,7 +54,7 @@ TEST(mnu_savefile, a_cancelled_dialog_and_an_empty_box_write_nothing) {
 }
 
 TEST(mnu_savefileas, a_cancelled_dialog_goes_on_to_the_file_that_stands) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     load_triangle(platform);
     Forma.Pto[1].Y = 1;
     mnu_savefileas();
@@ -63,7 +63,7 @@ TEST(mnu_savefileas, a_cancelled_dialog_goes_on_to_the_file_that_stands) {
 }
 
 TEST(mnu_savefileas, cancel_at_the_question_writes_to_the_name_in_the_box) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     load_triangle(platform);
     const std::string other = platform.write("otro.dat", "x");
     platform.dialogs.paths = {other};
@@ -76,7 +76,7 @@ TEST(mnu_savefileas, cancel_at_the_question_writes_to_the_name_in_the_box) {
 TEST(Saving, without_a_shape_shows_message_37_once_and_touches_no_file) {
     for (void (*const command)() : {mnu_savefile, mnu_savefileas}) {
         for (const std::string name : {"", "wing.dat"}) {
-            RecordingPlatform platform;
+            RecordingPlatform platform{test::with_database};
             const std::string path = platform.write("wing.dat", "x");
             session.FileName = path;
             session.Velmora.TxtDat_File = name.empty() ? "" : path;
@@ -91,7 +91,7 @@ TEST(Saving, without_a_shape_shows_message_37_once_and_touches_no_file) {
 
 // It is drawn with whatever shape comes, until the next compensation.
 TEST(CompensatedOutline, outlives_its_shape) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const test::Points outline = {{1, 2}, {3, 4}, {5, 6}};
     test::fill(Forma.Paralela, outline);
     load_triangle(platform);
@@ -109,7 +109,7 @@ TEST(CompensatedOutline, outlives_its_shape) {
 }
 
 TEST(mnu_closefile, resets_the_document_and_keeps_the_file_name) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     load_triangle(platform);
     session.PtoSel = 2;
     session.TotalSinc = 1;
@@ -146,7 +146,7 @@ TEST(mnu_closefile, resets_the_document_and_keeps_the_file_name) {
 }
 
 TEST(mnu_closefile, the_next_save_as_offers_the_old_name_without_its_extension) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     load_triangle(platform);
     mnu_closefile();
     Forma.Pto.redim(1);

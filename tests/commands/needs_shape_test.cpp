@@ -1,6 +1,6 @@
 #include "commands/handlers.h"
 #include "document/session.h"
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -33,7 +33,7 @@ constexpr Command kNeedAShape[] = {
 TEST(NeedsShape, one_point_is_none_and_each_command_says_so_and_ends) {
     for (const Command& command : kNeedAShape) {
         SCOPED_TRACE(command.name);
-        test::RecordingPlatform platform;
+        test::RecordingPlatform platform{test::with_database};
         const Pto point{1.23456789, -2, 1, 0};
         Forma.Pto[0] = point;
         session.Velmora.TxtDat_File = platform.path("wing.dat");

@@ -1,11 +1,11 @@
 #include "commands/handlers.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
+#include "fakes/watching.h"
 #include "formats/sample_files.h"
-#include "formats/watching_settings.h"
 #include "platform/dialogs.h"
 #include "runtime/paths.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ void load_triangle(RecordingPlatform& platform) {
 }
 
 TEST(mnu_openfile, takes_the_file_in_and_refreshes) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     platform.settings.values[{"Values", "Def_Zoom"}] = "1500.5";
     session.Precision = 1;
     session.PtoSel = 9;
@@ -44,7 +44,7 @@ TEST(mnu_openfile, takes_the_file_in_and_refreshes) {
 }
 
 TEST(mnu_openfile, takes_the_default_of_the_zoom_alone) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.PutArc = 91;
     session.PutCircle = 92;
     session.Precision = 3;
@@ -62,7 +62,7 @@ TEST(mnu_openfile, takes_the_default_of_the_zoom_alone) {
 }
 
 TEST(mnu_openfile, a_failed_load_leaves_the_selection_and_the_list) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     load_triangle(platform);
     session.PtoSel = 2;
     platform.dialogs.paths = {platform.write("bad.dat", sync_file({{"x", "0"}}, {}))};
@@ -79,7 +79,7 @@ void expect_the_order_of_the_refresh(RecordingPlatform& platform, void (*command
     session.ZoomFactor = 3;
     bool read = false;
     bool stored = false;
-    WatchingSettings settings(platform);
+    WatchingSettings settings;
     settings.at_get = [&] {
         EXPECT_EQ(Forma.Pto[1].X, 10.3) << "rounded before the settings are read";
         EXPECT_EQ(session.ZoomFactor, 3);
@@ -104,14 +104,14 @@ std::string left_of_the_axis() {
 }
 
 TEST(mnu_openfile, keeps_the_order_of_its_steps) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     platform.dialogs.paths = {platform.write("wing.dat", left_of_the_axis())};
     session.PtoSel = 9;
     expect_the_order_of_the_refresh(platform, mnu_openfile);
 }
 
 TEST(mnu_openfile, a_setting_that_is_no_number_comes_after_the_rounding) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     platform.settings.values[{"Values", "Def_Zoom"}] = "mucho";
     platform.dialogs.paths = {platform.write("wing.dat", triangle_file())};
     session.Precision = 1;
@@ -123,13 +123,13 @@ TEST(mnu_openfile, a_setting_that_is_no_number_comes_after_the_rounding) {
 }
 
 TEST(mnuRecentFile, keeps_the_order_of_its_steps) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.Velmora.mnuRecentFile[4].path = platform.write("wing.dat", left_of_the_axis());
     expect_the_order_of_the_refresh(platform, [] { mnuRecentFile(4); });
 }
 
 TEST(mnuRecentFile, opens_the_entry_with_all_defaults_and_moves_it_to_the_top) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     load_triangle(platform);
     platform.dialogs.paths = {platform.write("tip.dat", triangle_file())};
     mnu_openfile();
@@ -151,7 +151,7 @@ TEST(mnuRecentFile, opens_the_entry_with_all_defaults_and_moves_it_to_the_top) {
 }
 
 TEST(mnuRecentFile, a_path_that_is_gone_is_reported_and_stays_in_the_list) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     load_triangle(platform);
     runtime::remove_file(platform.path("wing.dat"));
     session.LoadOk = False;

@@ -1,7 +1,7 @@
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -34,7 +34,7 @@ const CommandCase kCommands[] = {
 };
 
 TEST(ShapeCommands, transform_round_and_refresh_the_list) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.Precision = 1;
     session.PtoSel = 2;
     for (const CommandCase& c : kCommands) {
@@ -50,7 +50,7 @@ TEST(ShapeCommands, transform_round_and_refresh_the_list) {
 
 // The scale comes before the rounding: rounded first, 0.04 would be gone.
 TEST(ShapeCommands, mnu_scale_rounds_last) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.Precision = 1;
     for (void (*command)() : {mnu_scale, K_SCALE}) {
         set_shape({{0.04, 0}, {0, 0.02}});
@@ -68,7 +68,7 @@ TEST(ShapeCommands, mnu_scale_xy_opens_its_window) {
 }
 
 TEST(ShapeCommands, a_single_point_is_no_shape) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const Points before = {{-1.23456789, -1}};
     set_shape(before);
     for (const CommandCase& c : kCommands)
@@ -100,7 +100,7 @@ TEST(ShapeCommands, the_order_of_their_steps) {
         {"mnu_mirrorh", mnu_mirrorh, "Realizando Mirror Horizontal...", true},
         {"mnu_mirrorv", mnu_mirrorv, "Realizando Mirror Vertical...", true},
     };
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         set_shape(kBefore);
@@ -139,7 +139,7 @@ TEST(ShapeCommands, who_calls_Define_Layout) {
 }
 
 TEST(ShapeCommands, the_layout_comes_before_the_repaint) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_shape({{0, 0}, {2, 1}, {1, 3}});
     mnu_mirrorh();
     EXPECT_EQ(session.CanvasX0, 1000);

@@ -2,6 +2,7 @@
 #include "canvas/zoom.h"
 #include "commands/command_table.h"
 #include "commands/handlers.h"
+#include "fakes/put_in_place.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -75,7 +76,7 @@ TEST(ZoomCommands, toolbar_keys_are_the_same) {
 }
 
 TEST(BackgroundPicture, comes_from_the_dialog_without_a_repaint) {
-    Canvas canvas;
+    Canvas canvas{test::with_database};
     session.LastDir = "/shapes";
     canvas.dialogs.paths = {"/shapes/wing.bmp"};
     mnu_loadimg();
@@ -92,7 +93,7 @@ TEST(BackgroundPicture, comes_from_the_dialog_without_a_repaint) {
 }
 
 TEST(BackgroundPicture, without_a_last_folder_the_dialog_opens_in_the_programs) {
-    Canvas canvas;
+    Canvas canvas{test::with_database};
     canvas.dialogs.paths = {"/wing.bmp"};
     mnu_loadimg();
     EXPECT_EQ(canvas.dialogs.open_calls.at(0).folder, session.program_folder);
@@ -106,10 +107,9 @@ class Unpictured : public test::RecordingSurface {
 };
 
 TEST(BackgroundPicture, a_file_that_is_no_picture_is_told_and_the_program_goes_on) {
-    Canvas canvas;
+    Canvas canvas{test::with_database};
     Unpictured pic;
-    set_platform({canvas.dialogs, canvas.windows, canvas.shell, canvas.settings, *canvas.database,
-                  canvas.clock, canvas.machine, pic, canvas.cad});
+    test::put_in_place(pic);
     canvas.dialogs.paths = {"/shapes/notes.bmp"};
     mnu_loadimg();
     ASSERT_EQ(canvas.dialogs.boxes.size(), 1U);
@@ -120,7 +120,7 @@ TEST(BackgroundPicture, a_file_that_is_no_picture_is_told_and_the_program_goes_o
 }
 
 TEST(BackgroundPicture, cancelled_dialog_changes_nothing) {
-    Canvas canvas;
+    Canvas canvas{test::with_database};
     mnu_loadimg();
     EXPECT_EQ(canvas.dialogs.open_calls.size(), 1U);
     EXPECT_TRUE(canvas.operations().empty());

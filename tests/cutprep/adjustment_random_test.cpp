@@ -147,6 +147,7 @@ Points random_side(std::mt19937& random, std::size_t size, std::size_t syncs) {
 
 TEST(AdjustmentOfRandomSides, gives_both_sides_the_points_of_the_plain_way) {
     test::Workbench bench;
+    bench.machine.open_database();
     std::mt19937 random(6206);
     for (int round = 0; round < 60; ++round) {
         SCOPED_TRACE(round);

@@ -15,6 +15,8 @@ using test::Points;
 using test::points_of;
 
 struct AdjustmentTest : testing::Test, test::Workbench {
+    AdjustmentTest() { machine.open_database(); }
+
     /// Rows of TEMP_AJUSTE as the last pass left them: side and index, position.
     static std::vector<std::pair<std::string, double>> merged_rows() {
         std::vector<std::pair<std::string, double>> rows;

@@ -13,8 +13,8 @@ namespace {
 using test::number_of;
 
 struct MergedListTest : testing::Test, test::Workbench {
-
     MergedListTest() {
+        machine.open_database();
         set_sides({{0, 0, 1}, {4, 0}, {4, 4}}, {{0, 0, 1}, {4, 0}, {4, 4}, {0, 4}});
         execute("INSERT INTO TEMP_AJUSTE VALUES (1, 2, 3, 4, 'Z')");
     }

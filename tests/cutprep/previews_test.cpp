@@ -1,6 +1,6 @@
 #include "cutprep/previews.h"
 
-#include "formats/watching_windows.h"
+#include "fakes/watching.h"
 #include "workbench.h"
 
 #include <gtest/gtest.h>
@@ -150,14 +150,7 @@ TEST_F(PreviewsTest, a_picture_of_the_margins_size_shows_the_box_with_11_or_6) {
 }
 
 TEST_F(PreviewsTest, a_window_that_closes_under_the_drawing_ends_it) {
-    const test::WatchingWindows windows(machine, [] {
-        Platform services = platform();
-        services.previews = nullptr;
-        set_platform(services);
-    });
-    Platform services = platform();
-    services.previews = &previews;
-    set_platform(services);
+    const test::WatchingTurns windows([] { set_previews(nullptr); });
     test::fill(session.PtosA, {{1, 1}});
     DibujaMini_A();
     EXPECT_EQ(operations.size(), 2U); // the points are missing
@@ -166,9 +159,7 @@ TEST_F(PreviewsTest, a_window_that_closes_under_the_drawing_ends_it) {
 }
 
 TEST_F(PreviewsTest, without_pictures_the_box_says_91) {
-    Platform services = platform();
-    services.previews = nullptr;
-    set_platform(services);
+    set_previews(nullptr);
     test::fill(session.PtosA, {{1, 1}});
     DibujaMini_A();
     ASSERT_EQ(machine.dialogs.boxes.size(), 1U);

@@ -13,6 +13,8 @@ using test::points_of;
 using test::sync_file;
 
 struct SideReaderTest : testing::Test, test::Workbench {
+    SideReaderTest() { machine.open_database(); }
+
     Flag ok = False;
 
     static void set_document(std::size_t size) { test::set_shape(Points(size)); }

@@ -4,9 +4,9 @@
 #include "cutprep/adjustment.h"
 #include "cutprep/preview_surface.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "platform/platform.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <algorithm>
 #include <array>
@@ -74,19 +74,12 @@ struct Workbench {
     RecordingPreviews previews;
 
     Workbench() {
-        show_previews();
+        set_previews(&previews);
         session.PtosA.redim(0);
         session.PtosB.redim(0);
         session.ajuste.txt_fileA = machine.path("raiz.dat");
         session.ajuste.Txt_FileB = machine.path("punta.dat");
         keep_in_place();
-    }
-
-    /// Also for windows that were put in place of the platform's.
-    void show_previews() {
-        Platform services = platform();
-        services.previews = &previews;
-        set_platform(services);
     }
 
     static void set_sides(const Points& A, const Points& B) {

@@ -4,6 +4,7 @@
 #include "cad/select_origin.h"
 #include "cad/send.h"
 #include "commands/handlers.h"
+#include "fakes/scripted_cad_session.h"
 #include "remote_cad_session.h"
 #include "script/words.h"
 #include "scripted/cad_lines.h"
@@ -68,24 +69,20 @@ Outcome outcome_of(const test::RecordingPlatform& machine, std::vector<std::stri
 }
 
 Outcome captured_in_the_same_process() {
-    test::RecordingPlatform machine;
-    driver::CadState state;
-    driver::ScriptedCad cad{state};
-    set_platform({machine.dialogs, machine.windows, machine.shell, machine.settings,
-                  *machine.database, machine.clock, machine.machine, machine.pic, cad});
+    struct InThisProcess : test::ScriptedCadSession {
+        void TestBody() override {}
+    } here;
+    here.machine.open_database();
     session.winoptions.TxtPutArc = "7";
     session.winoptions.TxtPutCircle = "12";
-    driver::cad_line(state, driver::split_words("running AutoCAD 15.0"));
-    driver::cad_line(state, driver::split_words("document Ala.dwg"));
+    here.open_drawing({});
     for (const char* line : kMixedDrawing)
-        driver::cad_line(state, driver::split_words(line));
-    ReconectaAcad();
+        here.say({line});
     mnu_capture();
     std::vector<std::string> colours;
-    for (const auto& entity : state.application->active->model_space)
+    for (const auto& entity : here.state.application->active->model_space)
         colours.push_back(std::to_string(entity->color));
-    acad() = {};
-    return outcome_of(machine, std::move(colours));
+    return outcome_of(here.machine, std::move(colours));
 }
 
 TEST(BusCapture, gives_what_a_capture_in_the_same_process_gives) {

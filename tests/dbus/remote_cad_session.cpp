@@ -3,8 +3,7 @@
 namespace velmora::test {
 
 RemoteCadSession::RemoteCadSession() {
-    set_platform({machine.dialogs, machine.windows, machine.shell, machine.settings,
-                  *machine.database, machine.clock, machine.machine, machine.pic, *cad});
+    put_in_place(*cad);
     session.winoptions.TxtPutArc = "3";
     session.winoptions.TxtPutCircle = "4";
 }

@@ -4,8 +4,8 @@
 #include "adapters/dbus/dbus_cad.h"
 #include "cad/connection.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "remote_cad.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 #include <initializer_list>
@@ -16,7 +16,7 @@ struct RemoteCadSession : testing::Test {
     RemoteCadSession();
     ~RemoteCadSession() override { acad() = {}; }
 
-    RecordingPlatform machine;
+    RecordingPlatform machine{with_database};
     std::unique_ptr<Autocad> cad = make_dbus_cad(
         {.to_attach = std::chrono::milliseconds(300), .to_answer = std::chrono::milliseconds(500)});
     std::unique_ptr<RemoteCad> remote;

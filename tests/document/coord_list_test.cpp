@@ -3,10 +3,10 @@
 #include "commands/handlers.h"
 #include "document/refresh.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "runtime/error.h"
 #include "support/error_number.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 

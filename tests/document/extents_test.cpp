@@ -1,8 +1,8 @@
 #include "document/extents.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 

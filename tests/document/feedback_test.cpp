@@ -2,8 +2,8 @@
 
 #include "document/session.h"
 
+#include "fakes/recording_platform.h"
 #include "platform/dialogs.h"
-#include "support/recording_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ using test::ShownBox;
 using testing::ElementsAre;
 
 struct FeedbackTest : testing::Test {
-    RecordingPlatform machine{true};
+    RecordingPlatform machine;
 };
 
 TEST_F(FeedbackTest, the_panel_and_the_pointer_tell_only_changes) {

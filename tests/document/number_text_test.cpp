@@ -17,7 +17,7 @@ class NumberText : public testing::Test {
     void TearDown() override { session.SepDecimal = '.'; }
 
     static double read(std::string s) { return CadenaAReal(s); }
-    static int error_of(std::string s) {
+    static int number_of_reading(std::string s) {
         return number_of([&] { (void)CadenaAReal(s); });
     }
 };
@@ -53,10 +53,10 @@ TEST_F(NumberText, CadenaAReal_converts_a_text_without_exponent) {
     EXPECT_EQ(read(" -3 "), -3);
     EXPECT_EQ(read("1e-3"), 0.001);
     EXPECT_EQ(read("1.5E+03"), 1500);
-    EXPECT_EQ(error_of("abc"), 13);
+    EXPECT_EQ(number_of_reading("abc"), 13);
     session.SepDecimal = ',';
     EXPECT_EQ(read("12,5"), 12.5);
-    EXPECT_EQ(error_of("12.5"), 13);
+    EXPECT_EQ(number_of_reading("12.5"), 13);
 }
 
 TEST_F(NumberText, CadenaAReal_unfolds_the_exponent_and_keeps_the_length) {
@@ -82,33 +82,33 @@ TEST_F(NumberText, CadenaAReal_puts_a_long_whole_part_behind_the_separator) {
 
 TEST_F(NumberText, CadenaAReal_refuses_a_short_mantissa) {
     session.SepDecimal = ',';
-    EXPECT_EQ(error_of("1,5E-03"), 5);
-    EXPECT_EQ(error_of("-1,5E-03"), 5);
-    EXPECT_EQ(error_of("1,5E-2000000000"), 5);
+    EXPECT_EQ(number_of_reading("1,5E-03"), 5);
+    EXPECT_EQ(number_of_reading("-1,5E-03"), 5);
+    EXPECT_EQ(number_of_reading("1,5E-2000000000"), 5);
     std::string s = "-1,5E-03";
     EXPECT_EQ(number_of([&] { (void)CadenaAReal(s); }), 5);
     EXPECT_EQ(s, "-1,5E-03");
 }
 
 TEST_F(NumberText, CadenaAReal_refuses_a_text_without_comma) {
-    EXPECT_EQ(error_of("1.23456789012346E-05"), 5);
-    EXPECT_EQ(error_of("-1.23456789012346E-05"), 5);
-    EXPECT_EQ(error_of("1E-05"), 5);
-    EXPECT_EQ(error_of("E-05"), 5);
+    EXPECT_EQ(number_of_reading("1.23456789012346E-05"), 5);
+    EXPECT_EQ(number_of_reading("-1.23456789012346E-05"), 5);
+    EXPECT_EQ(number_of_reading("1E-05"), 5);
+    EXPECT_EQ(number_of_reading("E-05"), 5);
     session.SepDecimal = ',';
-    EXPECT_EQ(error_of("123456789E-05"), 5);
+    EXPECT_EQ(number_of_reading("123456789E-05"), 5);
 }
 
 TEST_F(NumberText, CadenaAReal_serves_the_comma_alone) {
-    EXPECT_EQ(error_of("1,23456789012346E-05"), 13);
+    EXPECT_EQ(number_of_reading("1,23456789012346E-05"), 13);
 }
 
 TEST_F(NumberText, CadenaAReal_refuses_a_text_behind_the_exponent_that_is_no_number) {
     session.SepDecimal = ',';
-    EXPECT_EQ(error_of("1,23456789012346E-"), 13);
-    EXPECT_EQ(error_of("1,23456789012346E-x"), 13);
-    EXPECT_EQ(error_of("1,23456789012346E-99999999999"), 6);
-    EXPECT_EQ(error_of("1,5E--5"), 13);
+    EXPECT_EQ(number_of_reading("1,23456789012346E-"), 13);
+    EXPECT_EQ(number_of_reading("1,23456789012346E-x"), 13);
+    EXPECT_EQ(number_of_reading("1,23456789012346E-99999999999"), 6);
+    EXPECT_EQ(number_of_reading("1,5E--5"), 13);
 }
 
 } // namespace

@@ -2,9 +2,9 @@
 
 #include "document/session.h"
 #include "document/shown.h"
+#include "fakes/recording_platform.h"
+#include "fakes/watching.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
-#include "support/watching.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ class Options : public ::testing::Test {
         session.Precision = 3;
         session.FirstActivate = False;
     }
-    RecordingPlatform platform_;
+    RecordingPlatform platform_{test::with_database};
 };
 
 TEST_F(Options, a_changed_TxtPrecision_rounds_with_the_old_Precision) {

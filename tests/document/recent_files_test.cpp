@@ -1,7 +1,7 @@
 #include "document/recent_files.h"
 
 #include "document/session.h"
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ using test::RecordingPlatform;
 using testing::ElementsAre;
 
 struct RecentFilesTest : testing::Test {
-    RecordingPlatform machine{true};
+    RecordingPlatform machine;
 
     void open_all(int count) {
         for (int i = 1; i <= count; ++i)

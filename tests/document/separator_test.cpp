@@ -1,7 +1,7 @@
 #include "document/separator.h"
 
 #include "document/session.h"
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // folder of outlines, a program's folder.
 #pragma once
 
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
 
 #include <filesystem>
 #include <memory>

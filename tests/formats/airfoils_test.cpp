@@ -1,10 +1,10 @@
 // Published airfoil coordinates as people have them: each loads, or ends in the box that its
 // contents demand. The table was worked out from the rules of the formats.
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "formats/load.h"
 #include "platform/dialogs.h"
 #include "support/places.h"
-#include "support/recording_platform.h"
 #include "support/trap_text.h"
 
 #include <gtest/gtest.h>
@@ -114,7 +114,7 @@ class Airfoils : public testing::Test {
         EXPECT_EQ(Forma.Pto.size(), 1U);
     }
 
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::int16_t result = 0;
 };
 

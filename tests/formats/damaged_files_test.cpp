@@ -2,12 +2,12 @@
 // closed, whatever stands in them.
 #include "cad/drawing.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "formats/dxf.h"
 #include "formats/dxf_sheet.h"
 #include "formats/free_text_readers.h"
 #include "formats/scr_cut_readers.h"
 #include "platform/dialogs.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 

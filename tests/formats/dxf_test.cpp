@@ -1,12 +1,12 @@
 #include "formats/dxf.h"
 
 #include "cad/drawing.h"
+#include "fakes/recording_platform.h"
+#include "fakes/watching.h"
 #include "formats/dxf_sheet.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
-#include "support/recording_platform.h"
 #include "support/trap_text.h"
-#include "support/watching.h"
 
 #include <gtest/gtest.h>
 
@@ -40,7 +40,7 @@ class Dxf : public testing::Test {
     }
     [[nodiscard]] const ObjCad& first() const { return session.ObjsCad[0]; }
 
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::string path_;
 };
 

@@ -1,9 +1,9 @@
 #include "formats/file_format.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "formats/sample_files.h"
 #include "runtime/error.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -64,7 +64,7 @@ TEST(GetFileFormat, fewer_than_three_lines_give_one_box) {
     for (const std::string text : {"", "a", "a\r\n", "a\r\nb", "a\nb\n",
                                    "a\nb\n\x1A"
                                    "c\n"}) {
-        RecordingPlatform platform;
+        RecordingPlatform platform{test::with_database};
         const std::string path = platform.write("wing.dat", text);
         EXPECT_EQ(GetFileFormat(path), FileFormat::undecided);
         ASSERT_EQ(platform.dialogs.boxes.size(), 1U);
@@ -79,7 +79,7 @@ TEST(GetFileFormat, fewer_than_three_lines_give_one_box) {
 }
 
 TEST(GetFileFormat, a_missing_file_and_a_folder_come_to_the_same_box) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     EXPECT_EQ(GetFileFormat(platform.path("none.dat")), FileFormat::undecided);
     EXPECT_NE(platform.dialogs.boxes.at(0).text.find("nº:53 Desc: "), std::string::npos);
     EXPECT_EQ(GetFileFormat(platform.folder.string()), FileFormat::undecided);
@@ -87,7 +87,7 @@ TEST(GetFileFormat, a_missing_file_and_a_folder_come_to_the_same_box) {
 }
 
 TEST(GetFileFormat, a_file_1_left_open_is_error_55_once) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const std::string path = platform.write("wing.dat", "SLW - a\nb\nc\n");
     session.files.open_input(1, path);
     EXPECT_EQ(GetFileFormat(path), FileFormat::undecided);
@@ -96,7 +96,7 @@ TEST(GetFileFormat, a_file_1_left_open_is_error_55_once) {
 }
 
 TEST(GetFileFormat, the_box_can_name_the_file_in_another_way) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const std::string path = platform.write("wing.dat", "a");
     EXPECT_EQ(GetFileFormat(path, "WING.DAT"), FileFormat::undecided);
     EXPECT_TRUE(platform.dialogs.boxes.at(0).text.starts_with("El fichero : WING.DAT debe tener"));

@@ -1,10 +1,10 @@
 #include "formats/file_passes.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "formats/sample_files.h"
 #include "runtime/paths.h"
 #include "runtime/text.h"
-#include "support/recording_platform.h"
 #include "support/unprivileged.h"
 
 #include <filesystem>

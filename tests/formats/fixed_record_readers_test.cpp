@@ -1,9 +1,9 @@
 #include "formats/fixed_record_readers.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "formats/sample_files.h"
 #include "platform/dialogs.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "formats/free_text_readers.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "platform/dialogs.h"
-#include "support/recording_platform.h"
 #include "support/trap_text.h"
 
 #include <gtest/gtest.h>
@@ -62,7 +62,7 @@ class FreeText : public testing::Test {
         EXPECT_EQ(boxes()[1], (ShownBox{"Cancel Load?", 20, "Velmora"}));
     }
 
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
 };
 
 class Noslw : public FreeText {};

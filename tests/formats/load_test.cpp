@@ -1,15 +1,14 @@
 #include "formats/load.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
+#include "fakes/watching.h"
 #include "formats/sample_files.h"
-#include "formats/watching_windows.h"
 #include "platform/dialogs.h"
 #include "runtime/error.h"
 #include "runtime/paths.h"
 #include "runtime/text.h"
-#include "support/recording_platform.h"
 #include "support/unprivileged.h"
-#include "support/watching.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -50,7 +49,7 @@ bool shown(const RecordingPlatform& platform, const std::string& status) {
 }
 
 TEST(CargaFichero, mode_1_asks_and_takes_the_file_in) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const std::string path = platform.write("Wing.DaT", small_sync_file());
     platform.dialogs.paths = {path};
     session.LastDir = "/antes";
@@ -71,14 +70,14 @@ TEST(CargaFichero, mode_1_asks_and_takes_the_file_in) {
 }
 
 TEST(CargaFichero, an_empty_LastDir_becomes_the_programs_folder_for_the_dialog) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     EXPECT_EQ(load_chosen(), 0);
     EXPECT_EQ(platform.dialogs.open_calls.at(0).folder, session.program_folder);
     EXPECT_EQ(session.LastDir, session.program_folder);
 }
 
 TEST(CargaFichero, the_canvas_is_clear_while_the_dialog_stands) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     int asked = 0;
     test::WatchingDialogs dialogs([&] {
         ++asked;
@@ -90,7 +89,7 @@ TEST(CargaFichero, the_canvas_is_clear_while_the_dialog_stands) {
 }
 
 TEST(CargaFichero, an_empty_path_ends_it_with_nothing_else) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.LoadOk = True;
     EXPECT_EQ(load_chosen(), 0);
     EXPECT_EQ(load(""), 0);
@@ -100,14 +99,14 @@ TEST(CargaFichero, an_empty_path_ends_it_with_nothing_else) {
 }
 
 TEST(CargaFichero, the_name_in_the_box_leaves_its_folder_to_the_next_dialog_too) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.LastDir = "/antes";
     EXPECT_EQ(load(platform.write("wing.dat", small_sync_file())), -1);
     EXPECT_EQ(session.LastDir, runtime::path_text(platform.folder));
 }
 
 TEST(CargaFichero, the_status_panel_tells_reading_and_the_type) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const std::string path = platform.write("wing.dat", small_sync_file());
     EXPECT_EQ(load(path), -1);
     EXPECT_EQ(platform.windows.statuses,
@@ -117,7 +116,7 @@ TEST(CargaFichero, the_status_panel_tells_reading_and_the_type) {
 }
 
 TEST(CargaFichero, figures_and_counters_after_a_load) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.PtosSuprimidos = session.NLines = session.NSplines = 3;
     session.NCircles = session.NArcs = session.NLWPolylines = 3;
     WinInfo& box = session.wininfo;
@@ -141,7 +140,7 @@ TEST(CargaFichero, figures_and_counters_after_a_load) {
 }
 
 TEST(CargaFichero, a_standard_profile_is_told_by_its_first_line) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     // The odd end of record 1 makes a second, empty line, so the three lines differ in length.
     std::string text = record("SLW - perfil", "");
     text[42] = '\n';
@@ -153,23 +152,22 @@ TEST(CargaFichero, a_standard_profile_is_told_by_its_first_line) {
 }
 
 TEST(CargaFichero, the_windows_get_time_while_records_are_read) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::vector<std::string> counts;
-    const test::WatchingWindows windows(platform,
-                                        [&] { counts.push_back(session.wininfo.TxtTotalPtos); });
+    const test::WatchingTurns windows([&] { counts.push_back(session.wininfo.TxtTotalPtos); });
     const std::string path = platform.write("wing.dat", small_sync_file());
     EXPECT_EQ(CargaDAT(path, FileFormat::SLWSINC), -1);
     EXPECT_EQ(counts, (std::vector<std::string>{"0", "1", "2", "3", "4", "3", "3"}));
 }
 
 TEST(CargaFichero, a_document_that_is_closed_while_it_loads_does_no_harm) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::string sync;
     for (int i = 0; i < 3; ++i)
         sync += record("1.5", "2");
     const std::string path = platform.write("wing.dat", small_sync_file() + sync);
     int turns = 0;
-    const test::WatchingWindows windows(platform, [&] {
+    const test::WatchingTurns windows([&] {
         if (++turns == 7)
             Forma.Pto.redim(0);
     });
@@ -178,7 +176,7 @@ TEST(CargaFichero, a_document_that_is_closed_while_it_loads_does_no_harm) {
 }
 
 TEST(CargaFichero, a_failed_load_shows_the_critical_box_and_resets_the_pointer) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.Velmora.MousePointer = 11;
     session.FileName = "antes";
     const std::string path = platform.write("wing.dat", sync_file({{"0", "0"}, {"1", "x"}}, {}));
@@ -194,7 +192,7 @@ TEST(CargaFichero, a_failed_load_shows_the_critical_box_and_resets_the_pointer) 
 }
 
 TEST(CargaFichero, a_partial_load_that_is_kept_passes_as_a_good_one) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     platform.dialogs.answers = {answer::ok, answer::no};
     const std::string path =
         platform.write("wing.dat", sync_file({{"0", "0"}, {"1", "1"}, {"2", "x"}}, {}));
@@ -206,7 +204,7 @@ TEST(CargaFichero, a_partial_load_that_is_kept_passes_as_a_good_one) {
 #ifdef __linux__
 TEST(CargaFichero, a_file_that_can_not_be_rewritten_loads_by_its_passed_copy) {
     namespace fs = std::filesystem;
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     fs::permissions(platform.folder, fs::perms::all);
     fs::create_directory(platform.folder / "leer");
     std::string text = "titulo\r\n";
@@ -235,7 +233,7 @@ TEST(CargaFichero, a_file_that_can_not_be_rewritten_loads_by_its_passed_copy) {
 #endif
 
 TEST(CargaFichero, an_unknown_extension_after_a_good_load_passes_with_the_old_shape) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     EXPECT_EQ(load(platform.write("wing.dat", small_sync_file())), -1);
     const std::string other = platform.write("nota.txt", "hola");
     EXPECT_EQ(load(other), -1);
@@ -247,7 +245,7 @@ TEST(CargaFichero, an_unknown_extension_after_a_good_load_passes_with_the_old_sh
 }
 
 TEST(CargaFichero, a_failed_detection_after_a_good_load_passes_too) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     EXPECT_EQ(load(platform.write("wing.dat", small_sync_file())), -1);
     const std::string missing = platform.path("none.dat");
     EXPECT_EQ(load(missing), -1);
@@ -257,7 +255,7 @@ TEST(CargaFichero, a_failed_detection_after_a_good_load_passes_too) {
 }
 
 TEST(CargaFichero, an_unknown_extension_first_of_all_fails_without_a_format_text) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const std::string path = platform.write("nota.txt", "hola");
     EXPECT_EQ(load(path), 0);
     EXPECT_EQ(platform.dialogs.boxes.at(0),
@@ -265,14 +263,14 @@ TEST(CargaFichero, an_unknown_extension_first_of_all_fails_without_a_format_text
 }
 
 TEST(CargaFichero, a_failed_load_is_remembered_so_an_unknown_extension_then_fails) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     EXPECT_EQ(load(platform.write("wing.dat", small_sync_file())), -1);
     EXPECT_EQ(load(platform.write("bad.dat", sync_file({{"x", "0"}}, {}))), 0);
     EXPECT_EQ(load(platform.write("nota.txt", "hola")), 0);
 }
 
 TEST(CargaDAT, an_undecided_dialect_gives_0_after_the_separator_pass) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::string text;
     for (int i = 0; i < 14; ++i)
         text += "1,5 2\n";
@@ -284,7 +282,7 @@ TEST(CargaDAT, an_undecided_dialect_gives_0_after_the_separator_pass) {
 }
 
 TEST(CargaDAT, fourteen_lines_with_commas_load_and_thirteen_do_not) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const auto comma_file = [](int lines) {
         std::string text = record("a", "b") + record("c", "d");
         for (int i = 2; i < lines - 1; ++i)
@@ -300,7 +298,7 @@ TEST(CargaDAT, fourteen_lines_with_commas_load_and_thirteen_do_not) {
 }
 
 TEST(CargaDAT, a_comma_machine_reads_a_file_with_points) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.SepDecimal = ',';
     std::string text = record("a", "b") + record("c", "d");
     for (int i = 0; i < 12; ++i)
@@ -314,7 +312,7 @@ TEST(CargaDAT, a_comma_machine_reads_a_file_with_points) {
 }
 
 TEST(Check00, a_load_asks_once_with_the_new_path) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     platform.dialogs.answers = {answer::no};
     const std::string path =
         platform.write("wing.dat", sync_file({{"1", "0"}, {"2", "1"}}, {{"2", "1"}}));

@@ -1,11 +1,11 @@
 #include "formats/origin.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
+#include "fakes/watching.h"
 #include "platform/dialogs.h"
 #include "runtime/error.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
-#include "support/watching.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ TEST(Check00, a_shape_with_the_origin_is_not_asked_about) {
 }
 
 TEST(Check00, yes_moves_the_leftmost_point_to_the_origin) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.FileName = "/x/wing.dat";
     Forma.Pto.redim(2);
     Forma.Pto[0] = {3, 7, 1, 0};
@@ -45,7 +45,7 @@ TEST(Check00, yes_moves_the_leftmost_point_to_the_origin) {
 }
 
 TEST(Check00, no_keeps_the_coordinates) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     platform.dialogs.answers = {answer::no};
     Forma.Pto.redim(0);
     Forma.Pto[0] = {3, 0, 0, 0};
@@ -55,7 +55,7 @@ TEST(Check00, no_keeps_the_coordinates) {
 }
 
 TEST(Check00, a_difference_beyond_f64_raises_6) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     Forma.Pto.redim(1);
     Forma.Pto[0] = {1.5e308, 1, 0, 0};
     Forma.Pto[1] = {-1.5e308, 1, 0, 0};

@@ -1,12 +1,12 @@
 #include "formats/outline_writer.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "formats/fixed_record_readers.h"
 #include "formats/load.h"
 #include "formats/sample_files.h"
 #include "platform/dialogs.h"
 #include "runtime/paths.h"
-#include "support/recording_platform.h"
 #include "support/unprivileged.h"
 #include "support/watching.h"
 
@@ -52,7 +52,7 @@ std::vector<Pto> points() {
 }
 
 TEST(EscribeFichero, the_sync_form_is_written_to_the_byte) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     triangle(platform.path("wing.dat"));
     EXPECT_EQ(EscribeFichero(), -1);
     EXPECT_EQ(session.FileName, platform.path("wing.dat"));
@@ -63,7 +63,7 @@ TEST(EscribeFichero, the_sync_form_is_written_to_the_byte) {
 }
 
 TEST(EscribeFichero, the_sync_form_reads_back_the_same) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     triangle(platform.path("wing.dat"));
     const std::vector<Pto> before = points();
     EXPECT_EQ(EscribeFichero(), -1);
@@ -94,7 +94,7 @@ TEST(EscribeFichero, a_description_is_cut_at_21_characters_and_an_empty_one_is_b
                             "uno dos"},
                            {"ñññññññññññññññññññññZZZ", std::string(21, '\xF1')},
                            {"日本", "??"}}) {
-        RecordingPlatform platform;
+        RecordingPlatform platform{test::with_database};
         triangle(platform.path("wing.dat"));
         session.Velmora.TxtDescDat = c.description;
         EXPECT_EQ(EscribeFichero(), -1);
@@ -104,7 +104,7 @@ TEST(EscribeFichero, a_description_is_cut_at_21_characters_and_an_empty_one_is_b
 }
 
 TEST(EscribeFichero, a_number_of_more_than_21_characters_is_cut) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     triangle(platform.path("wing.dat"));
     Forma.Pto[0].X = -1.23456789012346E-101;
     EXPECT_EQ(EscribeFichero(), -1);
@@ -112,7 +112,7 @@ TEST(EscribeFichero, a_number_of_more_than_21_characters_is_cut) {
 }
 
 TEST(EscribeFichero, without_sync_points_OK_makes_the_origin_one) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     triangle(platform.path("wing.dat"));
     Forma.Pto[1].Sinc = 0;
     platform.dialogs.answers = {answer::ok};
@@ -126,7 +126,7 @@ TEST(EscribeFichero, without_sync_points_OK_makes_the_origin_one) {
 }
 
 TEST(EscribeFichero, without_sync_points_Cancel_leaves_head_and_outline) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const std::string path = platform.write("wing.dat", "antes");
     triangle(path);
     Forma.Pto[1].Sinc = 0;
@@ -157,7 +157,7 @@ TEST(EscribeFichero, the_script_is_written_to_the_byte) {
 }
 
 TEST(EscribeFichero, the_profile_is_written_to_the_byte) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     choose(Form::profile);
     triangle(platform.path("ala ñ.dat"));
     Forma.Pto[1].Sinc = 0;
@@ -171,7 +171,7 @@ TEST(EscribeFichero, the_profile_is_written_to_the_byte) {
 
 TEST(EscribeFichero, sync_points_that_would_be_lost_are_asked_about) {
     for (const Form form : {Form::script, Form::profile}) {
-        RecordingPlatform platform;
+        RecordingPlatform platform{test::with_database};
         choose(form);
         const std::string path = platform.write("wing.scr", "antes");
         triangle(path);
@@ -188,7 +188,7 @@ TEST(EscribeFichero, sync_points_that_would_be_lost_are_asked_about) {
 }
 
 TEST(EscribeFichero, a_comma_machine_writes_points_all_the_same) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.SepDecimal = ',';
     triangle(platform.path("wing.dat"));
     EXPECT_EQ(EscribeFichero(), -1);
@@ -209,7 +209,7 @@ TEST(EscribeFichero, a_comma_machine_writes_points_all_the_same) {
 }
 
 TEST(EscribeFichero, whole_numbers_keep_the_last_line_end_on_a_comma_machine) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.SepDecimal = ',';
     triangle(platform.path("wing.dat"));
     Forma.Pto[1] = {10, 2, 1, 0};
@@ -218,7 +218,7 @@ TEST(EscribeFichero, whole_numbers_keep_the_last_line_end_on_a_comma_machine) {
 }
 
 TEST(EscribeFichero, a_shorter_file_over_one_that_cannot_be_deleted_is_whole) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     platform.shell.recycle_fails = true;
     const std::string path = platform.write("wing.dat", std::string(5000, 'z'));
     triangle(path);
@@ -227,7 +227,7 @@ TEST(EscribeFichero, a_shorter_file_over_one_that_cannot_be_deleted_is_whole) {
 }
 
 TEST(EscribeFichero, the_bar_goes_up_a_step_a_point_and_back_to_0) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     triangle(platform.path("wing.dat"));
     Forma.Pto[1].Sinc = 0;
     platform.dialogs.answers = {answer::cancel};
@@ -262,7 +262,7 @@ TEST(EscribeFichero, a_file_1_left_open_raises_55) {
 #ifdef __linux__
 TEST(EscribeFichero, a_device_is_no_place_for_a_file) {
     for (const Form form : {Form::sync_dat, Form::script, Form::profile}) {
-        RecordingPlatform platform;
+        RecordingPlatform platform{test::with_database};
         choose(form);
         triangle("/dev/null");
         Forma.Pto[1].Sinc = 0;
@@ -287,7 +287,7 @@ TEST(EscribeFichero, what_a_full_disk_broke_off_is_removed) {
     if (!disk.stands())
         GTEST_SKIP() << "this user can't mount a small disk";
     for (const Form form : {Form::sync_dat, Form::script, Form::profile}) {
-        RecordingPlatform platform;
+        RecordingPlatform platform{test::with_database};
         choose(form);
         triangle(disk.path("wing.dat"));
         Forma.Pto.redim(20000);

@@ -4,7 +4,7 @@
 #include "document/session.h"
 #include "formats/point_lines.h"
 #include "formats/sample_files.h"
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "formats/point_lines.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ class PointLines : public testing::Test {
         return take_point({X, Y}, points, count, limit);
     }
 
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     Array<Pto> points;
     std::int32_t count = 0;
     CoordinateLimit limit{"/a/file.dat"};

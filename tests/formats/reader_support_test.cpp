@@ -2,9 +2,9 @@
 
 #include "document/feedback.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "formats/box_text.h"
 #include "formats/sample_files.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "formats/recovery.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "formats/load.h"
 #include "formats/outline_writer.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 #include "support/unprivileged.h"
 
 #include <cstdlib>
@@ -24,7 +24,7 @@ void put_triangle() {
 }
 
 TEST(Recovery, writes_the_outline_as_a_sync_dat_that_loads_again) {
-    test::RecordingPlatform machine;
+    test::RecordingPlatform machine{test::with_database};
     put_triangle();
     session.Velmora.TxtDescDat = "costilla";
 

@@ -2,10 +2,10 @@
 #include "formats/outline_writer.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "formats/sample_files.h"
 #include "platform/dialogs.h"
 #include "runtime/numbers.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -66,7 +66,7 @@ void expect_round_trip(const std::string& path, const std::vector<Pto>& outline)
 class RoundTrip : public testing::TestWithParam<char> {};
 
 TEST_P(RoundTrip, every_form_reads_back_through_its_reader) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.SepDecimal = GetParam();
     session.ZoomFactor = 1;
     std::mt19937 random(1011);
@@ -84,7 +84,7 @@ TEST_P(RoundTrip, every_form_reads_back_through_its_reader) {
 INSTANTIATE_TEST_SUITE_P(BothMachines, RoundTrip, testing::Values('.', ','));
 
 TEST(RoundTripOf, each_form_is_detected_as_its_own_type) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::mt19937 random(3);
     set_points(any_outline(random, 5, false));
     session.Velmora.TxtDat_File = platform.path("perfil.dat");
@@ -101,7 +101,7 @@ TEST(RoundTripOf, each_form_is_detected_as_its_own_type) {
 }
 
 TEST(RoundTripOf, a_short_sync_file_of_a_comma_machine_fails_there) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.SepDecimal = ',';
     set_points({{0, 0, 1, 0}, {1.5, 0, 0, 0}, {1.5, 2, 0, 0}});
     session.Velmora.TxtDat_File = platform.path("wing.dat");
@@ -114,7 +114,7 @@ TEST(RoundTripOf, a_short_sync_file_of_a_comma_machine_fails_there) {
 }
 
 TEST(RoundTripOf, a_profile_whose_name_looks_like_a_point_ends_in_the_question) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::mt19937 random(3);
     set_points(any_outline(random, 5, false));
     session.Velmora.TxtDat_File = platform.path("1 ala.dat");
@@ -126,7 +126,7 @@ TEST(RoundTripOf, a_profile_whose_name_looks_like_a_point_ends_in_the_question) 
 }
 
 TEST(CargaFichero, tabs_are_replaced_from_14_lines_on_before_a_free_text_is_read) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::string text = "perfil\n";
     for (int i = 0; i < 13; ++i)
         text += std::to_string(i) + "\t" + std::to_string(i * i) + "\n";
@@ -138,7 +138,7 @@ TEST(CargaFichero, tabs_are_replaced_from_14_lines_on_before_a_free_text_is_read
 
 // These readers see to the separator by themselves: only a DAT is brought to the machine's.
 TEST(CargaFichero, the_other_formats_are_not_rewritten) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::string script = "pline\r\n";
     std::string cut;
     for (int i = 0; i < 20; ++i) {
@@ -159,7 +159,7 @@ TEST(CargaFichero, the_other_formats_are_not_rewritten) {
 
 // A free text with tabs would be taken once they are blanks; this dialect has no such pass.
 TEST(CargaFichero, tabs_stay_in_a_meridol_file_and_its_lines_are_skipped) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     std::string text = "MERIDOL\r\n\r\n0 0\r\n1 0\r\n";
     for (int line = 0; line < 12; ++line)
         text += "5.5\t" + std::to_string(line) + "\r\n";
@@ -171,7 +171,7 @@ TEST(CargaFichero, tabs_stay_in_a_meridol_file_and_its_lines_are_skipped) {
 }
 
 TEST(CargaFichero, after_a_refused_script_one_use_of_file_1_meets_error_55) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const std::string script = platform.write("wing.scr", "PLINE\r\n0,0\r\n1,1\r\n");
     const std::string dat =
         platform.write("wing.dat", test::sync_file({{"0", "0"}, {"1", "1"}}, {{"1", "1"}}));
@@ -184,7 +184,7 @@ TEST(CargaFichero, after_a_refused_script_one_use_of_file_1_meets_error_55) {
 }
 
 TEST(CargaFichero, a_refused_script_makes_the_next_save_raise_55) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     EXPECT_EQ(load(platform.write("wing.scr", "PLINE\r\n")), 0);
     Forma.Pto.redim(1);
     session.Velmora.TxtDat_File = platform.path("nuevo.dat");

@@ -1,13 +1,12 @@
 #include "formats/save.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
+#include "fakes/watching.h"
 #include "formats/sample_files.h"
-#include "formats/watching_settings.h"
-#include "formats/watching_windows.h"
 #include "platform/dialogs.h"
 #include "runtime/paths.h"
 #include "runtime/text.h"
-#include "support/recording_platform.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -27,7 +26,7 @@ void square() {
 }
 
 TEST(DialogoGuardar, takes_path_and_description) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     session.Velmora.TxtDescDat = "antes";
     const std::string path = platform.path("wing.dat");
@@ -59,7 +58,7 @@ TEST(DialogoGuardar, offers_the_last_name_without_its_last_four_characters) {
                                            {"/a/wing.ñañ", "/a/wing"},
                                            {"/a/wing", ""},
                                            {"", ""}}) {
-        RecordingPlatform platform;
+        RecordingPlatform platform{test::with_database};
         square();
         session.FileName = c.last;
         DialogoGuardar();
@@ -93,7 +92,7 @@ TEST(DialogoGuardar, a_name_without_an_extension_takes_the_present_one) {
                                            {".dat", "wing.txt", "wing.txt"},
                                            {".dat", "ala 2.5", "ala 2.5"},
                                            {".dat", "ala ñ", "ala ñ.dat"}}) {
-        RecordingPlatform platform;
+        RecordingPlatform platform{test::with_database};
         square();
         session.DefExt = c.extension;
         platform.dialogs.paths = {platform.path(c.typed)};
@@ -105,7 +104,7 @@ TEST(DialogoGuardar, a_name_without_an_extension_takes_the_present_one) {
 }
 
 TEST(DialogoGuardar, the_question_is_about_the_name_that_will_be_written) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     platform.write("wing", "x");
     const std::string old = platform.write("wing.dat", "x");
@@ -124,7 +123,7 @@ TEST(DialogoGuardar, the_question_is_about_the_name_that_will_be_written) {
 }
 
 TEST(DialogoGuardar, the_filter_follows_the_extension_and_a_script_has_no_description) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     session.DefExt = ".scr";
     session.Velmora.TxtDescDat = "a\\b/c";
@@ -136,7 +135,7 @@ TEST(DialogoGuardar, the_filter_follows_the_extension_and_a_script_has_no_descri
 }
 
 TEST(DialogoGuardar, an_empty_description_becomes_the_files_name) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     platform.dialogs.paths = {platform.path("wing.dat"), platform.path("tip.dat")};
     platform.dialogs.inputs = {"", std::nullopt};
@@ -147,7 +146,7 @@ TEST(DialogoGuardar, an_empty_description_becomes_the_files_name) {
 }
 
 TEST(DialogoGuardar, a_description_is_cut_behind_its_last_backslash_alone) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     platform.dialogs.paths = {platform.path("wing.dat"), platform.path("wing.dat")};
     platform.dialogs.inputs = {"C:\\alas\\ala 1/2", "ala\\"};
@@ -158,7 +157,7 @@ TEST(DialogoGuardar, a_description_is_cut_behind_its_last_backslash_alone) {
 }
 
 TEST(DialogoGuardar, control_characters_in_a_description_become_blanks) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     platform.dialogs.paths = {platform.path("wing.dat")};
     platform.dialogs.inputs = {"ala\nizquierda\t2\x1A"};
@@ -167,7 +166,7 @@ TEST(DialogoGuardar, control_characters_in_a_description_become_blanks) {
 }
 
 TEST(DialogoGuardar, a_file_that_exists_is_asked_about) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     const std::string old = platform.write("wing.dat", "x");
     platform.dialogs.paths = {old};
@@ -181,7 +180,7 @@ TEST(DialogoGuardar, a_file_that_exists_is_asked_about) {
 }
 
 TEST(DialogoGuardar, no_goes_back_to_the_dialog_with_the_answered_name) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     const std::string old = platform.write("wing.dat", "x");
     const std::string fresh = platform.path("tip.dat");
@@ -193,7 +192,7 @@ TEST(DialogoGuardar, no_goes_back_to_the_dialog_with_the_answered_name) {
 }
 
 TEST(DialogoGuardar, cancel_at_the_question_leaves_the_name_but_not_the_box) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     session.Velmora.TxtDat_File = "/antes.dat";
     const std::string old = platform.write("wing.dat", "x");
@@ -206,14 +205,14 @@ TEST(DialogoGuardar, cancel_at_the_question_leaves_the_name_but_not_the_box) {
 }
 
 TEST(DialogoGuardar, without_a_shape_message_37_alone) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     DialogoGuardar();
     EXPECT_EQ(platform.dialogs.boxes.at(0).text, "No hay ninguna forma cargada!");
     EXPECT_TRUE(platform.dialogs.save_calls.empty());
 }
 
 TEST(GeneraFichero, writes_reports_and_remembers) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     const std::string path = platform.path("wing.dat");
     session.Velmora.TxtDat_File = path;
@@ -231,11 +230,11 @@ TEST(GeneraFichero, writes_reports_and_remembers) {
 }
 
 TEST(GeneraFichero, remembers_the_file_between_the_sound_and_the_praise) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     session.Velmora.TxtDat_File = platform.path("wing.dat");
     bool stored = false;
-    test::WatchingSettings settings(platform);
+    test::WatchingSettings settings;
     settings.at_save = [&] {
         EXPECT_TRUE(session.Velmora.StatusBar1.ends_with("Creado Correctamente!"));
         EXPECT_EQ(session.Velmora.MousePointer, 0);
@@ -248,7 +247,7 @@ TEST(GeneraFichero, remembers_the_file_between_the_sound_and_the_praise) {
 }
 
 TEST(GeneraFichero, a_script_has_praise_of_its_own_and_sound_can_be_off) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     session.Sound = 0;
     session.GenDATSinc = False;
@@ -264,7 +263,7 @@ TEST(GeneraFichero, a_script_has_praise_of_its_own_and_sound_can_be_off) {
 }
 
 TEST(GeneraFichero, the_praise_goes_by_the_path_and_not_by_the_form) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     const auto praise = [&](const std::string& name) {
         session.Velmora.TxtDat_File = platform.path(name);
@@ -280,11 +279,11 @@ TEST(GeneraFichero, the_praise_goes_by_the_path_and_not_by_the_form) {
 }
 
 TEST(GeneraFichero, a_file_that_is_gone_again_has_no_praise) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     const std::string path = platform.path("wing.dat");
     session.Velmora.TxtDat_File = path;
-    test::WatchingSettings settings(platform);
+    test::WatchingSettings settings;
     settings.at_save = [&] {
         runtime::remove_file(path);
     };
@@ -305,7 +304,7 @@ TEST(GeneraFichero, an_empty_name_does_nothing) {
 }
 
 TEST(GeneraFichero, a_precision_below_1_is_only_put_right) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     Forma.Pto[1].X = 10.26;
     session.Precision = 0;
@@ -326,12 +325,12 @@ TEST(GeneraFichero, a_precision_below_1_is_only_put_right) {
 }
 
 TEST(GeneraFichero, the_hourglass_stands_while_it_writes) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     session.OptimizeOnGen = False;
     session.Velmora.TxtDat_File = platform.path("wing.dat");
     std::vector<std::pair<double, int>> steps;
-    const test::WatchingWindows windows(platform, [&] {
+    const test::WatchingTurns windows([&] {
         if (session.Velmora.Pbar1.Value > 0)
             steps.emplace_back(session.Velmora.Pbar1.Value, session.Velmora.MousePointer);
     });
@@ -343,7 +342,7 @@ TEST(GeneraFichero, the_hourglass_stands_while_it_writes) {
 
 TEST(GeneraFichero, rounds_and_thins_the_shape_in_memory) {
     for (const Flag optimise : {True, False}) {
-        RecordingPlatform platform;
+        RecordingPlatform platform{test::with_database};
         Forma.Pto.redim(5);
         for (std::int32_t i = 0; i <= 5; ++i)
             Forma.Pto[i] = {i < 2 ? 0.0 : 1.04, i * 1.0, 0, 0};
@@ -358,7 +357,7 @@ TEST(GeneraFichero, rounds_and_thins_the_shape_in_memory) {
 }
 
 TEST(GeneraFichero, rounds_before_it_thins) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.Precision = 3;
     Forma.Pto.redim(5);
     const double xs[] = {5, 1, 1.0000001, 1, 2, 3};
@@ -371,7 +370,7 @@ TEST(GeneraFichero, rounds_before_it_thins) {
 }
 
 TEST(GeneraFichero, refused_it_ends_with_the_normal_pointer_and_no_report) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     square();
     Forma.Pto[0].Sinc = 0;
     session.OptimizeOnGen = False;

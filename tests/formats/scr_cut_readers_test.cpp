@@ -1,9 +1,9 @@
 #include "formats/scr_cut_readers.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "platform/dialogs.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 #include "support/trap_text.h"
 
 #include <gtest/gtest.h>
@@ -42,7 +42,7 @@ class LineFile : public testing::Test {
         EXPECT_FALSE(session.files.is_open(1));
     }
 
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
 };
 
 class Scr : public LineFile {

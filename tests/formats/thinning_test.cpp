@@ -1,8 +1,8 @@
 #include "formats/thinning.h"
 
 #include "document/session.h"
-#include "formats/watching_windows.h"
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
+#include "fakes/watching.h"
 
 #include <gtest/gtest.h>
 
@@ -55,7 +55,7 @@ TEST(OptimizaPtos, thins_runs_of_equal_X_between_the_first_point_and_the_last_tw
                                            {with_x({1, 1, 1, 1}), {0, 2, 3}},
                                            {with_x({1, 1, 1, 1, 1, 1, 1}), {0, 5, 6}},
                                            {with_x({1, 1, 2, 2, 3, 3}), {0, 1, 2, 3, 4, 5}}}) {
-        RecordingPlatform platform;
+        RecordingPlatform platform{test::with_database};
         set_points(c.before);
         OptimizaPtos();
         std::vector<Pto> expected;
@@ -69,7 +69,7 @@ TEST(OptimizaPtos, thins_runs_of_equal_X_between_the_first_point_and_the_last_tw
 }
 
 TEST(OptimizaPtos, thins_runs_of_equal_Y_in_what_the_first_pass_left) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_points(
         {{0, 0, 0, 0}, {1, 5, 0, 0}, {2, 5, 0, 0}, {3, 5, 0, 0}, {4, 1, 0, 0}, {5, 2, 0, 0}});
     OptimizaPtos();
@@ -80,14 +80,14 @@ TEST(OptimizaPtos, thins_runs_of_equal_Y_in_what_the_first_pass_left) {
 
 // By Y first, the second and third points would both stay for the pass on X.
 TEST(OptimizaPtos, the_pass_on_X_comes_first) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_points({{0, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 0, 0}, {1, 0, 0, 0}, {1, 1, 0, 0}});
     OptimizaPtos();
     EXPECT_EQ(points(), (std::vector<Pto>{{0, 0, 0, 0}, {1, 0, 0, 0}, {1, 1, 0, 0}}));
 }
 
 TEST(OptimizaPtos, both_passes_may_leave_three_points) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_points({{1, 1, 0, 0}, {1, 1, 0, 0}, {1, 1, 0, 0}, {1, 1, 0, 0}, {1, 1, 0, 0}});
     OptimizaPtos();
     EXPECT_EQ(Forma.Pto.upper(), 2);
@@ -96,7 +96,7 @@ TEST(OptimizaPtos, both_passes_may_leave_three_points) {
 }
 
 TEST(OptimizaPtos, a_slanted_straight_line_stays) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const std::vector<Pto> line = {
         {0, 0, 0, 0}, {1, 1, 0, 0}, {2, 2, 0, 0}, {3, 3, 0, 0}, {4, 4, 0, 0}};
     set_points(line);
@@ -106,7 +106,7 @@ TEST(OptimizaPtos, a_slanted_straight_line_stays) {
 }
 
 TEST(OptimizaPtos, without_a_removal_the_number_of_the_last_time_goes_back_to_0) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.PtosSuprimidos = 7;
     session.wininfo.TxtPtosSupr = "7";
     set_points(with_x({0, 1, 2, 3}));
@@ -116,7 +116,7 @@ TEST(OptimizaPtos, without_a_removal_the_number_of_the_last_time_goes_back_to_0)
 }
 
 TEST(OptimizaPtos, only_exact_equality_counts) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_points(with_x({0, 1, 1.0000000000000002, 1, 2, 3}));
     OptimizaPtos();
     EXPECT_EQ(Forma.Pto.upper(), 5);
@@ -126,7 +126,7 @@ TEST(OptimizaPtos, only_exact_equality_counts) {
 }
 
 TEST(OptimizaPtos, repeats_are_counted_but_stay) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const std::vector<Pto> shape = {{0, 0, 0, 0}, {1, 2, 0, 0}, {1, 2, 0, 0},
                                     {3, 1, 0, 0}, {4, 4, 0, 0}, {4, 4, 0, 0}};
     set_points(shape);
@@ -137,7 +137,7 @@ TEST(OptimizaPtos, repeats_are_counted_but_stay) {
 }
 
 TEST(OptimizaPtos, a_sync_point_is_removed_like_any_other_and_the_total_stays) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.TotalSinc = 2;
     set_points(
         {{5, 0, 1, 0}, {1, 1, 0, 0}, {1, 2, 1, 0}, {1, 3, 0, 0}, {2, 4, 0, 0}, {3, 5, 0, 0}});
@@ -149,11 +149,11 @@ TEST(OptimizaPtos, a_sync_point_is_removed_like_any_other_and_the_total_stays) {
 }
 
 TEST(OptimizaPtos, shows_its_messages_with_the_hourglass) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_points(with_x({5, 1, 1, 1, 2, 3}));
     std::vector<int> pointers;
     std::vector<std::string> counts;
-    const test::WatchingWindows windows(platform, [&] {
+    const test::WatchingTurns windows([&] {
         pointers.push_back(session.Velmora.MousePointer);
         counts.push_back(session.wininfo.TxtPtosSupr);
     });

@@ -1,8 +1,8 @@
 #include "forms/ajuste_opt.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ namespace velmora {
 namespace {
 
 struct AjusteOptTest : testing::Test {
-    test::RecordingPlatform machine;
+    test::RecordingPlatform machine{test::with_database};
     AjusteOptWindow& window = session.ajuste_opt;
 
     void type(std::string_view x, std::string_view y, std::string_view z) const {

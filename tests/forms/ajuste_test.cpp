@@ -1,10 +1,9 @@
 #include "forms/ajuste.h"
 
 #include "cutprep/workbench.h"
+#include "fakes/watching.h"
 #include "formats/sample_files.h"
-#include "formats/watching_windows.h"
 #include "support/error_number.h"
-#include "support/watching.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -31,6 +30,7 @@ struct AjusteTest : testing::Test, test::Workbench {
         machine.write("otro.dat", sync_file({{"2", "1"}, {"5", "1"}, {"6", "6"}}, {{"6", "6"}}));
 
     AjusteTest() {
+        machine.open_database();
         ajuste_Load();
         session.Velmora.MousePointer = 0;
     }
@@ -224,7 +224,9 @@ TEST_F(AjusteTest, the_exit_button_closes_the_window) {
 
 // The adjustment.
 
-struct AdjustPressTest : testing::Test, test::Workbench {};
+struct AdjustPressTest : testing::Test, test::Workbench {
+    AdjustPressTest() { machine.open_database(); }
+};
 
 const Points kThree = {{0, 0, 1}, {4, 0}, {10, 0, 1}, {10, 3}};
 const Points kFive = {{0, 0, 1}, {2, 0}, {5, 0}, {7, 0}, {10, 0, 1}, {10, 5}};
@@ -278,11 +280,10 @@ TEST_F(AdjustPressTest, the_results_take_the_loaded_names_with_2_behind) {
 
 TEST_F(AdjustPressTest, a_press_tells_its_runs_and_ends_with_the_save_button) {
     std::vector<std::string> told;
-    const test::WatchingWindows windows(machine, [&] {
+    const test::WatchingTurns windows([&] {
         if (told.empty() || told.back() != session.ajuste.lbl_estado)
             told.push_back(session.ajuste.lbl_estado);
     });
-    show_previews();
     set_sides(kThree, kFive);
     Cmd_Ajuste_Click();
     // Empty again while the pictures are drawn. The main window's panel is left alone.

@@ -3,8 +3,8 @@
 #include "commands/command_table.h"
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@ using Calls = std::vector<std::string>;
 
 class CompensaTest : public ::testing::Test {
   protected:
-    test::RecordingPlatform platform_;
+    test::RecordingPlatform platform_{test::with_database};
 };
 
 TEST_F(CompensaTest, the_command_opens_the_window_and_repaints) {

@@ -2,8 +2,8 @@
 
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -46,7 +46,7 @@ class DelNpto : public ::testing::Test {
             xs.push_back(point.X);
         return xs;
     }
-    test::RecordingPlatform platform_;
+    test::RecordingPlatform platform_{test::with_database};
     DelNptoWindow& window_;
 };
 

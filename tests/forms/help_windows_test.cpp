@@ -3,10 +3,10 @@
 #include "commands/handlers.h"
 #include "document/feedback.h"
 #include "document/session.h"
+#include "fakes/fake_form.h"
+#include "fakes/recording_platform.h"
 #include "forms/acerca.h"
 #include "forms/teclas.h"
-#include "services/fake_form.h"
-#include "support/recording_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 struct HelpTest : testing::Test {
-    RecordingPlatform machine;
+    RecordingPlatform machine{test::with_database};
 
     void deploy(const std::string& lines) const { machine.write("deployment.txt", lines); }
     static std::string status() { return session.Velmora.StatusBar1; }

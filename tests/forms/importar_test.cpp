@@ -6,7 +6,7 @@
 #include "import/dxf_text.h"
 #include "platform/dialogs.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

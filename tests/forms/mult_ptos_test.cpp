@@ -2,9 +2,9 @@
 
 #include "commands/handlers.h"
 #include "document/session.h"
-#include "services/fake_form.h"
+#include "fakes/fake_form.h"
+#include "fakes/recording_platform.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ class MultPtos : public ::testing::Test {
         window_.Combo1 = text;
         Combo1_Change();
     }
-    test::RecordingPlatform platform_;
+    test::RecordingPlatform platform_{test::with_database};
     MultPtosWindow& window_;
 };
 

@@ -2,9 +2,9 @@
 
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "support/error_number.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -37,7 +37,7 @@ class NewDat : public ::testing::Test {
         New_Dat_Picture1_Click(kCircle);
         New_Dat_cmd_ok_Click();
     }
-    test::RecordingPlatform platform_;
+    test::RecordingPlatform platform_{test::with_database};
     NewDatWindow& window_;
 };
 
@@ -124,7 +124,7 @@ TEST_F(NewDat, the_last_number_is_proposed_by_the_next_window_too) {
 }
 
 TEST(NewDatWithoutTexts, a_tile_is_picked_all_the_same) {
-    const test::RecordingPlatform platform(true);
+    const test::RecordingPlatform platform;
     New_Dat_Load();
     New_Dat_Picture1_Click(kSquare);
     EXPECT_EQ(session.New_Dat.Txt_Shape, "");
@@ -132,7 +132,7 @@ TEST(NewDatWithoutTexts, a_tile_is_picked_all_the_same) {
 }
 
 TEST(NewDatWithoutTexts, the_circle_cannot_ask_for_its_points) {
-    const test::RecordingPlatform platform(true);
+    const test::RecordingPlatform platform;
     New_Dat_Load();
     EXPECT_EQ(test::number_of([] { New_Dat_Picture1_Click(kCircle); }), 91);
     EXPECT_TRUE(platform.dialogs.input_calls.empty());

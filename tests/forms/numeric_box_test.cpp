@@ -1,6 +1,6 @@
 #include "forms/numeric_box.h"
 
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ TEST(NumericBox, digits_backspace_and_Enter_pass) {
 }
 
 TEST(NumericBox, any_other_key_is_swallowed_and_resets_the_box) {
-    test::RecordingPlatform platform;
+    test::RecordingPlatform platform{test::with_database};
     for (const int code : {int{'/'}, int{':'}, int{'.'}, int{','}, int{'-'}, int{'a'}, int{' '}, 0,
                            3, 9, 22, 27, 0xF1, 0x2030, 0x131}) {
         SCOPED_TRACE(code);
@@ -37,7 +37,7 @@ TEST(NumericBox, any_other_key_is_swallowed_and_resets_the_box) {
 }
 
 TEST(NumericBox, a_box_can_let_more_keys_pass_and_have_a_reset_text_of_its_own) {
-    test::RecordingPlatform platform;
+    test::RecordingPlatform platform{test::with_database};
     std::string text = "12";
     const NumericBox box{"setup", "Txt_Def_Arc_Val", text, ".,", "3"};
     EXPECT_EQ(numeric_key(box, '.'), '.');
@@ -48,7 +48,7 @@ TEST(NumericBox, a_box_can_let_more_keys_pass_and_have_a_reset_text_of_its_own) 
 }
 
 TEST(NumericBox, a_reset_is_a_change_when_the_text_differs) {
-    test::RecordingPlatform platform;
+    test::RecordingPlatform platform{test::with_database};
     std::string text = "12";
     const NumericBox box{"Compensa", "Txt_merma", text, ".", "0", [] {
                              ++changes;

@@ -1,8 +1,8 @@
 #include "forms/scale_xy.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -38,7 +38,7 @@ class ScaleXyWindowTest : public ::testing::Test {
         text(box) = typed;
         Scale_xy_Change(box);
     }
-    RecordingPlatform platform_;
+    RecordingPlatform platform_{test::with_database};
     ScaleXyWindow& window_;
 };
 

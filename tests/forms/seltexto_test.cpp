@@ -2,9 +2,9 @@
 
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "support/error_number.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -54,7 +54,7 @@ class Seltexto : public testing::Test {
         type("long");
     }
 
-    test::RecordingPlatform machine_;
+    test::RecordingPlatform machine_{test::with_database};
     SeltextoWindow& window_;
 };
 

@@ -1,10 +1,10 @@
 #include "forms/setup.h"
 
 #include "document/session.h"
-#include "services/fake_form.h"
+#include "fakes/fake_form.h"
+#include "fakes/recording_platform.h"
 #include "services/settings.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 struct SetupTest : testing::Test {
-    RecordingPlatform machine;
+    RecordingPlatform machine{test::with_database};
     SetupWindow& window = session.setup;
 
     SetupTest() {

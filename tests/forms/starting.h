@@ -1,9 +1,9 @@
 // The machine before the program's start.
 #pragma once
 
-#include "services/fake_form.h"
+#include "fakes/fake_form.h"
+#include "fakes/recording_platform.h"
 #include "support/places.h"
-#include "support/recording_platform.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ inline void put_database(const RecordingPlatform& machine) {
 
 // Before the start: no database open, the program's own file in its folder.
 struct StartTest : testing::Test {
-    RecordingPlatform machine{true};
+    RecordingPlatform machine;
     FakeForm intro{"intro"};
     FakeForm main{"Velmora"};
 

@@ -2,11 +2,12 @@
 
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/put_in_place.h"
+#include "fakes/recording_platform.h"
 #include "forms/intro.h"
 #include "services/messages.h"
 #include "starting.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -107,7 +108,7 @@ TEST_F(StartTest, what_gave_way_to_a_newer_file_is_told) {
 // Running and leaving.
 
 struct ApplicationTest : testing::Test {
-    RecordingPlatform machine;
+    RecordingPlatform machine{test::with_database};
     std::int16_t cancel = 0;
 
     void answer_no() { machine.dialogs.answers.push_back(answer::no); }
@@ -143,8 +144,7 @@ TEST_F(ApplicationTest, the_connection_meets_an_activated_window_without_redraw)
         }
     } cad;
     cad.windows = &machine.windows;
-    set_platform({machine.dialogs, machine.windows, machine.shell, machine.settings,
-                  *machine.database, machine.clock, machine.machine, machine.pic, cad});
+    test::put_in_place(cad);
     Velmora_Activate();
     EXPECT_EQ(cad.first, False);
     EXPECT_EQ(cad.no_redraw, True);

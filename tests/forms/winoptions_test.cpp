@@ -1,12 +1,12 @@
 #include "forms/winoptions.h"
 
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "forms/intro.h"
 #include "forms/velmora.h"
 #include "starting.h"
 #include "support/error_number.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -195,7 +195,7 @@ TEST(WinOptionsWindow, the_numeric_boxes_refuse_other_keys) {
         {TxtPrecision_KeyPress, &WinOptions::TxtPrecision, "focus winoptions.TxtPrecision", false},
         {Txt_zoom_KeyPress, &WinOptions::Txt_zoom, "focus winoptions.Txt_zoom", true},
     };
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.focus);
         session.winoptions.*c.text = std::string("25");

@@ -5,8 +5,9 @@
 #include "cad/connection.h"
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/put_in_place.h"
+#include "fakes/recording_platform.h"
 #include "free_cad.h"
-#include "support/recording_platform.h"
 
 #include <QJsonArray>
 
@@ -19,8 +20,7 @@ struct FreeCadSession : testing::Test {
     static void TearDownTestSuite() { started.reset(); }
 
     FreeCadSession() {
-        set_platform({machine.dialogs, machine.windows, machine.shell, machine.settings,
-                      *machine.database, machine.clock, machine.machine, machine.pic, *cad});
+        put_in_place(*cad);
         session.program_folder = machine.folder.string();
         session.winoptions.TxtPutArc = "7";
         session.winoptions.TxtPutCircle = "12";
@@ -51,7 +51,7 @@ struct FreeCadSession : testing::Test {
         return texts;
     }
 
-    RecordingPlatform machine;
+    RecordingPlatform machine{with_database};
     std::unique_ptr<Autocad> cad = make_dbus_cad();
     static inline std::unique_ptr<FreeCad> started;
 };

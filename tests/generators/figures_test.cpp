@@ -1,7 +1,7 @@
 #include "generators/figures.h"
 
+#include "fakes/recording_platform.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "app/qt_platform.h"
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
 
 #include <QTemporaryDir>
 #include <memory>

@@ -3,10 +3,10 @@
 
 #include "canvas/print.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "platform/platform.h"
 #include "printing/printed_sheet.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -40,7 +40,7 @@ class PrintingTest : public testing::Test {
         PrintPic();
     }
 
-    RecordingPlatform machine;
+    RecordingPlatform machine{with_database};
 
   private:
     std::unique_ptr<Printer> printer_;

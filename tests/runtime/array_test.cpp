@@ -1,18 +1,13 @@
 #include "runtime/array.h"
 
+#include "support/error_number.h"
+
 #include <gtest/gtest.h>
 
 namespace velmora {
 namespace {
 
-int number_of(auto&& body) {
-    try {
-        body();
-    } catch (const RuntimeError& failure) {
-        return failure.number;
-    }
-    return 0;
-}
+using test::number_of;
 
 TEST(Array, without_dimensions_raises_9) {
     Array<int> array;

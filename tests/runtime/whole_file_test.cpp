@@ -1,6 +1,6 @@
 #include "runtime/whole_file.h"
 
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "services/deployment.h"
 
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
 
 #include <gtest/gtest.h>
 #include <sstream>

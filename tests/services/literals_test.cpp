@@ -1,12 +1,12 @@
 #include "services/literals.h"
 
 #include "document/session.h"
+#include "fakes/fake_form.h"
+#include "fakes/recording_platform.h"
 #include "platform/database.h"
 #include "services/crea_literales.h"
-#include "services/fake_form.h"
 #include "services/messages.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ using test::RecordingPlatform;
 using testing::ElementsAre;
 
 struct LiteralsTest : testing::Test {
-    RecordingPlatform machine;
+    RecordingPlatform machine{test::with_database};
     FakeForm form{"Prueba"};
 
     LiteralsTest() { make_table("Prueba"); }

@@ -1,7 +1,7 @@
+#include "fakes/recording_platform.h"
 #include "platform/database.h"
 #include "services/messages.h"
 #include "support/places.h"
-#include "support/recording_platform.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -119,7 +119,7 @@ std::vector<std::pair<std::string, std::string>> named_messages() {
 
 // The catalogue above ends at 98: a message beyond it could go with no test the wiser.
 TEST(MessageTexts, every_message_that_has_a_name_stands_in_every_language) {
-    test::RecordingPlatform machine;
+    test::RecordingPlatform machine{test::with_database};
     const auto named = named_messages();
     ASSERT_FALSE(named.empty());
     const auto rows = machine.database->open_recordset("Mensajes", Access::read_only);
@@ -134,7 +134,7 @@ TEST(MessageTexts, every_message_that_has_a_name_stands_in_every_language) {
 }
 
 TEST(MessageTexts, are_those_of_the_catalogue_to_the_letter) {
-    test::RecordingPlatform machine;
+    test::RecordingPlatform machine{test::with_database};
     for (const auto& [code, text] : kTexts)
         EXPECT_EQ(GetMensaje(code), text) << code;
 }

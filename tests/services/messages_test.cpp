@@ -1,9 +1,10 @@
 #include "services/messages.h"
 
 #include "document/session.h"
+#include "fakes/put_in_place.h"
+#include "fakes/recording_platform.h"
 #include "services/message_codes.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,7 +19,7 @@ using test::ShownBox;
 using testing::ElementsAre;
 
 struct MessagesTest : testing::Test {
-    RecordingPlatform machine;
+    RecordingPlatform machine{test::with_database};
 
     void add(const std::string& code, const std::string& language, const std::string& text) {
         machine.database->execute("INSERT INTO Mensajes VALUES ('" + code + "','" + language +
@@ -184,14 +185,13 @@ TEST_F(MessagesTest, the_pointer_is_back_before_the_box_shows) {
             return RecordingDialogs::message(text, buttons, title);
         }
     } dialogs;
-    set_platform({dialogs, machine.windows, machine.shell, machine.settings, *machine.database,
-                  machine.clock, machine.machine, machine.pic, machine.cad});
+    test::put_in_place(dialogs);
     (void)MuestraMensaje(37);
     EXPECT_EQ(dialogs.pointer, 0);
 }
 
 TEST(MessagesWithoutDatabase, raise_91_and_leave_the_pointer) {
-    RecordingPlatform machine(true);
+    RecordingPlatform machine;
     EXPECT_EQ(number_of([] { (void)GetMensaje(37); }), 91);
     EXPECT_EQ(number_of([] { (void)MuestraMensaje(37); }), 91);
     EXPECT_EQ(session.Velmora.MousePointer, 0);
@@ -199,7 +199,7 @@ TEST(MessagesWithoutDatabase, raise_91_and_leave_the_pointer) {
 }
 
 TEST(MessagesWithoutDatabase, without_the_table_raise_3078) {
-    RecordingPlatform machine;
+    RecordingPlatform machine{test::with_database};
     machine.database->execute("DROP TABLE Mensajes");
     EXPECT_EQ(number_of([] { (void)GetMensaje(37); }), 3078);
 }

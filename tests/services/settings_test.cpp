@@ -2,8 +2,8 @@
 
 #include "document/feedback.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "support/error_number.h"
-#include "support/recording_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@ using test::number_of;
 using test::RecordingPlatform;
 
 struct SettingsTest : testing::Test {
-    RecordingPlatform machine{true};
+    RecordingPlatform machine;
 
     void store(const std::string& key, const std::string& value) {
         machine.settings.save(key.starts_with("cl_") ? "Colors" : "Values", key, value);

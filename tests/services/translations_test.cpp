@@ -1,8 +1,8 @@
 // The tables in all languages of the program: the same rows, nothing blank, nothing too long, and
 // texts that can stand where the callers put them.
 #include "commands/command_table.h"
+#include "fakes/recording_platform.h"
 #include "platform/database.h"
-#include "support/recording_platform.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -51,7 +51,7 @@ std::string mnemonic_of(const std::string& text) {
 }
 
 struct TranslationsTest : testing::Test {
-    test::RecordingPlatform machine;
+    test::RecordingPlatform machine{test::with_database};
 
     std::vector<std::string> form_tables() {
         std::vector<std::string> names;

@@ -1,6 +1,6 @@
 #include "commands/command_table.h"
+#include "fakes/recording_platform.h"
 #include "platform/database.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -9,7 +9,7 @@ namespace velmora {
 namespace {
 
 struct VelmoraTableTest : testing::Test {
-    test::RecordingPlatform machine;
+    test::RecordingPlatform machine{test::with_database};
     std::unique_ptr<Recordset> rows =
         machine.database->open_recordset("Velmora", Access::read_only);
 

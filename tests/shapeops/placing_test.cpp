@@ -2,10 +2,10 @@
 
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "services/messages.h"
 #include "support/error_number.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -86,7 +86,7 @@ class PlacingCommands : public ::testing::Test {
     [[nodiscard]] std::ptrdiff_t repaints() const {
         return std::ranges::count(platform_.pic.operations, "cls");
     }
-    RecordingPlatform platform_;
+    RecordingPlatform platform_{test::with_database};
 };
 
 TEST_F(PlacingCommands, Rotate_turns_about_the_selected_point_and_rounds) {

@@ -1,8 +1,8 @@
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "support/error_number.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -41,7 +41,7 @@ class PointEditing : public ::testing::Test {
         EXPECT_EQ(session.TotalSinc, total);
         EXPECT_EQ(session.wininfo.TxtTotalCtrlPtos, std::to_string(text));
     }
-    test::RecordingPlatform platform_;
+    test::RecordingPlatform platform_{test::with_database};
 };
 
 TEST_F(PointEditing, Insert_Pto_puts_the_midpoint_before_the_selected_point) {

@@ -1,8 +1,8 @@
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "runtime/error.h"
 #include "shapeops/scaling.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -45,7 +45,7 @@ TEST(ScaleToUnit, by_the_larger_maximum) {
         {"division is no reciprocal", {{61.02, 0}, {-25.69, 0}}, {{1, 0}, {-0.421009505080302, 0}}},
         {"reciprocal is no division", {{0.936, 0}, {-0.256, 0}}, {{1, 0}, {-0.273504273504274, 0}}},
     };
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     for (const ScaleCase& c : cases) {
         SCOPED_TRACE(c.what);
         set_shape(c.before);
@@ -56,7 +56,7 @@ TEST(ScaleToUnit, by_the_larger_maximum) {
 }
 
 TEST(ScaleToUnit, has_no_limit_of_16_bits) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     Forma.Pto.redim(40000);
     Forma.Pto[40000] = {4, 2};
     ScaleToUnit();
@@ -86,7 +86,7 @@ TEST(ScaleXY, by_size_measures_from_the_origin) {
         {"15 digits", 10, 3, {{3, 3}, {0.7, -1.1}}, {{10, 3}, {2.33333333333333, -1.1}}},
         {"a negative target mirrors", -3, 3, {{3, 3}, {1, 1}}, {{-3, 3}, {-1, 1}}},
     };
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         set_shape(c.before);
@@ -100,7 +100,7 @@ TEST(ScaleXY, by_size_measures_from_the_origin) {
 }
 
 TEST(ScaleXY, by_percent_multiplies_first) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_shape({{3, 0.7, 1, -1}, {-1, 10}});
     ScaleXY(50, 200, 0);
     EXPECT_EQ(shape(), (Points{{1.5, 1.4, 1, -1}, {-0.5, 20}}));
@@ -115,7 +115,7 @@ TEST(ScaleXY, a_shape_without_extent_shows_the_box) {
         int number;
     };
     const Case cases[] = {{10, 10, 11}, {0, 10, 6}};
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     for (const Case& c : cases) {
         platform.dialogs.boxes.clear();
         set_shape({{0, 0}, {0, 0}});
@@ -127,7 +127,7 @@ TEST(ScaleXY, a_shape_without_extent_shows_the_box) {
 }
 
 TEST(ScaleXY, an_overflow_keeps_the_points_before_it) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_shape({{1, 1}, {kHuge, 1}, {1, 1}});
     ScaleXY(200, 200, 0);
     EXPECT_EQ(shape(), (Points{{2, 2}, {kHuge, 1}, {1, 1}}));
@@ -136,7 +136,7 @@ TEST(ScaleXY, an_overflow_keeps_the_points_before_it) {
 }
 
 TEST(ScaleXY, beyond_28_digits_the_conversion_overflows) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_shape({{1, 1}, {1e29, 1}, {1, 1}});
     ScaleXY(200, 200, 0);
     EXPECT_EQ(shape(), (Points{{2, 2}, {1e29, 1}, {1, 1}}));
@@ -152,7 +152,7 @@ TEST(ScaleXY, counts_in_16_bits) {
     };
     const Case cases[] = {
         {32767, 32767, false}, {32768, 32768, true}, {32769, 32768, true}, {40000, 32768, true}};
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     for (const std::int16_t by_size : {std::int16_t{0}, std::int16_t{1}}) {
         for (const Case& c : cases) {
             SCOPED_TRACE(c.points);

@@ -1,7 +1,7 @@
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -36,7 +36,7 @@ class SyncPoints : public ::testing::Test {
         return points;
     }
     static Points five(std::initializer_list<int> syncs) { return with_syncs(5, syncs); }
-    test::RecordingPlatform platform_;
+    test::RecordingPlatform platform_{test::with_database};
 };
 
 TEST_F(SyncPoints, Insert_and_Delete_flip_the_selected_point_once) {

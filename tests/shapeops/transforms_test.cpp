@@ -2,10 +2,10 @@
 
 #include "document/refresh.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "runtime/error.h"
 #include "shapeops/scaling.h"
 #include "support/outline.h"
-#include "support/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -64,7 +64,7 @@ TEST(Positivarfrma, moves_each_axis_that_has_negative_values) {
         {"a positive shape is not pulled back", {{10, 20}, {11, 21}}, {{10, 20}, {11, 21}}},
         {"a minimum of 0 stays", {{0, 0}, {1, 1}}, {{0, 0}, {1, 1}}},
     };
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     for (const ShapeCase& c : cases) {
         SCOPED_TRACE(c.what);
         set_shape(c.before);
@@ -74,7 +74,7 @@ TEST(Positivarfrma, moves_each_axis_that_has_negative_values) {
 }
 
 TEST(Mirror, negates_one_axis_and_does_not_move_back) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     set_shape({{1, 2, 1, -1}, {-3, 4}});
     MirrorHorDat();
     EXPECT_EQ(shape(), (Points{{-1, 2, 1, -1}, {3, 4}}));
@@ -91,7 +91,7 @@ TEST(InvertDat, reverses_all_points_but_the_first_with_their_flags) {
         {"two stay", {{0, 0}, {1, 1, 1}}, {{0, 0}, {1, 1, 1}}},
         {"one stays", {{4, 5}}, {{4, 5}}},
     };
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     for (const ShapeCase& c : cases) {
         SCOPED_TRACE(c.what);
         set_shape(c.before);
@@ -121,7 +121,7 @@ TEST(Apply_Precision, rounds_by_what_the_f64_holds) {
         {22, 0.1, 0.1},
         {3, 1234.5675, 1234.568},
     };
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     for (const PrecisionCase& c : cases) {
         SCOPED_TRACE(c.before);
         session.Precision = c.precision;
@@ -134,7 +134,7 @@ TEST(Apply_Precision, rounds_by_what_the_f64_holds) {
 
 TEST(Apply_Precision, a_precision_out_of_range_shows_the_box_and_changes_nothing) {
     const std::pair<int, int> cases[] = {{-1, 5}, {23, 5}, {32767, 5}, {32768, 6}, {-32769, 6}};
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const Points before = {{0.125, 0.125}, {2.5, 2.5}};
     for (const auto& [precision, number] : cases) {
         SCOPED_TRACE(precision);
@@ -167,7 +167,7 @@ const FrameCase kFrames[] = {
 };
 
 TEST(Frame, panel_and_pointer_around_the_work) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     for (const FrameCase& c : kFrames) {
         SCOPED_TRACE(c.what);
         set_shape({{1, 2}, {3, 4}, {5, 6}});
@@ -189,7 +189,7 @@ TEST(Frame, on_the_error_route_panel_and_pointer_stay) {
         {Apply_Precision, "Aplicando Precisión ..."},
         {[] { ScaleXY(10, 10, 1); }, "Escalando a la Unidad..."},
     };
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     session.Precision = 23;
     for (const auto& [routine, start] : cases) {
         set_shape({{0, 0}, {0, 0}});
@@ -206,7 +206,7 @@ TEST(Frame, without_a_database_the_box_says_so_and_nothing_moves) {
         "Error InvertDat nº: ",    "Error ScaleToUnit nº: ",  "Error ScaleXY nº: ",
         "Error MirrorHorDat nº: ", "Error MirrorVerDat nº: ", "Error Apply_Precision nº: ",
         "Error Positivarfrma nº: "};
-    RecordingPlatform platform(true);
+    RecordingPlatform platform;
     const Points before = {{-1.23456789, 2}, {3, 4}, {5, 6}};
     set_shape(before);
     for (const FrameCase& c : kFrames)

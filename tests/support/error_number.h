@@ -9,7 +9,7 @@ namespace velmora::test {
 template <class Body>
 int number_of(Body&& body) {
     try {
-        body();
+        static_cast<void>(body());
     } catch (const RuntimeError& failure) {
         return failure.number;
     }

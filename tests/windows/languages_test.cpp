@@ -1,7 +1,7 @@
 // Each window in each language of the program: every text whole, no mnemonic twice.
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "services/literals.h"
-#include "support/recording_platform.h"
 #include "ui/window.h"
 #include "windows/bare_windows.h"
 #include "windows/shown_texts.h"
@@ -43,7 +43,7 @@ class LanguagesTest : public testing::TestWithParam<const char*> {
   protected:
     LanguagesTest() { session.Idioma = GetParam(); }
 
-    RecordingPlatform machine;
+    RecordingPlatform machine{test::with_database};
     BareWindows windows;
 };
 

@@ -1,10 +1,10 @@
 // The tables of the windows' texts against the windows as designed.
+#include "fakes/recording_platform.h"
 #include "platform/database.h"
 #include "platform/platform.h"
 #include "runtime/error.h"
 #include "runtime/text.h"
 #include "services/crea_literales.h"
-#include "support/recording_platform.h"
 #include "ui/window.h"
 #include "windows/bare_windows.h"
 
@@ -66,7 +66,7 @@ void expect_rows_of(const Texts& design, const Texts& table, const std::string& 
 } // namespace
 
 TEST(TablesTest, every_window_has_its_texts_as_designed) {
-    const RecordingPlatform machine;
+    const RecordingPlatform machine{test::with_database};
     const BareWindows windows;
     for (const std::string_view name : window_names()) {
         if (name == kMadeByItsWindow)

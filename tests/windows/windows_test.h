@@ -3,7 +3,7 @@
 
 #include "app/qt_platform.h"
 #include "document/session.h"
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "adapters/qt/image_surface.h"
 
-#include "runtime/error.h"
+#include "support/error_number.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -26,10 +26,8 @@ struct PictureFile : testing::Test {
         EXPECT_TRUE(picture.save(path, format, 100)) << name;
         return path.toStdString();
     }
-    int error_of(const std::string& file) {
-        int number = 0;
-        trap([&] { pic.set_picture(file); }, [&](const RuntimeError& e) { number = e.number; });
-        return number;
+    int number_of_loading(const std::string& file) {
+        return test::number_of([&] { pic.set_picture(file); });
     }
 };
 
@@ -74,7 +72,7 @@ TEST_F(PictureFile, of_each_kind_stands_at_the_corner) {
          {save("a.bmp", blue(30, 20), "BMP"), save("a.png", blue(30, 20), "PNG"),
           save("a.jpg", blue(30, 20), "JPG"), save("a.ico", blue(32, 32), "ICO"),
           write("a.gif", gif), save("misnamed.gif", blue(30, 20), "BMP")}) {
-        ASSERT_EQ(error_of(file), 0) << file;
+        ASSERT_EQ(number_of_loading(file), 0) << file;
         EXPECT_NEAR(pic.pixel(0, 0) & 0xFF, 254, 2) << file;
         EXPECT_EQ(pic.pixel(40, 0), 0xC8C8C8U) << file;
     }
@@ -91,14 +89,14 @@ TEST_F(PictureFile, larger_than_the_canvas_is_cut) {
 }
 
 TEST_F(PictureFile, that_is_not_there_raises53) {
-    EXPECT_EQ(error_of(folder.filePath("none.bmp").toStdString()), error::file_not_found);
-    EXPECT_EQ(error_of(folder.path().toStdString()), error::file_not_found);
+    EXPECT_EQ(number_of_loading(folder.filePath("none.bmp").toStdString()), error::file_not_found);
+    EXPECT_EQ(number_of_loading(folder.path().toStdString()), error::file_not_found);
 }
 
 TEST_F(PictureFile, that_is_no_picture_raises481_and_the_old_one_stays) {
     pic.set_picture(save("a.bmp", blue(30, 20), "BMP"));
-    EXPECT_EQ(error_of(write("text.bmp", "not a picture")), error::invalid_picture);
-    EXPECT_EQ(error_of(write("empty.jpg", "")), error::invalid_picture);
+    EXPECT_EQ(number_of_loading(write("text.bmp", "not a picture")), error::invalid_picture);
+    EXPECT_EQ(number_of_loading(write("empty.jpg", "")), error::invalid_picture);
     EXPECT_EQ(pic.pixel(0, 0), 0x0000FEU);
 }
 
@@ -106,7 +104,7 @@ TEST_F(PictureFile, too_large_for_memory_raises7) {
     // The head of a picture of 30000 by 30000 pixels.
     const QByteArray png =
         QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAAdTAAAHUwCAIAAADpRW/tAAAAAElEQVQ1rwYe");
-    EXPECT_EQ(error_of(write("huge.png", png)), error::out_of_memory);
+    EXPECT_EQ(number_of_loading(write("huge.png", png)), error::out_of_memory);
 }
 
 } // namespace

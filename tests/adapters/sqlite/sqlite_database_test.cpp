@@ -1,10 +1,10 @@
 #include "adapters/sqlite/sqlite_database.h"
 
+#include "fakes/recording_platform.h"
 #include "platform/platform.h"
 #include "runtime/paths.h"
 #include "support/error_number.h"
 #include "support/places.h"
-#include "support/recording_platform.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ using test::number_of;
 using test::RecordingPlatform;
 
 struct SqliteDatabaseTest : testing::Test {
-    RecordingPlatform machine{true};
+    RecordingPlatform machine;
     std::unique_ptr<Database> database = make_sqlite_database();
     std::string file = machine.path("own.mdb");
 

@@ -1,9 +1,9 @@
 #include "scripted/cad.h"
 
-#include "runtime/error.h"
 #include "script/fault.h"
 #include "script/words.h"
 #include "scripted/cad_lines.h"
+#include "support/error_number.h"
 
 #include <filesystem>
 #include <fstream>
@@ -13,18 +13,9 @@
 namespace velmora::driver {
 namespace {
 
+using test::number_of;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-template <class Use>
-int error_of(Use use) {
-    try {
-        use();
-    } catch (const RuntimeError& failure) {
-        return failure.number;
-    }
-    return 0;
-}
 
 struct ScriptedCadTest : testing::Test {
     CadState state;
@@ -48,8 +39,8 @@ struct ScriptedCadTest : testing::Test {
 };
 
 TEST_F(ScriptedCadTest, is_not_there_at_first) {
-    EXPECT_EQ(error_of([&] { (void)cad.GetObject(); }), 429);
-    EXPECT_EQ(error_of([&] { cad.AppActivate(); }), 5);
+    EXPECT_EQ(number_of([&] { (void)cad.GetObject(); }), 429);
+    EXPECT_EQ(number_of([&] { cad.AppActivate(); }), 5);
     EXPECT_THAT(state.log, IsEmpty());
 }
 
@@ -97,10 +88,10 @@ TEST_F(ScriptedCadTest, lacks_the_members_of_other_shapes) {
     const auto document = open_drawing();
     line("line 1 2 3 4");
     line("other AcDbText");
-    EXPECT_EQ(error_of([&] { (void)document->Item(0)->Radius(); }), 438);
-    EXPECT_EQ(error_of([&] { (void)document->Item(0)->Coordinates(); }), 438);
-    EXPECT_EQ(error_of([&] { (void)document->Item(1)->StartPoint(); }), 438);
-    EXPECT_EQ(error_of([&] { (void)document->Item(2); }), 5);
+    EXPECT_EQ(number_of([&] { (void)document->Item(0)->Radius(); }), 438);
+    EXPECT_EQ(number_of([&] { (void)document->Item(0)->Coordinates(); }), 438);
+    EXPECT_EQ(number_of([&] { (void)document->Item(1)->StartPoint(); }), 438);
+    EXPECT_EQ(number_of([&] { (void)document->Item(2); }), 5);
 }
 
 TEST_F(ScriptedCadTest, colours_an_entity_of_any_class) {
@@ -144,7 +135,7 @@ TEST_F(ScriptedCadTest, opens_a_drawing_from_a_template_that_is_there) {
     (void)open_drawing();
     const std::string made = made_template();
     const auto application = cad.GetObject();
-    EXPECT_EQ(error_of([&] { application->Documents_Add("/nowhere/acad.dwt"); }), 53);
+    EXPECT_EQ(number_of([&] { application->Documents_Add("/nowhere/acad.dwt"); }), 53);
     EXPECT_EQ(application->Documents_Count(), 1);
     application->Documents_Add(made);
     EXPECT_EQ(application->Documents_Count(), 2);
@@ -159,7 +150,7 @@ TEST_F(ScriptedCadTest, answers_picks_in_order_and_ends_without_one) {
     };
     line("pick-error 80020009");
     line("pick 0 0");
-    EXPECT_EQ(error_of([&] { (void)document->GetPoint(""); }), -2147352567);
+    EXPECT_EQ(number_of([&] { (void)document->GetPoint(""); }), -2147352567);
     EXPECT_THAT(document->GetPoint(""), ElementsAre(0, 0, 0));
     EXPECT_THROW((void)document->GetPoint(""), ScriptFault);
 }
@@ -171,37 +162,37 @@ TEST_F(ScriptedCadTest, fails_once_where_a_script_says_so) {
     line("fail Item 80020009");
     line("fail Documents.Add 1F");
     line("fail Add 20");
-    EXPECT_EQ(error_of([&] { (void)document->Count(); }), 0);
-    EXPECT_EQ(error_of([&] { (void)document->Item(0); }), -2147352567);
-    EXPECT_EQ(error_of([&] { (void)document->Item(0); }), 0);
+    EXPECT_EQ(number_of([&] { (void)document->Count(); }), 0);
+    EXPECT_EQ(number_of([&] { (void)document->Item(0); }), -2147352567);
+    EXPECT_EQ(number_of([&] { (void)document->Item(0); }), 0);
     const auto application = cad.GetObject();
-    EXPECT_EQ(error_of([&] { application->Documents_Add(made); }), 31);
-    EXPECT_EQ(error_of([&] { application->Documents_Add(made); }), 32);
-    EXPECT_EQ(error_of([&] { application->Documents_Add(made); }), 0);
+    EXPECT_EQ(number_of([&] { application->Documents_Add(made); }), 31);
+    EXPECT_EQ(number_of([&] { application->Documents_Add(made); }), 32);
+    EXPECT_EQ(number_of([&] { application->Documents_Add(made); }), 0);
 }
 
 TEST_F(ScriptedCadTest, tells_counts_of_documents_and_entities_apart) {
     const auto document = open_drawing();
     const auto application = cad.GetObject();
     line("fail ModelSpace.Count 9");
-    EXPECT_EQ(error_of([&] { (void)application->Documents_Count(); }), 0);
-    EXPECT_EQ(error_of([&] { (void)document->Count(); }), 9);
+    EXPECT_EQ(number_of([&] { (void)application->Documents_Count(); }), 0);
+    EXPECT_EQ(number_of([&] { (void)document->Count(); }), 9);
     line("fail Count 9");
-    EXPECT_EQ(error_of([&] { (void)application->Documents_Count(); }), 9);
-    EXPECT_EQ(error_of([&] { (void)document->Count(); }), 0);
+    EXPECT_EQ(number_of([&] { (void)application->Documents_Count(); }), 9);
+    EXPECT_EQ(number_of([&] { (void)document->Count(); }), 0);
 }
 
 TEST_F(ScriptedCadTest, knows_a_member_by_its_class_too) {
     const auto document = open_drawing();
     line("circle 1 2 3");
     line("fail AcadModelSpace.Count 9");
-    EXPECT_EQ(error_of([&] { (void)cad.GetObject()->Documents_Count(); }), 0);
-    EXPECT_EQ(error_of([&] { (void)document->Count(); }), 9);
+    EXPECT_EQ(number_of([&] { (void)cad.GetObject()->Documents_Count(); }), 0);
+    EXPECT_EQ(number_of([&] { (void)document->Count(); }), 9);
     line("fail AcadApplication.Documents 8");
-    EXPECT_EQ(error_of([&] { (void)cad.GetObject()->Documents_Count(); }), 8);
+    EXPECT_EQ(number_of([&] { (void)cad.GetObject()->Documents_Count(); }), 8);
     line("fail AcadCircle.Center 7");
-    EXPECT_EQ(error_of([&] { (void)document->Item(0)->Radius(); }), 0);
-    EXPECT_EQ(error_of([&] { (void)document->Item(0)->Center(); }), 7);
+    EXPECT_EQ(number_of([&] { (void)document->Item(0)->Radius(); }), 0);
+    EXPECT_EQ(number_of([&] { (void)document->Item(0)->Center(); }), 7);
     EXPECT_THROW(line("fail AcadCircle.Add 7"), ScriptFault);
     EXPECT_THROW(line("fail AcadCircle 7"), ScriptFault);
 }
@@ -212,19 +203,19 @@ TEST_F(ScriptedCadTest, what_the_program_holds_goes_with_the_application) {
     line("line 1 2 3 4");
     const auto entity = document->Item(0);
     line("none");
-    EXPECT_EQ(error_of([&] { (void)application->Name(); }), 462);
-    EXPECT_EQ(error_of([&] { (void)document->Count(); }), 462);
-    EXPECT_EQ(error_of([&] { (void)entity->ObjectName(); }), 462);
-    EXPECT_EQ(error_of([&] { (void)cad.GetObject(); }), 429);
+    EXPECT_EQ(number_of([&] { (void)application->Name(); }), 462);
+    EXPECT_EQ(number_of([&] { (void)document->Count(); }), 462);
+    EXPECT_EQ(number_of([&] { (void)entity->ObjectName(); }), 462);
+    EXPECT_EQ(number_of([&] { (void)cad.GetObject(); }), 429);
     line("running AutoCAD 15.0");
-    EXPECT_EQ(error_of([&] { (void)application->Name(); }), 462);
+    EXPECT_EQ(number_of([&] { (void)application->Name(); }), 462);
     EXPECT_EQ(cad.GetObject()->Documents_Count(), 0);
 }
 
 TEST_F(ScriptedCadTest, a_closed_drawing_is_gone_and_the_application_stays) {
     const auto document = open_drawing();
     line("no-document");
-    EXPECT_EQ(error_of([&] { (void)document->Name(); }), 462);
+    EXPECT_EQ(number_of([&] { (void)document->Name(); }), 462);
     EXPECT_EQ(cad.GetObject()->Name(), "AutoCAD");
 }
 

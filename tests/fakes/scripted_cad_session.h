@@ -3,10 +3,12 @@
 
 #include "cad/connection.h"
 #include "document/session.h"
+#include "fakes/put_in_place.h"
+#include "fakes/recording_platform.h"
 #include "script/words.h"
 #include "scripted/cad.h"
 #include "scripted/cad_lines.h"
-#include "support/recording_platform.h"
+#include "support/outline.h"
 
 #include <gtest/gtest.h>
 #include <initializer_list>
@@ -15,8 +17,7 @@ namespace velmora::test {
 
 struct ScriptedCadSession : testing::Test {
     ScriptedCadSession() {
-        set_platform({machine.dialogs, machine.windows, machine.shell, machine.settings,
-                      *machine.database, machine.clock, machine.machine, machine.pic, cad});
+        put_in_place(cad);
         session.winoptions.TxtPutArc = "3";
         session.winoptions.TxtPutCircle = "4";
         state.no_pick = [] {
@@ -47,11 +48,6 @@ struct ScriptedCadSession : testing::Test {
         for (const ShownBox& box : machine.dialogs.boxes)
             texts.push_back(box.text);
         return texts;
-    }
-    static void set_shape(std::initializer_list<Pto> points) {
-        Forma.Pto.erase();
-        for (const Pto& point : points)
-            Forma.Pto.append(point);
     }
 };
 

@@ -182,12 +182,16 @@ class NoCad : public Autocad {
     void AppActivate() override;
 };
 
+struct WithDatabase {};
+inline constexpr WithDatabase with_database;
+
 /// The services of one test, installed for its life, with a fresh session and a folder of its own.
-/// The database is the real SQLite one on the program's own VELMORA.MDB, copied into the folder,
-/// opened unless `without_database`.
+/// The database is the real SQLite one, shut. A test that meets a message, a caption or a help text
+/// asks for the program's own tables: `RecordingPlatform machine{with_database};`.
 class RecordingPlatform {
   public:
-    explicit RecordingPlatform(bool without_database = false);
+    RecordingPlatform();
+    explicit RecordingPlatform(WithDatabase) : RecordingPlatform() { open_database(); }
     ~RecordingPlatform();
     RecordingPlatform(const RecordingPlatform&) = delete;
     RecordingPlatform& operator=(const RecordingPlatform&) = delete;
@@ -205,6 +209,8 @@ class RecordingPlatform {
     RecordingOutlines outlines;
     std::unique_ptr<Database> database;
 
+    /// Lays the program's own VELMORA.MDB into the folder and opens it, as the start does.
+    void open_database();
     /// Writes a file of the folder, bytes as they stand; its path as UTF-8 text.
     std::string write(const std::string& name, std::string_view bytes) const;
     /// The bytes of a file, by path.

@@ -1,4 +1,4 @@
-#include "support/recording_platform.h"
+#include "fakes/recording_platform.h"
 
 #include "adapters/sqlite/sqlite_database.h"
 #include "document/session.h"
@@ -237,7 +237,7 @@ void NoCad::AppActivate() {
     raise(error::invalid_call);
 }
 
-RecordingPlatform::RecordingPlatform(bool without_database) {
+RecordingPlatform::RecordingPlatform() {
     static std::atomic<unsigned> count = 0;
     const auto stamp = std::chrono::steady_clock::now().time_since_epoch().count();
     folder = std::filesystem::temp_directory_path() /
@@ -248,11 +248,12 @@ RecordingPlatform::RecordingPlatform(bool without_database) {
     set_platform({dialogs, windows, shell, settings, *database, clock, machine, pic, cad, nullptr,
                   &printer, &outlines});
     session.program_folder = runtime::path_text(folder);
-    if (!without_database) {
-        std::filesystem::copy_file(built_database(), folder / "VELMORA.MDB");
-        database->open(program_file("\\VELMORA.MDB"));
-        session.language_database_open = true;
-    }
+}
+
+void RecordingPlatform::open_database() {
+    std::filesystem::copy_file(built_database(), folder / "VELMORA.MDB");
+    database->open(program_file("\\VELMORA.MDB"));
+    session.language_database_open = true;
 }
 
 RecordingPlatform::~RecordingPlatform() {
