@@ -12,17 +12,10 @@
 namespace velmora {
 namespace {
 
+using test::numbered;
 using test::Points;
 using test::set_shape;
 using test::shape;
-
-/// Points whose X is their index; every third is a sync point, all have a stale mark.
-Points numbered(int count) {
-    Points points;
-    for (int i = 0; i < count; ++i)
-        points.push_back({static_cast<double>(i), 1, static_cast<std::int16_t>(i % 3 == 0), 1});
-    return points;
-}
 
 class DelNpto : public ::testing::Test {
   protected:
@@ -40,12 +33,7 @@ class DelNpto : public ::testing::Test {
             texts.push_back(box.text);
         return texts;
     }
-    static std::vector<double> places() {
-        std::vector<double> xs;
-        for (const Pto& point : shape())
-            xs.push_back(point.X);
-        return xs;
-    }
+    static std::vector<double> places() { return test::places(Forma.Pto); }
     test::RecordingPlatform platform_{test::with_database};
     DelNptoWindow& window_;
 };

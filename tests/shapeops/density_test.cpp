@@ -11,24 +11,11 @@ namespace velmora {
 namespace {
 
 using test::number_of;
+using test::numbered;
 using test::outline;
+using test::places;
 using test::Points;
 using test::points_of;
-
-/// Points whose X is their index; every third is a sync point, all have a stale mark.
-Points numbered(int count) {
-    Points points;
-    for (int i = 0; i < count; ++i)
-        points.push_back({static_cast<double>(i), 1, static_cast<std::int16_t>(i % 3 == 0), 1});
-    return points;
-}
-
-std::vector<double> places(const Array<Pto>& outline) {
-    std::vector<double> xs;
-    for (const Pto& point : outline.all())
-        xs.push_back(point.X);
-    return xs;
-}
 
 Points multiplied(const Points& points, std::int32_t parts) {
     Array<Pto> array = outline(points);

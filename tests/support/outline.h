@@ -45,4 +45,20 @@ inline Points shape() {
     return points_of(Forma.Pto);
 }
 
+/// Points whose X is their index; every third is a sync point, all have a stale mark.
+inline Points numbered(int count) {
+    Points points;
+    for (int i = 0; i < count; ++i)
+        points.push_back({static_cast<double>(i), 1, static_cast<std::int16_t>(i % 3 == 0), 1});
+    return points;
+}
+
+/// The X of each point, which tell numbered points apart.
+inline std::vector<double> places(const Array<Pto>& array) {
+    std::vector<double> xs;
+    for (const Pto& point : array.all())
+        xs.push_back(point.X);
+    return xs;
+}
+
 } // namespace velmora::test
