@@ -47,7 +47,7 @@ void tell_of_losses(const std::string& path, const Format& format) {
     const std::size_t lost = format.takes == nullptr ? 0 : lines_passed_over(path, format.takes);
     if (lost == 0)
         return;
-    std::string text = GetMensaje(message::lines_passed_over);
+    std::string text = quiet_text(message::lines_passed_over);
     text.replace(std::min(text.find("{n}"), text.size()), 3, CStr(Forma.Pto.upper() + 1));
     text.replace(std::min(text.find("{m}"), text.size()), 3, std::to_string(lost));
     state::Velmora.lbl_notice = text;

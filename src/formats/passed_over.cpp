@@ -1,7 +1,7 @@
 #include "formats/passed_over.h"
 
 #include "runtime/error.h"
-#include "runtime/files.h"
+#include "runtime/file_table.h"
 
 namespace velmora {
 

@@ -176,9 +176,12 @@ void offer_import_choices(const imports::Imported& imported, const ImportWords& 
     window.Txt_Scale.enabled = window.Txt_Chord.enabled = found;
 }
 
-// The two sides of a four-axis program run together: they begin where the program begins.
-void choose_usual_start(Kind kind, const ImportWords& words) {
-    state::importar.Cmb_Start.chosen = words.text(kind == Kind::gcode ? "as_found" : "start_edge");
+// The two sides of a four-axis program run together: they begin where the program begins, and where
+// one side waits for the other its point stands as often.
+void choose_usual_order(Kind kind, const ImportWords& words) {
+    const bool program = kind == Kind::gcode;
+    state::importar.Cmb_Start.chosen = words.text(program ? "as_found" : "start_edge");
+    state::importar.Chk_Doubles = !program;
 }
 
 std::optional<double> number_in(const std::string& box) {

@@ -12,8 +12,8 @@ namespace velmora {
 void fill_import_lists(const ImportWords& words);
 /// What the file that was read leaves to choose; its kind is chosen where it could be told.
 void offer_import_choices(const imports::Imported& imported, const ImportWords& words);
-/// The start of the cut for a kind, before a person chooses one.
-void choose_usual_start(imports::Kind kind, const ImportWords& words);
+/// The start of the cut and the doubles for a kind, before a person chooses.
+void choose_usual_order(imports::Kind kind, const ImportWords& words);
 
 /// Every box holds nothing or a number that it can take.
 [[nodiscard]] bool import_boxes_hold_numbers();

@@ -206,7 +206,7 @@ void read_again(const ImportWords& words) {
     offer_import_choices(imported, words);
     window.kind_text = words.text("kind_" + std::string(kind_name(imported.kind)));
     if (first || kind != window.kind_text) {
-        choose_usual_start(imported.kind, words);
+        choose_usual_order(imported.kind, words);
         window.Lst_Chains.clear();
     }
     window.title = imported.title;

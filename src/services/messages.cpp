@@ -71,6 +71,12 @@ std::string GetMensaje(int codigo) {
     return look_up(codigo).text;
 }
 
+std::string quiet_text(int codigo) {
+    if (!mensajes())
+        return look_up(codigo).text;
+    return find(codigo) ? trimmed_field("Descripcion") : std::string{};
+}
+
 int MuestraMensaje(int codigo) {
     Message message = look_up(codigo);
     if (message.text.empty()) {

@@ -9,6 +9,9 @@ namespace velmora {
 /// language database is not open, 3078 when it has no table Mensajes.
 [[nodiscard]] std::string GetMensaje(int codigo);
 
+/// The same without the hourglass, for a note beside a command that has looked its own texts up.
+[[nodiscard]] std::string quiet_text(int codigo);
+
 /// Shows a message with the buttons and title of its row and returns the answer. A missing text
 /// becomes "Error de Tabla de Idiomas" with the exclamation icon. Raises as GetMensaje does.
 int MuestraMensaje(int codigo);

@@ -163,7 +163,7 @@ TEST(mnuRecentFile, a_path_that_is_gone_is_reported_and_stays_in_the_list) {
 }
 
 TEST(open_named, opens_as_a_recent_file_does) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     const std::string path = platform.write("wing.dat", triangle_file());
     open_named(path);
     EXPECT_EQ(session.TotalPtos, 3);

@@ -126,26 +126,23 @@ TEST_F(AdjustmentTest, a_merged_run_overwrites_the_last_point_of_the_equal_run_b
 
 TEST_F(AdjustmentTest, the_projection_carries_each_pair_outward) {
     set_sides(kEqualMergedA, kEqualMergedB);
-    session.OptX = 100;
-    session.OptY = 50;
-    session.OptZ = 400;
     adjust();
-    project_results();
+    const TwoSides moved = projected(session.PtosA2, session.PtosB2, {.X = 100, .Y = 50, .Z = 400});
 
-    EXPECT_EQ(points_of(session.PtosA2), (Points{{0, -1.25},
-                                                 {12.5, 3},
-                                                 {12.5, -1.25, 1},
-                                                 {4.75, 0.6875},
-                                                 {6.180127250325707, -0.25},
-                                                 {6.75, 1},
-                                                 {1.75, -0.25}}));
-    EXPECT_EQ(points_of(session.PtosB2), (Points{{0, 2.125},
-                                                 {5.75, 3},
-                                                 {5.75, 2.125, 1},
-                                                 {8.125, 1.53125},
-                                                 {2.9099363748371463, 3.125},
-                                                 {-3.375, 1},
-                                                 {5.125, 3.125}}));
+    EXPECT_EQ(points_of(moved.A), (Points{{0, -1.25},
+                                          {12.5, 3},
+                                          {12.5, -1.25, 1},
+                                          {4.75, 0.6875},
+                                          {6.180127250325707, -0.25},
+                                          {6.75, 1},
+                                          {1.75, -0.25}}));
+    EXPECT_EQ(points_of(moved.B), (Points{{0, 2.125},
+                                          {5.75, 3},
+                                          {5.75, 2.125, 1},
+                                          {8.125, 1.53125},
+                                          {2.9099363748371463, 3.125},
+                                          {-3.375, 1},
+                                          {5.125, 3.125}}));
 }
 
 TEST_F(AdjustmentTest, one_sync_point_makes_one_run_over_the_end_of_the_array) {
@@ -224,12 +221,11 @@ TEST_F(AdjustmentTest, each_run_is_told_before_it_is_made) {
 
 TEST_F(AdjustmentTest, Sinc_and_Marca_outlive_the_projection) {
     set_sides(kThree, kFive);
-    session.OptX = session.OptY = session.OptZ = 2;
     adjust();
-    project_results();
-    EXPECT_EQ(session.PtosA2[0].Sinc, 1);
-    EXPECT_EQ(session.PtosB2[0].Sinc, 1);
-    EXPECT_EQ(session.PtosA2[1].Sinc, 0);
+    const TwoSides moved = projected(session.PtosA2, session.PtosB2, {.X = 2, .Y = 2, .Z = 2});
+    EXPECT_EQ(moved.A[0].Sinc, 1);
+    EXPECT_EQ(moved.B[0].Sinc, 1);
+    EXPECT_EQ(moved.A[1].Sinc, 0);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "remote_cad_session.h"
 
+#include "fakes/put_in_place.h"
+
 namespace velmora::test {
 
 RemoteCadSession::RemoteCadSession() {

@@ -3,8 +3,8 @@
 #include "cutprep/side_writer.h"
 #include "document/session.h"
 #include "formats/file_passes.h"
+#include "formats/outline_writer.h"
 #include "formats/recovery.h"
-#include "formats/save.h"
 #include "hampered.h"
 #include "place.h"
 #include "platform/settings_store.h"
@@ -183,7 +183,8 @@ TEST_F(HamperedTest, the_two_files_of_the_workbench_are_kept_each) {
             place.put("punta2.DAT", other_old);
         };
         const auto write = [] {
-            write_results(side_of("A"), side_of("B"), false);
+            write_results({session.PtosA2, session.ajuste.Txt_File_A2},
+                          {session.PtosB2, session.ajuste.Txt_File_B2}, false);
         };
         prepare();
         write();

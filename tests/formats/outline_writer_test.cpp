@@ -2,13 +2,13 @@
 
 #include "document/session.h"
 #include "fakes/recording_platform.h"
+#include "fakes/watching.h"
 #include "formats/fixed_record_readers.h"
 #include "formats/load.h"
 #include "formats/sample_files.h"
 #include "platform/dialogs.h"
 #include "runtime/paths.h"
 #include "support/unprivileged.h"
-#include "support/watching.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -272,7 +272,7 @@ TEST(EscribeFichero, a_device_is_no_place_for_a_file) {
 }
 
 TEST(EscribeFichero, a_link_gives_way_to_the_file_as_any_other_earlier_file) {
-    RecordingPlatform platform;
+    RecordingPlatform platform{test::with_database};
     platform.shell.recycle_fails = true;
     platform.write("lejos.dat", "kept");
     std::filesystem::create_symlink("lejos.dat", platform.folder / "wing.dat");
@@ -312,7 +312,7 @@ TEST(EscribeFichero, a_fault_leaves_the_earlier_file_and_the_number_of_another_u
 
 TEST(EscribeFichero, the_earlier_file_stands_until_the_new_one_is_whole) {
     for (const Form form : {Form::sync_dat, Form::script, Form::profile}) {
-        RecordingPlatform platform;
+        RecordingPlatform platform{test::with_database};
         choose(form);
         const std::string path = platform.write("wing.dat", "old");
         triangle(path);

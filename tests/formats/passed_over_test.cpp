@@ -2,9 +2,9 @@
 
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "formats/point_lines.h"
 #include "formats/sample_files.h"
-#include "fakes/recording_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ namespace velmora {
 namespace {
 
 struct PassedOverTest : testing::Test {
-    test::RecordingPlatform platform;
+    test::RecordingPlatform platform{test::with_database};
 
     std::string notice_of(const std::string& name, std::string_view bytes) {
         session.Velmora.lbl_notice = "old";
@@ -48,7 +48,7 @@ TEST_F(PassedOverTest, a_file_that_opens_with_losses_is_followed_by_a_note) {
 TEST_F(PassedOverTest, the_note_speaks_each_language) {
     for (const auto& [language, words] :
          {std::pair("I", "3 points; 2 lines with numbers passed over; Import reads them"),
-          {"F", "3 points ; 2 lignes avec des nombres passées ; Importer les lit"},
+          {"F", "3 points ; 2 lignes avec des nombres passées ; Importer les lit"},
           {"P", "3 pontos; 2 linhas com números ignoradas; Importar lê-as"},
           {"T", "3 punti; 2 righe con numeri saltate; Importa le legge"}}) {
         session.Idioma = language;

@@ -2,11 +2,11 @@
 
 #include "commands/handlers.h"
 #include "document/session.h"
+#include "fakes/recording_platform.h"
 #include "forms/import_choices.h"
 #include "import/dxf_text.h"
 #include "platform/dialogs.h"
 #include "support/outline.h"
-#include "fakes/recording_platform.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,6 +17,7 @@ namespace velmora {
 namespace {
 
 using imports::as_text;
+using imports::operator+;
 using imports::drawing;
 using imports::dxf_line;
 using testing::ElementsAre;
@@ -58,7 +59,7 @@ class ImportarTest : public testing::Test {
         return texts;
     }
 
-    test::RecordingPlatform platform_;
+    test::RecordingPlatform platform_{test::with_database};
     ImportarWindow& window_;
 };
 
@@ -128,7 +129,7 @@ TEST_F(ImportarTest, of_many_lines_alike_the_first_are_shown_and_how_many_more_t
     for (int i = 0; i < 20; ++i)
         text += "nada\n";
     take("cuna.dat", text);
-    EXPECT_THAT(window_.Txt_Report, HasSubstr("línea 16: pasada por alto: nada\n… y 16 más"));
+    EXPECT_THAT(window_.Txt_Report, HasSubstr("línea 16: pasada por alto: nada\n... y 16 más"));
     EXPECT_THAT(window_.Txt_Report, testing::Not(HasSubstr("línea 17:")));
 }
 
@@ -197,8 +198,9 @@ TEST_F(ImportarTest, a_wider_gap_closes_the_drawing) {
 
 TEST_F(ImportarTest, a_finer_tolerance_gives_more_points_and_keeps_what_is_taken) {
     take("circulo.dxf",
-         as_text(drawing({{0, "CIRCLE"}, {8, "0"}, {10, "0"}, {20, "0"}, {40, "50"}} +
-                         dxf_line("100", "0", "110", "0"))));
+         as_text(
+             drawing(imports::DxfPairs{{0, "CIRCLE"}, {8, "0"}, {10, "0"}, {20, "0"}, {40, "50"}} +
+                     dxf_line("100", "0", "110", "0"))));
     importar_chain_Click(1);
     importar_chain_Click(0);
     const std::size_t before = window_.Lst_Chains[0].points.size();
@@ -373,7 +375,7 @@ TEST_F(ImportarTest, the_command_shows_the_outline_like_an_opened_file) {
     EXPECT_EQ(session.wininfo.TxtTotalPtos, "4");
     EXPECT_EQ(session.wininfo.TxtTotalCtrlPtos, "1");
     EXPECT_EQ(session.Velmora.Lst_Coords.size(), 4U);
-    EXPECT_EQ(session.Velmora.StatusBar1, "Cargado: DIBUJO.DATTipo: DXF");
+    EXPECT_THAT(platform_.windows.statuses, testing::Contains("Cargado: DIBUJO.DATTipo: DXF"));
     EXPECT_FALSE(platform_.settings.get("RecentFiles", "RecentFile1").has_value());
     EXPECT_FALSE(std::filesystem::exists(platform_.path("dibujo.dat")));
     EXPECT_TRUE(window_.bytes.empty());

@@ -164,7 +164,7 @@ TEST_F(SettingsTest, the_sound_and_the_version_have_ways_of_their_own) {
 }
 
 TEST(GuardaSettings, tells_where_they_can_not_be_kept) {
-    RecordingPlatform machine;
+    RecordingPlatform machine{test::with_database};
     struct FullDisk : test::MemorySettings {
         bool keep() override { return false; }
         std::string place() const override { return "/casa/Velmora.conf"; }

@@ -109,9 +109,7 @@ TEST_F(TranslationsTest, every_table_has_the_Spanish_rows_in_every_language) {
 
 // An apostrophe would break the statements that rebuild a window's table.
 TEST_F(TranslationsTest, texts_keep_within_their_fields_and_have_no_apostrophe) {
-    std::vector<std::string> tables = form_tables();
-    tables.emplace_back("Mensajes");
-    for (const std::string& table : tables) {
+    for (const std::string& table : form_tables()) {
         for (const char* language : kTranslations) {
             for (const auto& [key, row] : rows(table, language)) {
                 const std::string place = table + ' ' + language + ' ' + key;
@@ -208,7 +206,8 @@ const std::map<std::string, std::set<std::string>> kAsks = {
     {"Velmora",
      {"mnu_newfile", "mnu_openfile", "mnu_savefileas", "mnu_paramgenerales", "Mult_Points_Shape",
       "mnu_loadimg", "mnu_scale_xy", "mnu_seltexto", "mnu_corrpoltrap", "mnu_paralela",
-      "Delete_N_Ptos", "Rotate"}},
+      "Delete_N_Ptos", "Rotate", "mnu_importar"}},
+    {"importar", {"Cmd_File"}},
     {"ajuste", {"cmd_selA", "cmd_selB", "cmd_opt"}},
     {"seltexto", {"cmd_font"}},
 };
@@ -221,11 +220,9 @@ TEST_F(TranslationsTest, what_opens_a_dialog_ends_in_an_ellipsis) {
                     << table << ' ' << language << ' ' << key;
 }
 
-// The Spanish texts are given with three points.
+// The Spanish texts and the messages are given with three points.
 TEST_F(TranslationsTest, a_language_has_one_form_of_the_ellipsis) {
-    std::vector<std::string> tables = form_tables();
-    tables.emplace_back("Mensajes");
-    for (const std::string& table : tables) {
+    for (const std::string& table : form_tables()) {
         for (const char* language : {"E", "I", "F", "P", "T"}) {
             const std::string other = language == std::string("E") ? "…" : "...";
             for (const auto& [key, row] : rows(table, language))

@@ -20,6 +20,7 @@ namespace velmora::test {
 namespace {
 
 using imports::as_text;
+using imports::operator+;
 using imports::drawing;
 using imports::dxf_line;
 using testing::ElementsAre;
@@ -50,6 +51,8 @@ class ImportarDialogTest : public DialogsTest {
     void drop(const std::string& file) {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file))});
+        QDragEnterEvent entering({20, 20}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window("importar"), &entering);
         QDropEvent event(QPointF(20, 20), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(window("importar"), &event);
         settle();
