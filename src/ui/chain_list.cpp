@@ -49,6 +49,7 @@ ChainList::ChainList(QWidget* parent) : QListView(parent) {
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
     setUniformItemSizes(true);
+    setIconSize({fontMetrics().ascent(), fontMetrics().ascent()});
     connect(this, &QListView::clicked, this,
             [this](const QModelIndex& row) { emit chain_clicked(row.row()); });
 }

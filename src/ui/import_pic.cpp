@@ -144,7 +144,7 @@ void ImportPic::draw_chain(QPainter& painter, const ImportarChain& chain, const 
     painter.drawPolyline(line);
 }
 
-/// The place among those taken, at the middle of the chain's points: its start has a mark already.
+/// The place among those taken, in the middle of a segment: the start of the cut is a point.
 void ImportPic::draw_number(QPainter& painter, const ImportarChain& chain,
                             const QColor& colour) const {
     if (chain.taken == 0 || chain.points.empty())
@@ -152,7 +152,9 @@ void ImportPic::draw_number(QPainter& painter, const ImportarChain& chain,
     const QString text = QString::number(chain.taken);
     QRectF box = painter.fontMetrics().boundingRect(text);
     box = box.marginsAdded({5, 2, 5, 2});
-    box.moveCenter(place(chain.points[chain.points.size() / 2]));
+    const std::size_t middle = (chain.points.size() - 1) / 2;
+    const std::size_t next = (middle + 1) % chain.points.size();
+    box.moveCenter((place(chain.points[middle]) + place(chain.points[next])) / 2);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
     painter.drawRoundedRect(box, 4, 4);

@@ -4,11 +4,15 @@
 #include "toolkit/qt_text.h"
 #include "ui/file_drop.h"
 
+#include <QScreen>
 #include <QSignalBlocker>
 
 namespace velmora {
 
 namespace {
+
+constexpr QSize kSizeAtStart(980, 640);
+constexpr QSize kFrame(20, 60); // of the desktop, at the most
 
 void fill(QComboBox& box, const ImportarList& list) {
     const QSignalBlocker quiet(box);
@@ -120,6 +124,16 @@ void ImportarDialog::on_choice(QComboBox& box, void (*handler)()) {
 
 void ImportarDialog::Load() {
     importar_Load();
+}
+
+/// The picture takes what the screen has, up to a size at which it is easy to look at.
+void ImportarDialog::place() {
+    const QRect screen = widget().screen()->availableGeometry();
+    const QSize size = kSizeAtStart.boundedTo(screen.size() - kFrame);
+    widget().resize(size.expandedTo(widget().minimumSizeHint()));
+    QRect frame(QPoint(), widget().size());
+    frame.moveCenter(screen.center());
+    widget().move(frame.topLeft());
 }
 
 } // namespace velmora

@@ -13,6 +13,7 @@ class ImportarDialog : public FormWindow<Ui::importar> {
     explicit ImportarDialog(EventSink& events);
 
     void Load() override;
+    void place() override;
 
   private:
     void bind();
