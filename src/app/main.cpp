@@ -4,6 +4,7 @@
 #include "commands/handlers.h"
 #include "document/state/program.h"
 #include "runtime/paths.h"
+#include "ui/program_style.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -49,6 +50,7 @@ int main(int argc, char** argv) {
     }
     QApplication application(argc, argv);
     QApplication::setApplicationName("Velmora");
+    QApplication::setStyle(new velmora::ProgramStyle);
     const auto line = velmora::command_line_of(words_of(QApplication::arguments()));
     if (!line.fault.empty()) {
         std::cerr << "velmora: " << line.fault << '\n';

@@ -53,8 +53,13 @@ void compare_sync_totals() {
         MuestraMensaje(message::sync_totals_differ);
 }
 
+std::string file_name(const std::string& path) {
+    return path.substr(path.find_last_of("/\\") + 1);
+}
+
 void select_side(const Side& side, std::string& file, const Side& other, void (*draw)()) {
     state::ajuste.cmd_opt_enabled = false;
+    state::ajuste.lbl_estado.clear();
     const std::string path = ask_for_path();
     if (path.empty())
         return;
@@ -69,6 +74,13 @@ void select_side(const Side& side, std::string& file, const Side& other, void (*
 void empty_results() {
     state::workbench.PtosA2.redim(0);
     state::workbench.PtosB2.redim(0);
+}
+
+/// Beside the buttons, since the window hides the main one's panel: the names of the two files.
+void confirm_save() {
+    state::ajuste.lbl_estado = quiet_text(message::results_saved) + " " +
+                               file_name(state::ajuste.Txt_File_A2) + ", " +
+                               file_name(state::ajuste.Txt_File_B2);
 }
 
 void adjust() {
@@ -136,12 +148,14 @@ void Cmd_Ajuste_Click() {
 
 void Cmd_save_Click() {
     AjusteWindow& window = state::ajuste;
+    window.lbl_estado.clear();
     window.cmd_exit_enabled = false;
     set_pointer(kHourglass);
     write_results({state::workbench.PtosA2, window.Txt_File_A2},
                   {state::workbench.PtosB2, window.Txt_File_B2}, window.ChkPtosCtrl);
     set_pointer(kDefaultPointer);
     window.cmd_exit_enabled = true;
+    confirm_save();
 }
 
 void ajuste_cmd_exit_Click() {

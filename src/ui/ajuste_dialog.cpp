@@ -5,8 +5,17 @@
 #include "platform/platform.h"
 
 #include <QEvent>
+#include <string_view>
 
 namespace velmora {
+
+namespace {
+
+bool is_count(std::string_view text) {
+    return !text.empty() && text.front() >= '0' && text.front() <= '9';
+}
+
+} // namespace
 
 AjusteDialog::AjusteDialog(EventSink& events) : FormWindow(events) {
     bind_sides();
@@ -86,10 +95,10 @@ void AjusteDialog::bind_status() {
     AjusteWindow& state = state::ajuste;
     bindings().label(*ui.lbl_estado, state.lbl_estado);
     bindings().shows<bool>([&state] { return !state.lbl_estado.empty(); },
-                           [this](bool working) {
-                               ui.lbl_tramo->setVisible(working);
-                               ui.lbl_estado->setVisible(working);
-                           });
+                           [this](bool told) { ui.lbl_estado->setVisible(told); });
+    // "3 / 200" is the run at work; anything else stands for itself.
+    bindings().shows<bool>([&state] { return is_count(state.lbl_estado); },
+                           [this](bool working) { ui.lbl_tramo->setVisible(working); });
 }
 
 void AjusteDialog::wire() {

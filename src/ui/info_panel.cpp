@@ -13,7 +13,6 @@ constexpr int kPictureSize = 24;
 
 InfoPanel::InfoPanel(EventSink& events, SideGround& ground) : SidePanel(events, ground, kRow) {
     ui.Image1->setPixmap(app_icon().pixmap(kPictureSize));
-    colour_boxes();
     bind();
     list_controls(
         {"TxtAcadFile",  "TxtOpensw",       "txtAcadVer",       "Frame3",     "TxtNArcs",
@@ -50,19 +49,6 @@ void InfoPanel::bind() {
         bindings().shows<std::uint32_t>([colour] { return *colour; },
                                         [lamp](std::uint32_t shown) { lamp->set_colour(shown); });
     bind_height(wininfo_height, state.rolled_up);
-}
-
-void InfoPanel::colour_boxes() {
-    QPalette palette;
-    palette.setColor(QPalette::Base, widget().palette().color(QPalette::Window));
-    for (auto* box : widget().findChildren<QLineEdit*>())
-        box->setPalette(palette);
-}
-
-bool InfoPanel::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == &widget() && event->type() == QEvent::PaletteChange)
-        colour_boxes();
-    return SidePanel::eventFilter(watched, event);
 }
 
 void InfoPanel::Load() {

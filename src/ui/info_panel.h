@@ -15,13 +15,8 @@ class InfoPanel : public SidePanel<Ui::wininfo> {
     void Activate() override;
     void Deactivate() override;
 
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
   private:
     void bind();
-    /// The boxes lie on the window's colour, as what only shows does.
-    void colour_boxes();
 };
 
 } // namespace velmora

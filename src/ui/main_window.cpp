@@ -5,13 +5,14 @@
 #include "document/windows/velmora.h"
 #include "forms/velmora.h"
 #include "ui/file_drop.h"
+#include "ui/program_style.h"
 #include "ui/shortcuts_first.h"
 
 #include <QApplication>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
-#include <utility>
+#include <tuple>
 
 namespace velmora {
 
@@ -51,6 +52,10 @@ MainWindow::MainWindow(EventSink& events, ShownImage& canvas)
     ui.split->setStretchFactor(1, 1);
     ui.split->setSizes({kListShare, kSizeAtStart.width() - kListShare});
     ui.Lst_Coords->show_rows_of(state::Velmora);
+    // The panel round the canvas shows its focus: on the canvas itself every dot has its meaning.
+    ui.SSPanel1->setProperty(kFocusRing, true);
+    QObject::connect(qApp, &QApplication::focusChanged, ui.SSPanel1,
+                     [panel = ui.SSPanel1] { panel->update(); });
     add_parts_without_a_look();
     add_status_bar();
     bind();
@@ -68,8 +73,11 @@ void MainWindow::add_parts_without_a_look() {
 
 void MainWindow::add_status_bar() {
     ui.StatusBar1->addWidget(&status_, 1);
-    for (auto [bar, name] : {std::pair(&pbar1_, "Pbar1"), std::pair(&pbar2_, "pbar2")}) {
+    for (auto [bar, name, tip] : {std::tuple(&pbar1_, "Pbar1", "Progreso"),
+                                  std::tuple(&pbar2_, "pbar2", "Progreso de la lectura")}) {
         bar->setObjectName(name);
+        bar->setToolTip(tip);
+        bar->setAccessibleName(tip);
         bar->setTextVisible(false);
         bar->setFixedWidth(bar->fontMetrics().horizontalAdvance('0') * 12);
         bar->setMaximumHeight(bar->fontMetrics().height());

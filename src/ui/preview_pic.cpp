@@ -1,6 +1,7 @@
 #include "ui/preview_pic.h"
 
 #include "canvas/colours.h"
+#include "toolkit/contrast.h"
 #include "toolkit/line_clip.h"
 
 #include <QPainter>
@@ -13,6 +14,8 @@ namespace {
 
 constexpr double kTwipsToThePixel = 15;
 constexpr double kLineWidth = 1;
+/// The colours of the marks are meant for a light ground; a dark theme has them lighter.
+constexpr double kLeastContrast = 3;
 /// Beyond the sheet's edges, so that the end of a clipped line doesn't show.
 constexpr double kClipMargin = 8;
 
@@ -68,6 +71,14 @@ void PreviewPic::paintEvent(QPaintEvent* event) {
     QFrame::paintEvent(event);
 }
 
+void PreviewPic::changeEvent(QEvent* event) {
+    QFrame::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    sheet_ = {};
+    update();
+}
+
 void PreviewPic::fit_sheet() {
     const QSizeF size = QSizeF(contentsRect().size()) * devicePixelRatioF();
     const QSize pixels(static_cast<int>(std::ceil(size.width())),
@@ -76,8 +87,7 @@ void PreviewPic::fit_sheet() {
         return;
     sheet_ = QPixmap(pixels);
     sheet_.setDevicePixelRatio(devicePixelRatioF());
-    // Paper in every theme: the colours of the marks are meant for a light ground.
-    sheet_.fill(Qt::white);
+    sheet_.fill(palette().color(QPalette::Base));
     painted_ = 0;
 }
 
@@ -97,10 +107,12 @@ void PreviewPic::bring_up_to_date() {
     QPainter painter(&sheet_);
     painter.setRenderHint(QPainter::Antialiasing);
     const QTransform transform = to_sheet();
+    const QColor paper = palette().color(QPalette::Base);
     const QRectF sheet(QPointF(), QSizeF(contentsRect().size()));
     for (; painted_ < marks_.size(); ++painted_) {
         const Mark& mark = marks_[painted_];
-        painter.setPen(QPen(QColor::fromRgb(mark.colour), kLineWidth));
+        painter.setPen(
+            QPen(standing_out(QColor::fromRgb(mark.colour), paper, kLeastContrast), kLineWidth));
         const QPointF place = transform.map(QPointF(mark.x1, mark.y1));
         const double radius = mark.radius * transform.m11();
         const double margin = radius + kClipMargin;

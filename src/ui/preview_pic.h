@@ -27,6 +27,7 @@ class PreviewPic : public QFrame, public PreviewSurface {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     /// A segment, or a circle round its first end.

@@ -2,6 +2,7 @@
 // that the process runs at. velmora-pictures --sheet FOLDER: the contact sheet of what lies there.
 #include "pictures/contact_sheet.h"
 #include "pictures/gallery.h"
+#include "ui/program_style.h"
 
 #include <QApplication>
 #include <cstdio>
@@ -10,7 +11,7 @@ int main(int argc, char** argv) {
     using namespace velmora::pictures;
     QApplication application(argc, argv);
     QApplication::setApplicationName("Velmora");
-    QApplication::setStyle("fusion");
+    QApplication::setStyle(new velmora::ProgramStyle("fusion"));
     QFont font("DejaVu Sans"); // the same pixels on every machine
     font.setPointSize(10);
     QApplication::setFont(font);

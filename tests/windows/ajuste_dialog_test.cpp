@@ -188,6 +188,9 @@ TEST_F(AjusteDialogTest, an_adjusted_pair_is_shown_and_saved) {
         click("Cmd_save");
         EXPECT_TRUE(QFile::exists(QString::fromStdString(path("raiz2.DAT"))));
         EXPECT_TRUE(QFile::exists(QString::fromStdString(path("punta2.DAT"))));
+        EXPECT_EQ(part<QLabel>("lbl_estado").text(), "Guardados: raiz2.DAT, punta2.DAT");
+        EXPECT_TRUE(part<QLabel>("lbl_estado").isVisible());
+        EXPECT_FALSE(part<QLabel>("lbl_tramo").isVisible());
         picture(*window("ajuste"), "ajuste-adjusted");
     });
 }

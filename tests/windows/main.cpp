@@ -1,4 +1,6 @@
 // Runs the window tests in one application, without a display unless the platform says otherwise.
+#include "ui/program_style.h"
+
 #include <QApplication>
 #include <gtest/gtest.h>
 
@@ -7,7 +9,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     QApplication::setApplicationName("Velmora");
-    QApplication::setStyle("fusion");
+    QApplication::setStyle(new velmora::ProgramStyle("fusion"));
     // The same pixels on every machine.
     QFont font("DejaVu Sans");
     font.setPointSize(10);
