@@ -12,6 +12,7 @@ constexpr int kPictureSize = 24;
 } // namespace
 
 InfoPanel::InfoPanel(EventSink& events, SideGround& ground) : SidePanel(events, ground, kRow) {
+    ui.Image1->setAccessibleName("Velmora");
     ui.Image1->setPixmap(app_icon().pixmap(kPictureSize));
     bind();
     list_controls(

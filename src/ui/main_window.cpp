@@ -53,9 +53,12 @@ MainWindow::MainWindow(EventSink& events, ShownImage& canvas)
     ui.split->setSizes({kListShare, kSizeAtStart.width() - kListShare});
     ui.Lst_Coords->show_rows_of(state::Velmora);
     // The panel round the canvas shows its focus: on the canvas itself every dot has its meaning.
-    ui.SSPanel1->setProperty(kFocusRing, true);
-    QObject::connect(qApp, &QApplication::focusChanged, ui.SSPanel1,
-                     [panel = ui.SSPanel1] { panel->update(); });
+    // A list without a chosen row has nothing else to show it by.
+    for (QWidget* framed :
+         {static_cast<QWidget*>(ui.SSPanel1), static_cast<QWidget*>(ui.Lst_Coords)}) {
+        framed->setProperty(kFocusRing, true);
+        QObject::connect(qApp, &QApplication::focusChanged, framed, [framed] { framed->update(); });
+    }
     add_parts_without_a_look();
     add_status_bar();
     bind();

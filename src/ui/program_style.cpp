@@ -78,8 +78,9 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawControl(element, option, painter, widget);
+    const QWidget* focus = QApplication::focusWidget();
     if (element == CE_ShapedFrame && widget != nullptr && widget->property(kFocusRing).toBool() &&
-        QApplication::focusWidget() != nullptr && widget->isAncestorOf(QApplication::focusWidget()))
+        focus != nullptr && (widget == focus || widget->isAncestorOf(focus)))
         draw_ring(*option, *painter);
 }
 

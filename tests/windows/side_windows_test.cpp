@@ -138,8 +138,11 @@ TEST_F(SideWindowsTest, information_follows_the_desktops_colours) {
     QPalette dark;
     dark.setColor(QPalette::Window, QColor("#202327"));
     window("wininfo")->setPalette(dark);
-    for (const QLineEdit* shown : window("wininfo")->findChildren<QLineEdit*>())
-        EXPECT_EQ(shown->palette().color(QPalette::Base), QColor("#202327"));
+    windows().activate("wininfo");
+    settle();
+    auto& shown = control<QLineEdit>("wininfo", "TxtTotalPtos");
+    shown.setText("");
+    EXPECT_EQ(shown.grab().toImage().pixelColor(shown.rect().center()), QColor("#202327"));
 }
 
 TEST_F(SideWindowsTest, a_window_rolls_up_when_another_takes_the_activation_unless_pinned) {
