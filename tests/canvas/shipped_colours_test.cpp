@@ -1,8 +1,8 @@
 // The colours that the program comes with, on the ground that it comes with.
 #include "canvas/colours.h"
 #include "document/state/settings.h"
+#include "fakes/recording_platform.h"
 #include "services/settings.h"
-#include "support/recording_platform.h"
 
 #include <algorithm>
 #include <cmath>
@@ -31,7 +31,7 @@ double contrast(std::uint32_t one, std::uint32_t other) {
 struct ShippedColours : testing::Test {
     ShippedColours() { LeeSettings(); }
 
-    test::RecordingPlatform machine{true};
+    test::RecordingPlatform machine{test::with_database};
     const SettingState& shown = state::settings;
 };
 
