@@ -3,6 +3,7 @@
 #include "forms/importar.h"
 #include "toolkit/qt_text.h"
 #include "ui/file_drop.h"
+#include "ui/program_style.h"
 
 #include <QScreen>
 #include <QSignalBlocker>
@@ -33,6 +34,9 @@ ImportarDialog::ImportarDialog(EventSink& events) : FormWindow(events) {
         box->setAcceptDrops(false);
     ui.Txt_Report->setAcceptDrops(false);
     ui.Txt_Report->viewport()->setAcceptDrops(false);
+    for (QWidget* framed :
+         {static_cast<QWidget*>(ui.Lst_Chains), static_cast<QWidget*>(ui.Txt_Report)})
+        framed->setProperty(kFocusRing, true);
     bind();
     wire();
     list_controls({"lbl_file",    "Txt_File",   "Cmd_File",    "Pic_Import",    "Lst_Chains",

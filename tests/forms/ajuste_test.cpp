@@ -349,6 +349,7 @@ struct SavePressTest : testing::Test, test::Workbench {
     std::string path_B = machine.path("punta2.DAT");
 
     SavePressTest() {
+        machine.open_database();
         session.ajuste.Txt_File_A2 = path_A;
         session.ajuste.Txt_File_B2 = path_B;
         test::fill(session.PtosA2, {{0, 0}, {10, 0}, {10, 5}});
