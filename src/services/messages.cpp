@@ -34,9 +34,6 @@ std::string trimmed_field(std::string_view field) {
 }
 
 void open_table() {
-    if (mensajes())
-        return;
-    const Hourglass hourglass;
     mensajes() = platform().database.open_recordset("Mensajes", Access::read_only);
 }
 
@@ -47,7 +44,10 @@ bool find(int codigo) {
 }
 
 Message look_up(int codigo) {
-    open_table();
+    if (!mensajes()) {
+        const Hourglass hourglass;
+        open_table();
+    }
     const Hourglass hourglass;
     if (!find(codigo))
         return {};
@@ -73,7 +73,7 @@ std::string GetMensaje(int codigo) {
 
 std::string quiet_text(int codigo) {
     if (!mensajes())
-        return look_up(codigo).text;
+        open_table();
     return find(codigo) ? trimmed_field("Descripcion") : std::string{};
 }
 
