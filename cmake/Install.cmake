@@ -17,6 +17,9 @@ install(DIRECTORY data/sounds/ DESTINATION "${data_dir}" FILES_MATCHING PATTERN 
 install(FILES data/deployment.txt data/acad.dwt DESTINATION "${data_dir}")
 install(DIRECTORY "${VELMORA_BIN_DIR}/help" DESTINATION "${data_dir}")
 install(FILES "${VELMORA_BIN_DIR}/velmora.chm" DESTINATION "${data_dir}" OPTIONAL)
+foreach(language IN LISTS VELMORA_GUIDE_LANGUAGES)
+  install(FILES "${VELMORA_BIN_DIR}/velmora_${language}.chm" DESTINATION "${data_dir}" OPTIONAL)
+endforeach()
 
 install(FILES packaging/desktop/org.velmora.Velmora.desktop
   DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")

@@ -21,8 +21,10 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kTemplate = "acad.dwt";
-constexpr const char* kFiles[] = {kLanguageDatabase, "mdbwav0.wav", "mdbwav1.wav",   "mdbwav7.wav",
-                                  "velmora.chm",     kTemplate,     "deployment.txt"};
+constexpr const char* kFiles[] = {kLanguageDatabase, "mdbwav0.wav",    "mdbwav1.wav",
+                                  "mdbwav7.wav",     kTemplate,        "deployment.txt",
+                                  "velmora.chm",     "velmora_en.chm", "velmora_fr.chm",
+                                  "velmora_pt.chm",  "velmora_it.chm"};
 constexpr const char* kHelpPages = "help";
 constexpr const char* kRecord = "installed.txt";
 const QByteArray kDamaged = "damaged";
@@ -37,7 +39,7 @@ bool is_database(const fs::path& name) {
 
 // What nobody has a reason to keep an own copy of.
 bool is_help(const fs::path& name) {
-    return name == "velmora.chm" || *name.begin() == kHelpPages;
+    return name.extension() == ".chm" || *name.begin() == kHelpPages;
 }
 
 bool stands(const fs::path& path) {

@@ -10,6 +10,7 @@
 #include "adapters/sqlite/sqlite_database.h"
 #include "platform/clock.h"
 #include "platform/machine.h"
+#include "services/guide.h"
 
 #include <QLocale>
 
@@ -46,7 +47,7 @@ QtPlatform::~QtPlatform() = default;
 
 void QtPlatform::install() {
     fill(dialogs, make_qt_dialogs);
-    fill(shell, make_qt_shell);
+    fill(shell, [] { return make_qt_shell(guide_language); });
     fill(settings, make_qt_settings);
     fill(database, make_sqlite_database);
     fill(machine, [] { return std::make_unique<QtMachine>(); });

@@ -1,6 +1,7 @@
 #include "ui/window_host.h"
 
 #include "document/windows/velmora.h"
+#include "ui/guide_key.h"
 #include "ui/icons.h"
 #include "ui/window_host_state.h"
 
@@ -46,6 +47,7 @@ Qt::CursorShape cursor_of(int pointer) {
 WindowHost::WindowHost(ShownImage& canvas) : d(std::make_unique<Private>(*this, canvas)) {
     // Between the start window and the main one there is none.
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    (void)new GuideKey(this);
 }
 
 WindowHost::~WindowHost() {

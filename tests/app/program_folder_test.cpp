@@ -84,7 +84,7 @@ TEST_F(ProgramFolderTest, is_the_executables_where_the_database_lies_beside_it) 
 }
 
 TEST_F(ProgramFolderTest, is_the_users_filled_from_the_installed_files) {
-    for (const char* name : {"mdbwav0.wav", "velmora.chm", "deployment.txt"})
+    for (const char* name : {"mdbwav0.wav", "velmora.chm", "velmora_fr.chm", "deployment.txt"})
         write(places.installed / name, name);
     put_database(places.installed);
     write(places.installed / "help" / "index.html", "pages");
@@ -92,6 +92,7 @@ TEST_F(ProgramFolderTest, is_the_users_filled_from_the_installed_files) {
     start_in_users_folder();
     EXPECT_EQ(read(places.user_data / "mdbwav0.wav"), "mdbwav0.wav");
     EXPECT_EQ(read(places.user_data / "velmora.chm"), "velmora.chm");
+    EXPECT_EQ(read(places.user_data / "velmora_fr.chm"), "velmora_fr.chm");
     EXPECT_EQ(read(places.user_data / "deployment.txt"), "deployment.txt");
     EXPECT_EQ(read(places.user_data / "help" / "index.html"), "pages");
     EXPECT_EQ(users_message(), message_in(test::built_database()));

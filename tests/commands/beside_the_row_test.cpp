@@ -75,24 +75,57 @@ TEST_F(BesideTheRowTest, the_shortcut_window_has_a_label_for_each_key_of_its_tab
                 << name << i << " is not in src/ui/teclas.ui";
 }
 
+constexpr const char* kGuides[] = {"es", "en", "fr", "pt", "it"};
+
 TEST_F(BesideTheRowTest, the_guide_names_each_shortcut) {
-    const std::set<std::string> named = keys_on("docs/help/teclas.html");
-    for (const MenuEntry& entry : menu_entries()) {
-        if (!entry.shortcut.empty()) {
-            EXPECT_TRUE(named.contains(std::string(entry.shortcut)))
-                << entry.shortcut << " of " << entry.name << ": a row in docs/help/teclas.html";
-        }
+    for (const std::string guide : kGuides) {
+        const std::string page = "docs/help/" + guide + "/teclas.html";
+        const std::set<std::string> named = keys_on(page);
+        for (const MenuEntry& entry : menu_entries())
+            EXPECT_TRUE(entry.shortcut.empty() || named.contains(std::string(entry.shortcut)))
+                << entry.shortcut << " of " << entry.name << ": a row in " << page;
     }
 }
 
 // The zoom is told of with the window, not with the edits.
 TEST_F(BesideTheRowTest, the_page_on_edits_names_the_shortcuts_of_their_menu) {
-    const std::set<std::string> named = keys_on("docs/help/editar.html");
-    for (const MenuEntry& entry : menu_entries()) {
-        if (entry.menu == "mnu_funcs" && !entry.shortcut.empty() &&
-            !entry.name.starts_with("mnu_zoom")) {
-            EXPECT_TRUE(named.contains(std::string(entry.shortcut)))
-                << entry.shortcut << " of " << entry.name << ": a row in docs/help/editar.html";
+    for (const std::string guide : kGuides) {
+        const std::string page = "docs/help/" + guide + "/editar.html";
+        const std::set<std::string> named = keys_on(page);
+        for (const MenuEntry& entry : menu_entries()) {
+            if (entry.menu == "mnu_funcs" && !entry.shortcut.empty() &&
+                !entry.name.starts_with("mnu_zoom")) {
+                EXPECT_TRUE(named.contains(std::string(entry.shortcut)))
+                    << entry.shortcut << " of " << entry.name << ": a row in " << page;
+            }
+        }
+    }
+}
+
+/// A caption as a text quotes it: without its mark, its ellipsis, its blanks.
+std::string quoted(std::string text) {
+    std::erase(text, '&');
+    for (const std::string_view end : {"…", "...", "... "})
+        if (text.ends_with(end))
+            text.resize(text.size() - end.size());
+    while (text.ends_with(' '))
+        text.pop_back();
+    return std::regex_replace(text, std::regex(" +"), " ");
+}
+
+// Renaming an entry would leave the guide behind.
+TEST_F(BesideTheRowTest, the_page_of_all_commands_names_each_entry_as_it_stands) {
+    const std::map<std::string, const char*> languages = {
+        {"es", "E"}, {"en", "I"}, {"fr", "F"}, {"pt", "P"}, {"it", "T"}};
+    for (const auto& [guide, language] : languages) {
+        const std::string page = text_of_file("docs/help/" + guide + "/ordenes.html");
+        const std::string plain = std::regex_replace(page, std::regex("\\s+"), " ");
+        for (const MenuEntry& entry : menu_entries()) {
+            const bool listed = entry.caption != "-" && entry.index == 0 && entry.visible;
+            const std::string caption =
+                quoted(literal("Velmora", std::string(entry.name), language, "Descripcion"));
+            EXPECT_TRUE(!listed || plain.find(caption) != std::string::npos)
+                << entry.name << ": “" << caption << "” in docs/help/" << guide << "/ordenes.html";
         }
     }
 }

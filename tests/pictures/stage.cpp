@@ -18,7 +18,7 @@ namespace velmora::pictures {
 
 namespace {
 
-constexpr auto kSample = "data/samples/raiz.dat";
+constexpr auto kSample = "raiz.dat";
 constexpr auto kShownPath = "/home/ana/alas/raiz.dat"; // the same in every run
 constexpr auto kZoom = "750";                          // the whole sample in view
 constexpr std::int32_t kSelected = 8;
@@ -69,9 +69,7 @@ void Stage::open_main() {
 }
 
 void Stage::open_outline() {
-    const auto sample = std::filesystem::path(folder_.path().toStdString()) / "raiz.dat";
-    std::filesystem::copy_file(test::source_dir() / kSample, sample);
-    dialogs_->paths = {sample.string()};
+    pick(kSample);
     click("Velmora", "mnu_openfile");
     platform_->windows->run([] {
         session.Velmora.TxtDat_File = kShownPath;
@@ -104,6 +102,13 @@ void Stage::click(std::string_view window, std::string_view name) {
     if (auto* button = qobject_cast<QAbstractButton*>(found))
         button->click();
     settle();
+}
+
+void Stage::pick(const std::string& sample) {
+    const auto copy = std::filesystem::path(folder_.path().toStdString()) / sample;
+    std::filesystem::copy_file(test::source_dir() / "data/samples" / sample, copy,
+                               std::filesystem::copy_options::overwrite_existing);
+    dialogs_->paths = {copy.string()};
 }
 
 void Stage::fill(std::string_view window, std::string_view name, std::string_view text) {

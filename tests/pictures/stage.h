@@ -30,6 +30,8 @@ class Stage {
     void unload(std::string_view window);
     /// A click on a button, or a tick, by its control's name.
     void click(std::string_view window, std::string_view control);
+    /// The file dialog answers with this sample next.
+    void pick(const std::string& sample);
     /// Puts a text into a box.
     void fill(std::string_view window, std::string_view box, std::string_view text);
 

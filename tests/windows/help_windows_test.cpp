@@ -1,11 +1,17 @@
 // The list of shortcut keys and the about box.
 #include "windows/dialogs_test.h"
 
+#include "document/state/program.h"
+#include "services/guide.h"
+#include "support/places.h"
 #include "ui/link_label.h"
+#include "ui/window_registry.h"
 
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QWindow>
+#include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
 
@@ -42,6 +48,36 @@ TEST_F(HelpWindowsTest, the_shortcuts_stand_beside_their_lines) {
         picture(*window("teclas"), "teclas");
     });
     EXPECT_THAT(told, ElementsAre("open teclas", "closed teclas"));
+}
+
+TEST_F(HelpWindowsTest, f1_opens_the_page_of_the_window_in_the_language_of_the_program) {
+    session.Idioma = "I";
+    in_dialog("mnu_Shortkeys", "teclas", [this] {
+        QTest::keyClick(window("teclas")->windowHandle(), Qt::Key_F1);
+        EXPECT_THAT(shell().opened, ElementsAre(program_file("help/en/teclas.html")));
+        QTest::keyClick(window("teclas")->windowHandle(), Qt::Key_F1, Qt::ShiftModifier);
+        EXPECT_EQ(shell().opened.size(), 1U);
+    });
+}
+
+TEST_F(HelpWindowsTest, without_the_page_f1_opens_the_guide) {
+    shell().open_result = 2;
+    QTest::keyClick(window("Velmora")->windowHandle(), Qt::Key_F1);
+    EXPECT_THAT(shell().opened,
+                ElementsAre(program_file("help/es/ventana.html"), program_file("velmora.chm")));
+}
+
+TEST_F(HelpWindowsTest, every_window_has_its_page_in_every_language) {
+    for (const std::string_view name : window_names()) {
+        if (name == "intro")
+            continue; // it gives way to the next key
+        const std::string page(guide_page(name));
+        ASSERT_NE(page, "") << name << ": a line in services/guide.cpp";
+        for (const char* language : {"es", "en", "fr", "pt", "it"})
+            EXPECT_TRUE(std::filesystem::is_regular_file(test::source_dir() / "docs/help" /
+                                                         language / (page + ".html")))
+                << language << ' ' << page;
+    }
 }
 
 TEST_F(HelpWindowsTest, enter_closes_the_shortcuts) {

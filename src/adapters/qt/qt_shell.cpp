@@ -32,24 +32,46 @@ bool is_address(const QString& target) {
     return scheme.match(target).hasMatch();
 }
 
-/// The help file itself, or its pages where it is missing or nothing shows it.
-QString shown_help(const QString& help_file) {
-    const QString pages = QFileInfo(help_file).dir().filePath("help/index.html");
-    const bool shows_file =
-        QFileInfo::exists(help_file) &&
-        desktop_opens({"application/vnd.ms-htmlhelp", "application/x-chm", "application/chm"});
-    return shows_file || !QFileInfo::exists(pages) ? help_file : pages;
+constexpr const char* kSpanish = "es";
+
+bool desktop_shows_help_files() {
+    return desktop_opens({"application/vnd.ms-htmlhelp", "application/x-chm", "application/chm"});
+}
+
+/// The help file of a language, or its pages where that is missing or nothing shows it; empty
+/// without both.
+QString guide_in(const QString& language, const QString& spanish_file) {
+    const QFileInfo spanish(spanish_file);
+    const QString file =
+        language == kSpanish
+            ? spanish_file
+            : spanish.dir().filePath(spanish.completeBaseName() + '_' + language + ".chm");
+    if (QFileInfo::exists(file) && desktop_shows_help_files())
+        return file;
+    const QString pages = spanish.dir().filePath("help/" + language + "/index.html");
+    return QFileInfo::exists(pages) ? pages : QString();
+}
+
+/// Where no guide can be shown the help file is left to the desktop.
+QString shown_help(const QString& help_file, const QString& language) {
+    for (const QString& tongue : {language, QString(kSpanish)})
+        if (const QString guide = guide_in(tongue, help_file); !guide.isEmpty())
+            return guide;
+    return help_file;
 }
 
 class QtShell : public Shell {
   public:
+    explicit QtShell(std::function<std::string()> guide_language)
+        : guide_language_(std::move(guide_language)) {}
+
     int open(std::string_view target) override {
         const QString text = qt_text(target);
         if (is_address(text))
             return started(QUrl(text, QUrl::TolerantMode));
         QString path = path_of(target);
         if (path.endsWith(".chm", Qt::CaseInsensitive))
-            path = shown_help(path);
+            path = shown_help(path, QString::fromStdString(guide_language_()));
         if (!QFileInfo::exists(path))
             return kFileNotFound;
         return started(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
@@ -71,13 +93,14 @@ class QtShell : public Shell {
         return QDesktopServices::openUrl(url) ? kStarted : kNoProgram;
     }
 
+    std::function<std::string()> guide_language_;
     std::unique_ptr<SoundPlayer> sound_ = make_sound_player();
 };
 
 } // namespace
 
-std::unique_ptr<Shell> make_qt_shell() {
-    return std::make_unique<QtShell>();
+std::unique_ptr<Shell> make_qt_shell(std::function<std::string()> guide_language) {
+    return std::make_unique<QtShell>(std::move(guide_language));
 }
 
 } // namespace velmora

@@ -60,7 +60,7 @@ class QtShellTest : public testing::Test {
     int open(const QString& target) { return shell->open(target.toStdString()); }
     void with_help() const {
         write("velmora.chm", "ITSF");
-        write("help/index.html", "<html></html>");
+        write("help/es/index.html", "<html></html>");
     }
 
     QTemporaryDir folder;
@@ -70,10 +70,11 @@ class QtShellTest : public testing::Test {
     Variable config_dirs{"XDG_CONFIG_DIRS", folder.filePath("etc")};
     Variable desktop{"XDG_CURRENT_DESKTOP", "Taller"};
     Opened opened;
-    std::unique_ptr<Shell> shell = make_qt_shell();
+    std::string language = "es";
+    std::unique_ptr<Shell> shell = make_qt_shell([this] { return language; });
     QString help_file = folder.filePath("velmora.chm");
     QUrl file_itself = QUrl::fromLocalFile(help_file);
-    QUrl pages = QUrl::fromLocalFile(folder.filePath("help/index.html"));
+    QUrl pages = QUrl::fromLocalFile(folder.filePath("help/es/index.html"));
 };
 
 TEST_F(QtShellTest, a_file_opens_by_its_path_and_a_missing_one_does_not) {
@@ -129,8 +130,28 @@ TEST_F(QtShellTest, a_program_that_is_gone_or_was_taken_away_counts_as_none) {
 }
 
 TEST_F(QtShellTest, where_the_help_file_is_missing_the_pages_open) {
-    write("help/index.html", "<html></html>");
+    write("help/es/index.html", "<html></html>");
     EXPECT_GE(open(help_file), 33);
+    EXPECT_EQ(opened.urls, QList{pages});
+}
+
+TEST_F(QtShellTest, the_guide_opens_in_the_language_of_the_program) {
+    with_help();
+    language = "fr";
+    const QString french_pages = write("help/fr/index.html", "<html></html>");
+    (void)open(help_file);
+    EXPECT_EQ(opened.urls.back(), QUrl::fromLocalFile(french_pages));
+    const QString french_file = write("velmora_fr.chm", "ITSF");
+    write("system/applications/lector.desktop", "[Desktop Entry]\n");
+    write("system/applications/mimeinfo.cache", "[MIME Cache]\napplication/chm=lector.desktop;\n");
+    (void)open(help_file);
+    EXPECT_EQ(opened.urls.back(), QUrl::fromLocalFile(french_file));
+}
+
+TEST_F(QtShellTest, a_language_without_a_guide_has_the_Spanish_one) {
+    with_help();
+    language = "it";
+    (void)open(help_file);
     EXPECT_EQ(opened.urls, QList{pages});
 }
 

@@ -6,6 +6,7 @@
 #include "script/numbers.h"
 #include "script/words.h"
 #include "scripted/dialogs.h"
+#include "services/guide.h"
 #include "windows/ending.h"
 
 namespace velmora::driver {
@@ -23,7 +24,8 @@ Made* place(std::unique_ptr<Base>& member, std::unique_ptr<Made> made) {
 
 Stage::Stage(const std::string& work, const std::string& program) : places(work, program) {
     platform_.dialogs = std::make_unique<ScriptedDialogs>(transcript, places, answers);
-    platform_.shell = std::make_unique<ScriptedShell>(transcript, places, make_qt_shell());
+    platform_.shell =
+        std::make_unique<ScriptedShell>(transcript, places, make_qt_shell(guide_language));
     platform_.cad = std::make_unique<ScriptedCad>(cad);
     machine_ = place(platform_.machine, std::make_unique<ScriptedMachine>());
     settings_ = place(platform_.settings, std::make_unique<ScriptedSettings>());
