@@ -64,7 +64,7 @@ class Page {
         if (image.width() > kWidth)
             image = image.scaledToWidth(kWidth, Qt::SmoothTransformation);
         const QString file = folder_.filePath(QString(name) + ".png");
-        if (!image.convertToFormat(QImage::Format_Indexed8).save(file)) {
+        if (!image.convertToFormat(QImage::Format_RGB32).save(file)) {
             std::fprintf(stderr, "pictures: %s cannot be taken\n", qPrintable(file));
             well_ = false;
         }
