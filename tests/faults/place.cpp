@@ -3,6 +3,7 @@
 #include "adapters/qt/qt_shell.h"
 #include "document/session.h"
 #include "runtime/paths.h"
+#include "services/guide.h"
 
 #include <QByteArray>
 #include <QtGlobal>
@@ -25,7 +26,7 @@ std::string bytes_of(const fs::path& path) {
 
 } // namespace
 
-Place::Place(Bin bin) : root_(machine.folder / "place"), desktop_(make_qt_shell()) {
+Place::Place(Bin bin) : root_(machine.folder / "place"), desktop_(make_qt_shell(guide_language)) {
     fs::create_directories(root_ / "home");
     qputenv("HOME", (root_ / "home").c_str());
     qputenv("XDG_DATA_HOME", (root_ / "data").c_str());
