@@ -2,7 +2,7 @@
 # folder of their own, with real key and pointer events. All of it goes at the end.
 #
 # start_display WIDTHxHEIGHT, install_program PROGRAM FOLDER, start_program PROGRAM FOLDER [PICTURE],
-# run_program PROGRAM FOLDER [PICTURE], await TITLE, picture FILE, small_picture FILE PLACE,
+# run_program PROGRAM FOLDER [PICTURE [FILE]], await TITLE, picture FILE, small_picture FILE PLACE,
 # changes COMMAND..., answer KEY, click_at X Y [BUTTON], fill TEXT, choose MENU ENTRY,
 # press TABS, open_shape FILE [TITLE], save_shape_as FILE [DESCRIPTION]
 
@@ -184,9 +184,9 @@ start_program() {
 }
 
 # Starts the program in a folder and clicks its start window away, after a picture of it where one
-# is wanted; `running` is the program's process.
+# is wanted; `running` is the program's process. A file may be named for the program to open.
 run_program() {
-    (cd "$2" && exec "$1") 2>"$display_folder/program.log" &
+    (cd "$2" && exec "$1" ${4:+"$4"}) 2>"$display_folder/program.log" &
     running=$!
     display_processes+=("$running")
     local splash

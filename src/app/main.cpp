@@ -29,16 +29,19 @@ void choose_folder() {
         velmora::state::program.kept_aside.push_back(velmora::runtime::path_text(file));
 }
 
-/// Once the main window is there, as the first thing that its user would do.
+/// Once the main window is there and nothing asks or runs any more, as the first thing that its
+/// user would do.
 void open_at_start(velmora::WindowHost& windows, const std::filesystem::path& file) {
-    windows.events.opened = [&windows, file](const std::string& window) {
-        if (window != "Velmora")
+    constexpr int kMilliseconds = 50;
+    auto* const timer = new QTimer(&windows);
+    QObject::connect(timer, &QTimer::timeout, &windows, [&windows, timer, file] {
+        if (windows.window("Velmora") == nullptr || !windows.idle())
             return;
-        QTimer::singleShot(0, &windows, [&windows, file] {
-            windows.events.opened = nullptr;
-            windows.run([&] { velmora::open_named(velmora::runtime::path_text(file)); });
-        });
-    };
+        timer->deleteLater();
+        timer->stop();
+        windows.run([&] { velmora::open_named(velmora::runtime::path_text(file)); });
+    });
+    timer->start(kMilliseconds);
 }
 
 } // namespace

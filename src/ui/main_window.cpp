@@ -108,8 +108,10 @@ void MainWindow::bind() {
 void MainWindow::wire() {
     for (QLineEdit* box : {ui.TxtDat_File, ui.TxtDescDat})
         new ShortcutsFirst(*box);
-    new FileDrop(window_,
-                 [this](const std::string& path) { events().run([&path] { open_named(path); }); });
+    new FileDrop(window_, [this](const std::string& path) {
+        if (events().idle())
+            events().run([&path] { open_named(path); });
+    });
     canvas_.wire([this](const Handler& handler) { events().run(handler); });
     connect(ui.Lst_Coords, &CoordListView::row_clicked, this, [this](const QString& row) {
         events().run([text = row.toStdString()] { Lst_Coords_Click(text); });
