@@ -9,7 +9,8 @@ namespace velmora {
 /// language database is not open, 3078 when it has no table Mensajes.
 [[nodiscard]] std::string GetMensaje(int codigo);
 
-/// The same without the hourglass, for a note beside a command that has looked its own texts up.
+/// The same without the hourglass, for a note of our own beside a command: the pointer is the
+/// command's.
 [[nodiscard]] std::string quiet_text(int codigo);
 
 /// Shows a message with the buttons and title of its row and returns the answer. A missing text

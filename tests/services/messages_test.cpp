@@ -31,6 +31,14 @@ struct MessagesTest : testing::Test {
     }
 };
 
+TEST_F(MessagesTest, a_quiet_text_shows_no_hourglass_even_where_it_opens_the_table) {
+    EXPECT_EQ(quiet_text(37), "No hay ninguna forma cargada!");
+    EXPECT_EQ(quiet_text(9999), "");
+    EXPECT_THAT(machine.windows.pointers, ElementsAre());
+    EXPECT_EQ(GetMensaje(37), quiet_text(37));
+    EXPECT_THAT(machine.windows.pointers, ElementsAre(11, 0));
+}
+
 // The filter of the open dialog is held by the scenarios, to the letter.
 TEST_F(MessagesTest, texts_are_those_of_the_table_to_the_letter) {
     const std::pair<int, std::string> texts[] = {

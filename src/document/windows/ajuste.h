@@ -15,7 +15,7 @@ struct AjusteWindow {
     std::string Txt_File_A2, Txt_File_B2; ///< paths of the results
     std::string TxtTotalPtosNew_A, TxtTotalPtosNew_B;
     std::string TxtTotalCtrlPtosNew_A, TxtTotalCtrlPtosNew_B;
-    std::string lbl_estado; ///< "3 / 200", the run at work of how many; else empty
+    std::string lbl_estado; ///< "3 / 200", the run at work of how many; after a save, its two files
     bool ChkPtosCtrl = false;
     bool cmd_opt_enabled = false;
     bool Cmd_Ajuste_enabled = false;
