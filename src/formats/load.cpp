@@ -14,6 +14,7 @@
 #include "formats/file_passes.h"
 #include "formats/origin.h"
 #include "formats/passed_over.h"
+#include "formats/seen_file.h"
 #include "formats/totals.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
@@ -88,6 +89,7 @@ void take_in(const std::string& path, const std::string& format_text) {
     state::document.FileName = path;
     show_figures();
     state::Velmora.TxtDat_File = state::document.FileName;
+    note_seen(path);
     Check00();
 }
 

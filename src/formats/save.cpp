@@ -12,11 +12,13 @@
 #include "formats/box_text.h"
 #include "formats/file_passes.h"
 #include "formats/outline_writer.h"
+#include "formats/seen_file.h"
 #include "formats/thinning.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"
 #include "platform/shell.h"
+#include "runtime/error.h"
 #include "runtime/paths.h"
 #include "runtime/text.h"
 #include "services/message_codes.h"
@@ -109,6 +111,24 @@ void reset_precision() {
     state::options.Precision = 1;
 }
 
+/// A file that another program wrote since it was opened is asked about. One whose folder went away
+/// with its stick or its network is told: there is nothing to write on. A path that was typed goes
+/// on to the writer and its error.
+bool place_is_as_it_was() {
+    const std::string& path = state::Velmora.TxtDat_File;
+    if (folder_gone_since_seen(path)) {
+        const RuntimeError gone(error::path_not_found);
+        MsgBox(joined_by_blanks({GetMensaje(message::the_file), path, description_of(gone)}),
+               buttons::exclamation, box_title());
+        return false;
+    }
+    if (!changed_since_seen(path))
+        return true;
+    const std::string question = joined_by_blanks(
+        {GetMensaje(message::the_file), path, GetMensaje(message::changed_on_disk)});
+    return MsgBox(question, buttons::yes_no + buttons::question, box_title()) == answer::yes;
+}
+
 void report_created() {
     if (!runtime::file_exists(state::document.FileName))
         return;
@@ -133,12 +153,15 @@ void GeneraFichero() {
         reset_precision();
         return;
     }
+    if (!place_is_as_it_was())
+        return;
     Apply_Precision();
     if (state::options.OptimizeOnGen)
         OptimizaPtos();
     set_pointer(kHourglass);
     const std::int16_t written = EscribeFichero();
     set_pointer(kDefaultPointer);
+    note_seen(state::document.FileName);
     if (written == False)
         return;
     set_status(GetMensaje(message::file) + " " + runtime::UCase(state::document.FileName) + " " +
