@@ -92,11 +92,15 @@ void GetRecentFiles() {
 void UpdateFileMenu(std::string_view path) {
     if (path.empty())
         return;
+    // Another window of the program may have put its files in meanwhile.
+    (void)platform().settings.keep();
+    GetRecentFiles();
     const std::string file(path);
     if (is_in_list(file))
         move_to_top(file);
     else
         add_on_top(file);
+    (void)platform().settings.keep();
     GetRecentFiles();
 }
 

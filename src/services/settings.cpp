@@ -20,6 +20,7 @@ namespace {
 
 constexpr std::string_view kColors = "Colors";
 constexpr std::string_view kValues = "Values";
+constexpr double kZoom = 30000;
 
 struct Colour {
     std::string_view key;
@@ -74,6 +75,47 @@ void save(std::string_view section, std::string_view key, std::string_view value
     platform().settings.save(section, key, value);
 }
 
+/// Each setting as GuardaSettings stores it: section, key, text.
+template <class Use>
+void each_setting(Use&& use) {
+    for (const auto& [key, value, preset] : kColours)
+        use(kColors, key, runtime::CStr(static_cast<std::int32_t>(state::settings.*value)));
+    for (const auto& [key, value, preset] : kWholeNumbers)
+        use(kValues, key, runtime::CStr(state::settings.*value));
+    use(kValues, "Idioma", state::program.Idioma);
+    use(kValues, "Def_Zoom", runtime::CStr(state::settings.Def_Zoom, '.'));
+    use(kValues, "sound", runtime::CStr(std::int32_t{state::program.Sound}));
+}
+
+void note_as_read() {
+    each_setting([](std::string_view section, std::string_view key, const std::string& own) {
+        state::settings.as_read[std::string(key)] = {
+            platform().settings.get(section, key).value_or(""), own};
+    });
+}
+
+/// Another window of the program stored this value since it was read here, and here it is as it
+/// was: that one stands.
+bool another_changed(std::string_view section, std::string_view key, const std::string& own) {
+    const auto read = state::settings.as_read.find(key);
+    if (read == state::settings.as_read.end() || read->second.own != own)
+        return false;
+    return platform().settings.get(section, key).value_or("") != read->second.stored;
+}
+
+/// The text of a default, empty for a key that is none of the numbers.
+std::string preset_of(std::string_view key) {
+    for (const auto& colour : kColours)
+        if (colour.key == key)
+            return runtime::CStr(static_cast<std::int32_t>(colour.preset));
+    for (const auto& whole : kWholeNumbers)
+        if (whole.key == key)
+            return runtime::CStr(whole.preset);
+    if (key == "Def_Zoom")
+        return runtime::CStr(kZoom, '.');
+    return key == "sound" ? "1" : "";
+}
+
 } // namespace
 
 std::int16_t read_sound() {
@@ -88,21 +130,33 @@ void LeeSettings() {
     for (const auto& [key, value, preset] : kWholeNumbers)
         state::settings.*value = whole_number(kValues, key, preset);
     state::program.Idioma = platform().settings.get(kValues, "Idioma").value_or("E");
-    state::settings.Def_Zoom = number<double>(kValues, "Def_Zoom", 30000, runtime::CDbl);
+    state::settings.Def_Zoom = number<double>(kValues, "Def_Zoom", kZoom, runtime::CDbl);
     state::program.Sound = read_sound();
+    note_as_read();
 }
 
 void GuardaSettings() {
-    for (const auto& [key, value, preset] : kColours)
-        save(kColors, key, runtime::CStr(static_cast<std::int32_t>(state::settings.*value)));
-    for (const auto& [key, value, preset] : kWholeNumbers)
-        save(kValues, key, runtime::CStr(state::settings.*value));
-    save(kValues, "Idioma", state::program.Idioma);
-    save(kValues, "Def_Zoom", runtime::CStr(state::settings.Def_Zoom, '.'));
-    save(kValues, "sound", runtime::CStr(std::int32_t{state::program.Sound}));
+    // Another window of the program may have changed the store meanwhile.
+    (void)platform().settings.keep();
+    each_setting([](std::string_view section, std::string_view key, const std::string& own) {
+        if (!another_changed(section, key, own))
+            save(section, key, own);
+    });
     if (!platform().settings.keep())
         MsgBox(GetMensaje(message::settings_not_kept) + "\n\n" + platform().settings.place(),
                buttons::exclamation, "Velmora");
+    note_as_read();
+}
+
+std::optional<StoredSetting> setting_at_fault(const RuntimeError& failure) {
+    const std::size_t slash = failure.place.find('/');
+    const std::size_t equal = failure.place.find('=');
+    if (slash == std::string::npos || equal == std::string::npos || slash > equal)
+        return {};
+    StoredSetting setting{failure.place.substr(0, slash),
+                          failure.place.substr(slash + 1, equal - slash - 1), ""};
+    setting.value = preset_of(setting.key);
+    return setting.value.empty() ? std::nullopt : std::optional(setting);
 }
 
 void save_version() {

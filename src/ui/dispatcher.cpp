@@ -4,10 +4,14 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
+#include "platform/settings_store.h"
+#include "services/settings.h"
 #include "ui/window_host_state.h"
 
 #include <QCoreApplication>
 #include <QTimer>
+#include <algorithm>
+#include <array>
 #include <new>
 #include <optional>
 
@@ -28,6 +32,41 @@ void report(const RuntimeError& failure, const std::string& recovered) {
     if (!failure.place.empty())
         text += "\n" + failure.place;
     platform().dialogs.message(text, buttons::critical, "Velmora");
+}
+
+/// By the letters of the languages, in the code: the database is not open yet.
+struct OfferText {
+    char language;
+    std::string_view text;
+};
+
+constexpr auto kOfferTexts = std::to_array<OfferText>({
+    {'E', "¿Deseas que Velmora use desde ahora el valor por defecto de este parámetro?"},
+    {'I', "Shall Velmora use the default of this setting from now on?"},
+    {'F', "Velmora doit-il utiliser désormais la valeur par défaut de ce paramètre ?"},
+    {'P', "Deseja que o Velmora use a partir de agora o valor predefinido deste parâmetro?"},
+    {'T', "Velmora deve usare d’ora in poi il valore predefinito di questo parametro?"},
+});
+
+std::string_view offer_text() {
+    const std::string language = platform().settings.get("Values", "Idioma").value_or("E");
+    const auto* const found =
+        std::ranges::find(kOfferTexts, language.empty() ? 'E' : language[0], &OfferText::language);
+    return found == kOfferTexts.end() ? kOfferTexts.front().text : found->text;
+}
+
+/// A setting that ends the start would end every other start too: its default is offered.
+bool take_default_for(const RuntimeError& failure) {
+    const auto setting = setting_at_fault(failure);
+    if (!setting)
+        return false;
+    const std::string question =
+        std::string(offer_text()) + "\n\n" + setting->key + " = " + setting->value;
+    if (platform().dialogs.message(question, buttons::yes_no + buttons::question, "Velmora") !=
+        answer::yes)
+        return false;
+    platform().settings.save(setting->section, setting->key, setting->value);
+    return platform().settings.keep();
 }
 
 /// What a handler failed with, nothing where it did not. The end of the program goes through.
@@ -138,7 +177,18 @@ void WindowHost::Private::fail(const RuntimeError& failure) {
         host.events.fault(failure);
     else
         report(failure, recovered);
+    if (!host.events.fault && take_default_for(failure) && find("Velmora") == nullptr)
+        return start_again();
     finish(kFaultStatus);
+}
+
+// What was shown of the start goes; the next try comes when this event is over.
+void WindowHost::Private::start_again() {
+    for (auto& [name, window] : windows)
+        window.release()->deleteLater();
+    windows.clear();
+    active = nullptr;
+    QTimer::singleShot(0, &host, [this] { host.start(); });
 }
 
 void WindowHost::Private::tell_stopped(const RuntimeError& failure) const {

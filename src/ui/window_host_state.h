@@ -65,6 +65,7 @@ struct WindowHost::Private {
     void push() const;
     void fail(const RuntimeError& failure);
     void tell_stopped(const RuntimeError& failure) const;
+    void start_again();
     void finish(int status);
     void leave_if_ended() const;
     void show_popup();

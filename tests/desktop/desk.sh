@@ -41,6 +41,19 @@ leave() {
     wait "$running" || fail "the program ended with status $?: $(cat "$display_folder/program.log")"
 }
 
+# Starts the program and answers what it shows, the start window and boxes, by Return, until a window
+# of this title is in front.
+start_until() {
+    (cd "$work" && exec "$VELMORA") 2>"$display_folder/program.log" &
+    running=$!
+    display_processes+=("$running")
+    until_done arrived_at "$1" || fail "no window '$1', but '$(active_title)'"
+}
+arrived_at() {
+    ! is_active "$message" || answer Return
+    is_active "$1"
+}
+
 # The focus is where keys act: the window manager and the display agree that the main window has it.
 focus_is_in() { [[ $(xdotool getwindowfocus getwindowname 2>/dev/null) == $1 ]]; }
 keys_reach() {

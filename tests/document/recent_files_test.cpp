@@ -114,5 +114,14 @@ TEST_F(RecentFilesTest, a_path_that_left_the_store_behind_the_menu_comes_back_on
     EXPECT_EQ(stored(3), "y.dat");
 }
 
+TEST_F(RecentFilesTest, what_another_window_of_the_program_put_in_stays) {
+    open_all(2);
+    store(3, "C:\\alas\\f1.dat");
+    store(2, "C:\\alas\\f2.dat");
+    store(1, "ajeno.dat");
+    UpdateFileMenu("nuevo.dat");
+    EXPECT_THAT(shown(), ElementsAre("&1 nuevo.dat", "&2 ajeno.dat", "&3 f2.dat", "&4 f1.dat"));
+}
+
 } // namespace
 } // namespace velmora

@@ -180,5 +180,38 @@ TEST(GuardaSettings, tells_where_they_can_not_be_kept) {
     EXPECT_EQ(machine.dialogs.boxes[0].buttons, 48);
 }
 
+TEST_F(SettingsTest, what_another_window_stored_meanwhile_stands_unless_it_was_changed_here_too) {
+    LeeSettings();
+    store("cl_ejes", "7");
+    store("Def_Zoom", "400");
+    session.Def_Zoom = 500;
+    session.Def_Arc = 33;
+    GuardaSettings();
+    EXPECT_EQ(stored("Colors", "cl_ejes"), "7");
+    EXPECT_EQ(stored("Values", "Def_Zoom"), "500");
+    EXPECT_EQ(stored("Values", "Def_Arc"), "33");
+    EXPECT_EQ(stored("Values", "Def_Dec"), "6") << "all are stored";
+}
+
+TEST_F(SettingsTest, a_setting_at_fault_is_known_with_its_default) {
+    struct Case {
+        const char *key, *section, *preset;
+    };
+    for (const Case& c :
+         {Case{"Def_Zoom", "Values", "30000"}, Case{"Def_Dec", "Values", "6"},
+          Case{"cl_fondo", "Colors", "-2147483648"}, Case{"sound", "Values", "1"}}) {
+        machine.settings.values.clear();
+        store(c.key, "mucho");
+        const auto setting = setting_at_fault(failure_of_reading());
+        ASSERT_TRUE(setting.has_value()) << c.key;
+        EXPECT_EQ(setting->section, c.section);
+        EXPECT_EQ(setting->key, c.key);
+        EXPECT_EQ(setting->value, c.preset);
+        store(c.key, setting->value);
+        LeeSettings();
+    }
+    EXPECT_FALSE(setting_at_fault(RuntimeError(13)).has_value());
+}
+
 } // namespace
 } // namespace velmora

@@ -125,10 +125,15 @@ TEST_F(HostTest, the_report_names_what_the_user_has_to_mend) {
         failure.place = "Values/Def_Dec=9999999999";
         throw failure;
     });
-    ASSERT_EQ(dialogs().boxes.size(), 1U);
+    ASSERT_EQ(dialogs().boxes.size(), 2U);
     EXPECT_EQ(dialogs().boxes[0],
               (ShownBox{"Run-time error '6':\n\nDesbordamiento\nValues/Def_Dec=9999999999", 16,
                         "Velmora"}));
+    EXPECT_EQ(
+        dialogs().boxes[1],
+        (ShownBox{"¿Deseas que Velmora use desde ahora el valor por defecto de este parámetro?"
+                  "\n\nDef_Dec = 6",
+                  36, "Velmora"}));
 }
 
 TEST_F(HostTest, the_report_says_first_that_the_shape_is_kept_and_where) {

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
 
 namespace velmora {
 
@@ -11,6 +14,12 @@ struct SettingState {
                   cl_coords = 0;
     std::int32_t Def_Dec = 6, Def_Arc = 25, Def_ACircle = 50;
     double Def_Zoom = 30000;
+
+    /// A value as it was read last: the store's text, and the program's own for it.
+    struct Read {
+        std::string stored, own;
+    };
+    std::map<std::string, Read, std::less<>> as_read; ///< by key
 };
 
 namespace state {
