@@ -4,6 +4,8 @@
 #include "cad/select_origin.h"
 #include "cad/send.h"
 #include "commands/handlers.h"
+#include "document/cancelling.h"
+#include "document/feedback.h"
 #include "document/flag.h"
 #include "document/refresh.h"
 #include "document/state/cad.h"
@@ -30,6 +32,15 @@ void scale_and_refresh() {
     Dibuja();
 }
 
+/// A capture that the user cancels leaves all as it was before.
+bool captured(Flag from_drawing, const ShapeBefore& before) {
+    if (run_or_cancel([&] { CapturaAcad(from_drawing); }))
+        return true;
+    before.put_back();
+    set_status(GetMensaje(message::capture_cancelled));
+    return false;
+}
+
 } // namespace
 
 void mnu_Reconect() {
@@ -39,11 +50,12 @@ void mnu_Reconect() {
 void mnu_capture() {
     if (state::cad.AcadOpen == False)
         return;
+    const ShapeBefore before;
     state::Velmora.TxtDat_File.clear();
     state::Velmora.TxtDescDat.clear();
     state::document.FileName.clear();
-    Flag from_drawing = True;
-    CapturaAcad(from_drawing);
+    if (!captured(True, before))
+        return;
     state::document.PtoSel = 0;
     scale_and_refresh();
 }
@@ -51,8 +63,8 @@ void mnu_capture() {
 void menu_select_orig() {
     if (SelOrigen() == False)
         return;
-    Flag from_drawing = False;
-    CapturaAcad(from_drawing);
+    if (!captured(False, ShapeBefore()))
+        return;
     scale_and_refresh();
 }
 

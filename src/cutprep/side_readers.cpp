@@ -13,6 +13,7 @@
 #include "formats/fixed_record_readers.h"
 #include "formats/free_text_readers.h"
 #include "formats/reader_support.h"
+#include "formats/reading.h"
 #include "formats/record_file.h"
 #include "formats/sync_matcher.h"
 #include "platform/dialogs.h"
@@ -125,6 +126,8 @@ void CargaSLWMD_a(std::string_view fichero, Array<Pto>& pts, std::string_view la
 }
 
 bool read_side(const Side& side, const std::string& path) {
+    if (!may_be_read(path))
+        return false;
     Flag ok = False;
     switch (GetFileFormat(path, runtime::UCase(path))) {
     case FileFormat::SLWSINC:

@@ -1,7 +1,9 @@
 #include "document/feedback.h"
 
+#include "document/state/loading.h"
 #include "document/state/program.h"
 #include "document/windows/velmora.h"
+#include "platform/cancelled.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"
@@ -39,6 +41,8 @@ void set_pointer(int pointer) {
 
 void DoEvents() {
     platform().windows.yield();
+    if (state::loading.reading && state::loading.cancel_asked)
+        throw Cancelled{};
 }
 
 int MsgBox(std::string_view text, int buttons, std::string_view title) {

@@ -12,7 +12,8 @@ namespace velmora {
 void set_status(std::string_view text);
 /// The screen's pointer: 0 default, 2 cross, 11 hourglass.
 void set_pointer(int pointer);
-/// Lets the windows run. Cheap enough for every step of a long loop.
+/// Lets the windows run. Cheap enough for every step of a long loop. While a file is read
+/// or a drawing captured it throws Cancelled once the user asked for that.
 void DoEvents();
 
 /// A message box; an empty title is "Velmora". The answer is returned, and stays in Respuesta.

@@ -1,5 +1,6 @@
 #include "formats/dxf_text.h"
 
+#include "document/feedback.h"
 #include "document/number_text.h"
 #include "document/separator.h"
 #include "document/state/loading.h"
@@ -27,6 +28,10 @@ std::string_view DxfText::counted_line() {
 }
 
 std::string_view DxfText::line() {
+    constexpr int many = 1024;
+    // What is passed over, however much, leaves the user his way out.
+    if (++lines_ % many == 0)
+        DoEvents();
     last_ = state::loading.files.line_input(1);
     return last_;
 }

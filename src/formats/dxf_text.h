@@ -37,6 +37,7 @@ class DxfText {
     std::string_view last_;
     std::string room_;
     std::int32_t counted_ = 0;
+    std::int64_t lines_ = 0; ///< all of them
 };
 
 } // namespace velmora

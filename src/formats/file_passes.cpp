@@ -1,5 +1,6 @@
 #include "formats/file_passes.h"
 
+#include "document/feedback.h"
 #include "document/state/loading.h"
 #include "document/state/program.h"
 #include "formats/draft.h"
@@ -62,6 +63,7 @@ void write_replaced(const std::string& temp, char from, char to, std::uint64_t l
             raise(error::device_io);
         state::loading.files.write(kTemp, runtime::replaced(chunk, from, to));
         rest -= chunk.size();
+        DoEvents();
     }
     state::loading.files.close(kTemp);
 }

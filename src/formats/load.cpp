@@ -1,6 +1,7 @@
 #include "formats/load.h"
 
 #include "cad/entity_counters.h"
+#include "document/cancelling.h"
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
@@ -14,6 +15,7 @@
 #include "formats/file_passes.h"
 #include "formats/origin.h"
 #include "formats/passed_over.h"
+#include "formats/reading.h"
 #include "formats/seen_file.h"
 #include "formats/totals.h"
 #include "platform/dialogs.h"
@@ -98,6 +100,14 @@ void show_info_window() {
     state::wininfo.chk_wininfo = true;
 }
 
+/// Of a load that does not come about. The box of a recent file names that file already: a save
+/// must not write this outline over it.
+void stand_as_before(const ShapeBefore& before, std::int16_t mode) {
+    before.put_back();
+    if (mode != 1)
+        state::Velmora.TxtDat_File = has_shape() ? state::document.FileName : "";
+}
+
 void refuse(const std::string& path, const std::string& format_text) {
     MsgBox(joined_by_blanks(
                {GetMensaje(message::the_file), path, GetMensaje(message::not_loaded), format_text}),
@@ -149,11 +159,21 @@ void CargaFichero(std::int16_t mode, std::int16_t& result) {
     const std::string path = mode == 1 ? ask_for_path() : state::Velmora.TxtDat_File;
     if (path.empty())
         return;
+    const ShapeBefore before;
+    if (!may_be_read(path)) {
+        stand_as_before(before, mode);
+        return;
+    }
     show_info_window();
     DoEvents();
     state::document.LastDir = QuitaNombre(path);
     show_reading(path);
-    const std::string format_text = read_by_kind(path);
+    std::string format_text;
+    if (!run_or_cancel([&] { format_text = read_by_kind(path); })) {
+        stand_as_before(before, mode);
+        set_status(GetMensaje(message::reading_cancelled));
+        return;
+    }
     if (state::document.LoadOk == False) {
         refuse(path, format_text);
         return;

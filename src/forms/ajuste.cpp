@@ -6,6 +6,7 @@
 #include "cutprep/side.h"
 #include "cutprep/side_readers.h"
 #include "cutprep/side_writer.h"
+#include "document/cancelling.h"
 #include "document/feedback.h"
 #include "document/shown.h"
 #include "document/state/document.h"
@@ -57,14 +58,27 @@ std::string file_name(const std::string& path) {
     return path.substr(path.find_last_of("/\\") + 1);
 }
 
+/// A side that is cancelled keeps the points, the file and the totals of before.
+bool read_side_or_cancel(const Side& side, std::string& file, const std::string& path) {
+    const AjusteWindow boxes = state::ajuste;
+    const Array<Pto> points = side.Ptos;
+    file = path;
+    bool read = false;
+    if (run_or_cancel([&] { read = read_side(side, path); }))
+        return read;
+    state::ajuste = boxes;
+    side.Ptos = points;
+    set_pointer(kDefaultPointer);
+    return false;
+}
+
 void select_side(const Side& side, std::string& file, const Side& other, void (*draw)()) {
     state::ajuste.cmd_opt_enabled = false;
     state::ajuste.lbl_estado.clear();
     const std::string path = ask_for_path();
     if (path.empty())
         return;
-    file = path;
-    if (!read_side(side, path))
+    if (!read_side_or_cancel(side, file, path))
         return;
     draw();
     if (other.Ptos.upper() > 0)

@@ -48,6 +48,20 @@ void refuse_folder(const std::filesystem::path& path) {
         raise(error::path_access);
 }
 
+/// A pipe blocks until somebody writes, a device may give bytes for ever.
+void refuse_endless(const std::filesystem::path& path) {
+    std::error_code ignored;
+    const auto status = std::filesystem::status(path, ignored);
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+        raise(error::path_access);
+}
+
+void refuse_pipe(const std::filesystem::path& path) {
+    std::error_code ignored;
+    if (std::filesystem::is_fifo(path, ignored))
+        raise(error::path_access);
+}
+
 /// The longest name of a file on the systems that are reached, in their units.
 constexpr std::size_t longest_name = 255;
 
@@ -81,6 +95,7 @@ bool is_present(const std::filesystem::path& path) {
 } // namespace
 
 FileHandle open_present(const std::filesystem::path& path) {
+    refuse_endless(path);
     return open_or_raise(path, "rb", FileNeed::present);
 }
 
@@ -92,6 +107,7 @@ FileHandle open_to_update(const std::filesystem::path& path) {
     if (!is_present(path))
         return open_or_raise(path, "w+b", FileNeed::made);
     refuse_folder(path);
+    refuse_pipe(path);
     if (FileHandle file = system_open(path, "r+b"))
         return unbuffered(std::move(file));
     return open_present(path);

@@ -10,6 +10,8 @@ namespace velmora::runtime {
 namespace {
 
 constexpr char end_mark = 26;
+/// Bytes. What goes on beyond is no text, and would fill the memory.
+constexpr std::size_t longest_line = std::size_t{64} * 1024 * 1024;
 
 enum class Use { lines, output, bytes, records };
 
@@ -97,8 +99,11 @@ std::string_view FileTable::OpenFile::line() {
     if (at_text_end())
         raise(error::past_end);
     std::size_t length = end_of_line(reading_.waiting(), 0);
-    while (length == reading_.waiting().size() && more())
+    while (length == reading_.waiting().size() && more()) {
         length = end_of_line(reading_.waiting(), length);
+        if (length > longest_line)
+            raise(error::out_of_memory);
+    }
     const bool feed_may_follow = reading_.waiting().substr(length) == "\r";
     if (feed_may_follow)
         more();

@@ -42,7 +42,7 @@ class FileTable {
     /// Text: nothing more to read, or byte 26 next. Records: a read found less than a record.
     [[nodiscard]] bool eof(int number);
     /// The next line without its end (CR LF, LF, or CR alone); valid until the next use of the
-    /// number. Raises 62 at the end.
+    /// number. Raises 62 at the end, 7 for a line of more than 64 MB.
     std::string_view line_input(int number);
     /// The next record, `length` bytes; what the file lacks is blank. Valid until the next use.
     std::string_view read_record(int number);

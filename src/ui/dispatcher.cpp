@@ -1,6 +1,8 @@
 // The dispatcher of WindowHost: events to handlers, faults, yields, the end of the program.
 #include "document/feedback.h"
+#include "document/state/loading.h"
 #include "formats/recovery.h"
+#include "platform/cancelled.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
@@ -9,6 +11,7 @@
 #include "ui/window_host_state.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QTimer>
 #include <algorithm>
 #include <array>
@@ -77,11 +80,32 @@ std::optional<RuntimeError> failure_of(const std::function<void()>& handler) {
         return failure;
     } catch (const std::bad_alloc&) {
         return RuntimeError(error::out_of_memory);
+    } catch (const Cancelled&) {
+        // Whoever waits for a CAD outside of a capture: the command ends there.
     } catch (const std::exception& other) {
         return RuntimeError(kInternalError, other.what());
     }
     return {};
 }
+
+/// Esc ends a reading under way, whichever window has it.
+class EscapeWatch : public QObject {
+  public:
+    EscapeWatch() {
+        if (state::loading.reading)
+            QCoreApplication::instance()->installEventFilter(this);
+    }
+
+  private:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
+            return false;
+        if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
+            return false;
+        state::loading.cancel_asked = true;
+        return true;
+    }
+};
 
 void exit_event_loops(int status) {
     QCoreApplication::exit(status);
@@ -137,7 +161,10 @@ void WindowHost::yield() {
     if (now - d->last_yield < kYieldInterval)
         return;
     refresh();
-    QCoreApplication::processEvents();
+    {
+        const EscapeWatch watch;
+        QCoreApplication::processEvents();
+    }
     d->last_yield = platform().clock.now();
     d->leave_if_ended();
 }

@@ -131,5 +131,28 @@ TEST_F(CadCommandsTest, no_picked_origin_no_capture) {
     EXPECT_THAT(machine.pic.operations, IsEmpty());
 }
 
+TEST_F(CadCommandsTest, a_capture_that_esc_ends_leaves_all_as_it_was) {
+    open_square();
+    set_shape({{.X = 1}, {.X = 2, .Sinc = 1}});
+    for (const int last : {1, 2, 3, 5, 8}) {
+        int turn = 0;
+        const test::WatchingTurns turns([&] {
+            if (++turn == last)
+                session.cancel_asked = session.reading;
+        });
+        mnu_capture();
+        EXPECT_EQ(Forma.Pto.upper(), 1) << last;
+        EXPECT_EQ(session.FileName, "/viejo.dat");
+        EXPECT_EQ(session.Velmora.TxtDat_File, "/viejo.dat");
+        EXPECT_EQ(session.Velmora.TxtDescDat, "viejo");
+        EXPECT_EQ(session.PtoSel, 2);
+        EXPECT_EQ(session.Velmora.StatusBar1, "Captura cancelada.");
+        EXPECT_EQ(session.Velmora.MousePointer, 0);
+    }
+    EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
+    mnu_capture();
+    EXPECT_EQ(Forma.Pto.upper(), 3);
+}
+
 } // namespace
 } // namespace velmora

@@ -135,6 +135,10 @@ bool CadServer::say_own(const QStringList& words) {
         const QString points = QString(" 0.5 0.25").repeated(words[2].toInt());
         for (int i = 0; i < words[1].toInt(); ++i)
             say("raw AcDbPolyline open" + points);
+    } else if (what == "claim") {
+        claimed_ = words[1].toInt();
+    } else if (what == "mute") {
+        mute_.insert(words[1]);
     } else if (what == "block") {
         most_in_block_ = words[1].toInt();
     } else if (what == "erase-after-read") {
@@ -217,6 +221,8 @@ bool CadServer::answer_call(const QDBusMessage& message, const QDBusConnection& 
         bus.send(message.createReply(other_answers_.take(method)));
         return true;
     }
+    if (mute_.contains(method))
+        return true;
     if (dying_.contains(method)) {
         QTimer::singleShot(pick_wait_, [] { std::_Exit(1); });
         return true;
@@ -288,7 +294,7 @@ QVariant CadServer::document_value(const QString& method, driver::CadDrawing& dr
     }
     if (method == "EntityCount") {
         state_.use("ModelSpace.Count");
-        return static_cast<int>(drawing.model_space.size());
+        return claimed_.value_or(static_cast<int>(drawing.model_space.size()));
     }
     if (method == "ActivateDocument") {
         state_.log.emplace_back("Activate");

@@ -5,6 +5,8 @@
 //     run-of-lines N                     lines of length 1 along X
 //     run-of-polylines N POINTS          open polylines of so many points each
 //     block N                            no more than N entities an answer
+//     claim N                            the drawing says that it has so many entities
+//     mute METHOD                        the method is there and never answers
 //     erase-after-read N                 the next block read, entity N goes
 //     close-after-read                   the next block read, the active document is closed
 //     pick-wait MILLISECONDS             the picks that follow are answered so much later
@@ -61,6 +63,8 @@ class CadServer : public QDBusVirtualObject {
     driver::CadState state_;
     int most_in_block_ = 1000000;
     std::optional<int> erase_after_read_;
+    std::optional<int> claimed_;
+    QSet<QString> mute_;
     int pick_wait_ = 0;
     bool pick_short_ = false;
     bool close_after_read_ = false;

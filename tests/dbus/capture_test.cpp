@@ -11,6 +11,8 @@
 #include "support/error_number.h"
 #include "support/outline.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QTimer>
 #include <QWidget>
 
@@ -238,6 +240,52 @@ TEST_F(BusCaptureTest, ten_thousand_entities_arrive_in_order) {
     EXPECT_EQ(session.TotalObjs, 10000);
     EXPECT_EQ(Forma.Pto.upper(), 9999);
     EXPECT_EQ(Forma.Pto[9999].X, 9999);
+}
+
+TEST_F(BusCaptureTest, a_drawing_that_claims_more_than_any_has_is_refused_at_once) {
+    open_drawing({"line 0 0 10 0"});
+    for (const char* claim : {"claim 2147483647", "claim 10000001"}) {
+        remote->say(claim);
+        EXPECT_EQ(number_of(capture), 7);
+    }
+    remote->say("claim -1");
+    EXPECT_EQ(number_of(capture), 13);
+}
+
+TEST_F(BusCaptureTest, a_claim_that_the_drawing_does_not_keep_raises_9_where_it_ends) {
+    open_drawing({"line 0 0 10 0", "line 10 0 10 10", "claim 9000000"});
+    EXPECT_EQ(number_of(capture), 9);
+    EXPECT_EQ(session.TotalObjs, 2);
+}
+
+TEST_F(BusCaptureTest, a_text_beyond_any_name_is_refused) {
+    open_drawing({"line 0 0 10 0"});
+    remote->say("raw " + QString(100000, 'x') + " open");
+    EXPECT_EQ(number_of(capture), 7);
+}
+
+/// An Esc of the user while the CAD says nothing.
+void press_escape_in(int milliseconds) {
+    QTimer::singleShot(milliseconds, [] {
+        QCoreApplication::postEvent(QCoreApplication::instance(),
+                                    new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, {}));
+    });
+}
+
+TEST_F(BusCaptureTest, esc_ends_the_wait_for_an_answer_that_never_comes) {
+    for (const char* method : {"mute EntityCount", "mute ReadEntities"}) {
+        cad = make_dbus_cad(
+            {.to_attach = std::chrono::milliseconds(300), .to_answer = std::chrono::hours(1)});
+        set_platform({machine.dialogs, machine.windows, machine.shell, machine.settings,
+                      *machine.database, machine.clock, machine.machine, machine.pic, *cad});
+        open_drawing({"line 0 0 10 0"});
+        test::set_shape({{.X = 1}, {.X = 2}});
+        remote->say(method);
+        press_escape_in(100);
+        mnu_capture();
+        EXPECT_EQ(test::shape(), (test::Points{{.X = 1}, {.X = 2}}));
+        EXPECT_EQ(session.Velmora.StatusBar1, "Captura cancelada.");
+    }
 }
 
 struct BusPickTest : BusCaptureTest {};

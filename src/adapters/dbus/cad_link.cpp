@@ -2,13 +2,16 @@
 
 #include "adapters/dbus/bus_faults.h"
 #include "cad/autocad.h"
+#include "platform/cancelled.h"
 
+#include <QCoreApplication>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusReply>
 #include <QDBusVariant>
 #include <QEventLoop>
+#include <QKeyEvent>
 
 #include <limits>
 
@@ -55,6 +58,60 @@ QDBusMessage answer_to(const QDBusConnection& bus, QDBusMessage question,
         raise(error::server_unavailable);
     if (watcher.isError())
         throw fault_of_question(bus, question, watcher.error(), silence);
+    return watcher.reply();
+}
+
+/// Keeps what a person does in the windows from them, but for Esc, which ends the wait.
+class EscapeAlone : public QObject {
+  public:
+    explicit EscapeAlone(QEventLoop& wait) : wait_(wait) {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+    [[nodiscard]] bool pressed() const { return pressed_; }
+
+  private:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::ShortcutOverride:
+            if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+                pressed_ = true;
+                wait_.quit();
+            }
+            return true;
+        case QEvent::KeyRelease:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+        case QEvent::Close:
+            return true;
+        default:
+            return false;
+        }
+    }
+
+    QEventLoop& wait_;
+    bool pressed_ = false;
+};
+
+/// As `answer_to`; Esc throws Cancelled.
+QDBusMessage answer_or_cancel(const QDBusConnection& bus, QDBusMessage question,
+                              std::chrono::milliseconds patience) {
+    question.setAutoStartService(false);
+    const QDBusPendingCallWatcher watcher(
+        bus.asyncCall(question, static_cast<int>(patience.count())));
+    QEventLoop loop;
+    QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+    const EscapeAlone escape(loop);
+    if (!watcher.isFinished())
+        loop.exec();
+    if (escape.pressed())
+        throw Cancelled{};
+    if (!watcher.isFinished())
+        raise(error::server_unavailable);
+    if (watcher.isError())
+        throw fault_of_question(bus, question, watcher.error(), error::server_unavailable);
     return watcher.reply();
 }
 
@@ -106,6 +163,13 @@ QVariant CadLink::ask(const char* method, const char* signature,
     return only_value(
         answer_to(bus_, question_to(owner_, kInterface, method, arguments), patience_.to_answer),
         signature);
+}
+
+QVariant CadLink::ask_patiently(const char* method, const char* signature,
+                                const QVariantList& arguments) const {
+    return only_value(answer_or_cancel(bus_, question_to(owner_, kInterface, method, arguments),
+                                       patience_.to_answer),
+                      signature);
 }
 
 QVariant CadLink::ask_user(const char* method, const char* signature,

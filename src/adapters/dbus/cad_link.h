@@ -24,6 +24,10 @@ class CadLink {
     /// another.
     [[nodiscard]] QVariant ask(const char* method, const char* signature,
                                const QVariantList& arguments = {}) const;
+    /// The same where the answer may be long on its way: Esc in a window of the program throws
+    /// Cancelled.
+    [[nodiscard]] QVariant ask_patiently(const char* method, const char* signature,
+                                         const QVariantList& arguments) const;
     /// The same for a question to the user, who may take any time.
     [[nodiscard]] QVariant ask_user(const char* method, const char* signature,
                                     const QVariantList& arguments) const;

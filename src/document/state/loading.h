@@ -24,6 +24,8 @@ struct LoadingState {
     runtime::FileTable files;
     SeenFile seen; ///< the outline's
     std::uint64_t seen_times = 0;
+    bool reading = false;
+    bool cancel_asked = false; ///< by Esc, while `reading`
 };
 
 namespace state {
