@@ -1,6 +1,7 @@
 #include "app/command_line.h"
 #include "app/program_folder.h"
 #include "app/qt_platform.h"
+#include "app/session_guard.h"
 #include "commands/handlers.h"
 #include "document/state/program.h"
 #include "runtime/paths.h"
@@ -64,6 +65,7 @@ int main(int argc, char** argv) {
     choose_folder();
     if (!line.file.empty())
         open_at_start(*platform.windows, line.file);
+    const velmora::SessionGuard guard(*platform.windows);
     platform.windows->start();
     return QApplication::exec();
 }

@@ -2,6 +2,7 @@
 #include "cad/entity_counters.h"
 #include "canvas/print.h"
 #include "commands/handlers.h"
+#include "commands/open_recovered.h"
 #include "document/flag.h"
 #include "document/forma.h"
 #include "document/options.h"
@@ -109,6 +110,19 @@ void open_named(std::string_view path) {
     Define_Layout();
     Dibuja();
     UpdateFileMenu(path);
+    Carga_List_Coords("NEWFILE");
+}
+
+void open_recovered(const std::string& path) {
+    state::Velmora.TxtDat_File = path;
+    std::int16_t result = False;
+    CargaFichero(0, result);
+    if (result != True)
+        return;
+    state::document.PtoSel = 0;
+    Apply_Precision();
+    Define_Layout();
+    Dibuja();
     Carga_List_Coords("NEWFILE");
 }
 

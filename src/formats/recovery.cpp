@@ -56,7 +56,7 @@ std::string free_name(const std::string& folder) {
 }
 
 /// Through files of its own: the program's may be open, or at fault.
-void write_outline(const std::string& path) {
+void write_outline(const KeptOutline& outline, const std::string& path) {
     runtime::FileTable files;
     files.open_random(1, path, FixedRecord::length);
     const auto write = [&files](const FixedRecord& record) {
@@ -64,8 +64,8 @@ void write_outline(const std::string& path) {
     };
     const auto nothing = [] {
     };
-    sync_dat_outline(state::Velmora.TxtDescDat, write, nothing);
-    sync_dat_sync_points(write, nothing);
+    sync_dat_outline(outline.description, write, nothing, outline.points);
+    sync_dat_sync_points(write, nothing, outline.points);
     files.close(1);
 }
 
@@ -73,7 +73,7 @@ void write_outline(const std::string& path) {
 /// unreadable.
 std::string save_in(const std::string& folder) {
     runtime::FileBeside fresh(runtime::join(folder, "recuperado.dat"));
-    write_outline(fresh.path());
+    write_outline(present_outline(), fresh.path());
     platform().shell.settle(fresh.path());
     std::string path = free_name(folder);
     fresh.take_name(path);
@@ -106,6 +106,25 @@ constexpr auto kKeptTexts = std::to_array<KeptText>({
 });
 
 } // namespace
+
+KeptOutline present_outline() {
+    return {Forma.Pto, state::Velmora.TxtDescDat};
+}
+
+void write_kept(const KeptOutline& outline, const std::string& path) {
+    runtime::FileBeside fresh(path);
+    write_outline(outline, fresh.path());
+    platform().shell.settle(fresh.path());
+    fresh.take_name();
+}
+
+std::string take_over(const std::string& left) {
+    const std::string folder = runtime::path_text(runtime::native_path(left).parent_path());
+    std::string path = free_name(folder);
+    std::error_code fault;
+    std::filesystem::rename(runtime::native_path(left), runtime::native_path(path), fault);
+    return fault ? left : path;
+}
 
 std::string save_recovery() noexcept {
     try {

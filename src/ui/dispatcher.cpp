@@ -131,6 +131,8 @@ void WindowHost::run(const std::function<void()>& handler) {
         // The end was announced where it was asked for.
     }
     --d->running;
+    if (d->running == 0 && events.handled)
+        events.handled();
     if (d->ending_depth > d->running)
         d->finish(0);
     if (d->ended)

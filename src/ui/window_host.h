@@ -31,6 +31,8 @@ struct WindowEvents {
     /// on.
     std::function<void(const RuntimeError& failure)> stopped;
     std::function<void()> ended;
+    /// A handler that none waits for returned.
+    std::function<void()> handled;
 };
 
 class WindowHost : public QObject, public ProgramWindows, public EventSink {
