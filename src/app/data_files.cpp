@@ -51,7 +51,9 @@ std::optional<QByteArray> bytes_of(const fs::path& path) {
     QFile file(qt_path(path));
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    return file.readAll();
+    QByteArray bytes = file.readAll();
+    // What was read before a fault of the disk is no file.
+    return file.error() == QFileDevice::NoError ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 QByteArray digest(const QByteArray& bytes) {
