@@ -1,4 +1,5 @@
 // Every writer, at every call of the system: what the user had is there until what he gets is.
+#include "adapters/qt/qt_settings.h"
 #include "cutprep/side_writer.h"
 #include "document/session.h"
 #include "formats/file_passes.h"
@@ -6,11 +7,13 @@
 #include "formats/recovery.h"
 #include "hampered.h"
 #include "place.h"
+#include "platform/settings_store.h"
 #include "runtime/error.h"
 #include "runtime/paths.h"
 #include "shim.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <set>
 #include <sys/syscall.h>
@@ -229,6 +232,38 @@ TEST_F(HamperedTest, a_recovery_file_is_whole_and_the_older_one_stays) {
         EXPECT_EQ(found.size(), found.contains(fresh) ? 2U : 1U) << "half written: " << where;
     };
     test::hamper_every_call({prepare, write, look});
+}
+
+/// The store of the settings in a file.
+TEST_F(HamperedTest, settings_are_the_old_ones_or_the_new_ones) {
+    Place place(Bin::none);
+    const auto save = [&place](const std::string& language) {
+        const auto store = make_file_settings(place.path("Velmora.conf"));
+        for (const char* key : {"Idioma", "Def_Zoom", "Def_Dec"})
+            store->save("Values", key, language);
+        if (!store->keep())
+            raise(error::path_access);
+    };
+    const auto prepare = [&] {
+        place.clear();
+        save("E");
+    };
+    int looks = 0;
+    const auto look = [&](const Outcome& outcome, const std::string& where) {
+        // Under a name of its own: the toolkit keeps what it read of a name, for a millisecond at
+        // least.
+        const std::string seen = place.path("seen-" + std::to_string(++looks) + ".conf");
+        std::filesystem::copy_file(place.path("Velmora.conf"), seen);
+        const auto store = make_file_settings(seen);
+        const std::string kept = store->get("Values", "Idioma").value_or("none");
+        for (const char* key : {"Def_Zoom", "Def_Dec"})
+            EXPECT_EQ(store->get("Values", key).value_or("none"), kept) << where;
+        EXPECT_TRUE(kept == "E" || kept == "I") << kept << ": " << where;
+        if (outcome.finished && outcome.error == 0) {
+            EXPECT_EQ(kept, "I") << where;
+        }
+    };
+    test::hamper_every_call({prepare, [&] { save("I"); }, look});
 }
 
 } // namespace
