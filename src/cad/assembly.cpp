@@ -5,6 +5,7 @@
 #include "document/flag.h"
 #include "document/forma.h"
 #include "document/number_text.h"
+#include "document/pointer_shape.h"
 #include "document/shown.h"
 #include "document/state/cad.h"
 #include "document/state/document.h"
@@ -133,7 +134,7 @@ void copy_chain(std::int32_t& write_index) {
 
 void finish_figures() {
     shown::TotalPtos().put(state::document.UltimoPto - 1);
-    set_pointer(0);
+    set_pointer(pointer::standard);
     shown::TotalSinc().put(0);
     state::cad.ObjsCad.redim(0);
     DoEvents();

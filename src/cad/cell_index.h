@@ -1,6 +1,8 @@
 // The cells of whole units that points lie in, numbered from 0 in the order of their first mention.
 #pragma once
 
+#include "runtime/place_slots.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -9,7 +11,7 @@ namespace velmora {
 
 class CellIndex {
   public:
-    static constexpr std::int32_t none = -1;
+    static constexpr std::int32_t none = runtime::PlaceSlots::none;
 
     /// `most_cells` is the number of mentions at most.
     explicit CellIndex(std::size_t most_cells);
@@ -29,11 +31,15 @@ class CellIndex {
     };
 
     [[nodiscard]] static Cell cell_of(double X, double Y);
-    [[nodiscard]] std::size_t first_slot_of(const Cell& cell) const;
-    [[nodiscard]] std::size_t slot_of(const Cell& cell) const;
+    /// Whether a number is the cell's.
+    [[nodiscard]] auto is(const Cell& cell) const {
+        return [this, cell](std::int32_t number) {
+            return cells_[static_cast<std::size_t>(number)] == cell;
+        };
+    }
 
-    std::vector<std::int32_t> slots_; ///< open addressing, a power of two; numbers of cells
-    std::vector<Cell> cells_;         ///< by number
+    runtime::PlaceSlots numbers_;
+    std::vector<Cell> cells_; ///< by number
 };
 
 } // namespace velmora

@@ -4,6 +4,7 @@
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
+#include "document/pointer_shape.h"
 
 #include <utility>
 
@@ -40,7 +41,7 @@ std::int32_t ChainFinder::BuscaSiguiente(double X, double Y, bool porVertices) {
         return last_left();
     const std::int32_t polyline = porVertices ? polyline_with_vertex(X, Y) : nothing;
     if (polyline == nothing)
-        set_pointer(0);
+        set_pointer(pointer::standard);
     return polyline;
 }
 
@@ -56,7 +57,7 @@ std::int32_t ChainFinder::next_after(std::int32_t index) {
         return found;
     if (unused_ == 1)
         return last_left();
-    set_pointer(0);
+    set_pointer(pointer::standard);
     return nothing;
 }
 

@@ -3,6 +3,7 @@
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
+#include "document/pointer_shape.h"
 #include "document/refresh.h"
 #include "document/selection.h"
 #include "document/shown.h"
@@ -54,7 +55,7 @@ void end_insertion() {
 
 void leave_modes() {
     state::view.MoveShapeMode = False;
-    state::Velmora.pic_MousePointer = 0;
+    state::Velmora.pic_MousePointer = pointer::standard;
     set_status("");
     if (state::view.PtosToInsertMode)
         end_insertion();

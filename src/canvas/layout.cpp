@@ -12,20 +12,6 @@ namespace velmora {
 
 namespace {
 
-struct Extents {
-    double max_x;
-    double min_x;
-    double max_y;
-    double min_y;
-};
-
-Extents extents_of_shape() {
-    const double max_x = GetMaxX("0");
-    const double min_x = GetMinX("0");
-    const double max_y = GetMaxY("0");
-    return {max_x, min_x, max_y, GetMinY("0")};
-}
-
 void show_figures(const Extents& extents) {
     shown::Longitud().put(runtime::checked(extents.max_x - extents.min_x));
     shown::Altura().put(runtime::checked(extents.max_y - extents.min_y));
@@ -44,7 +30,8 @@ void place_scroll_bars(const Extents& extents) {
 } // namespace
 
 void Define_Layout() {
-    const Extents extents = extents_of_shape();
+    const Extents extents =
+        extents_of("0", {Bound::max_x, Bound::min_x, Bound::max_y, Bound::min_y});
     state::view.MinXForma = extents.min_x;
     state::view.MinYForma = extents.min_y;
     show_figures(extents);

@@ -7,6 +7,7 @@
 #include "document/flag.h"
 #include "document/forma.h"
 #include "document/number_text.h"
+#include "document/pointer_shape.h"
 #include "document/refresh.h"
 #include "document/selection.h"
 #include "document/shown.h"
@@ -29,7 +30,6 @@ namespace {
 
 constexpr double kReach = 2;
 constexpr float kLabelDistance = 10;
-constexpr int kCross = 2;
 
 std::string label_of(std::int32_t index) {
     const Pto& point = Forma.Pto[index];
@@ -48,11 +48,11 @@ void show_label(std::int32_t index, float X, float Y) {
 void hover(float X, float Y) {
     state::view.HoverPto = HitPto(X, Y);
     if (state::view.HoverPto < 0) {
-        set_pointer(0);
+        set_pointer(pointer::standard);
         state::Velmora.lbl_xyfloat_visible = false;
         return;
     }
-    set_pointer(kCross);
+    set_pointer(pointer::cross);
     if (state::view.ShowCoords)
         show_label(state::view.HoverPto, X, Y);
 }
@@ -85,7 +85,7 @@ void drop_shape(float X, float Y) {
     if (has_selection())
         move_shape();
     state::view.MoveShapeMode = False;
-    state::Velmora.pic_MousePointer = 0;
+    state::Velmora.pic_MousePointer = pointer::standard;
     if (!state::view.NoRedraw)
         refresh_changed_shape();
 }

@@ -23,10 +23,6 @@ constexpr std::uint32_t kRed = 255;
 /// A point with this in Sinc has no circle; 0 and 1 both have one.
 constexpr std::int16_t kNoCircle = -1;
 
-struct Extents {
-    double max_x, max_y, min_x, min_y;
-};
-
 struct PaperPoint {
     float x, y;
 };
@@ -35,13 +31,6 @@ Printer& printer() {
     if (platform().printer == nullptr)
         raise(error::object_not_set);
     return *platform().printer;
-}
-
-Extents extents_of_shape() {
-    const double max_x = GetMaxX("0");
-    const double max_y = GetMaxY("0");
-    const double min_x = GetMinX("0");
-    return {max_x, max_y, min_x, GetMinY("0")};
 }
 
 /// The origin takes the precision of the printer's current place: 32 bits.
@@ -102,7 +91,8 @@ void print_shape() {
 void PrintPic() {
     if (!shape_at_hand())
         return;
-    const Extents extents = extents_of_shape();
+    const Extents extents =
+        extents_of("0", {Bound::max_x, Bound::max_y, Bound::min_x, Bound::min_y});
     state::view.NoRedraw = False;
     printer().set_Orientation(extents.max_x <= extents.max_y ? Orientation::portrait
                                                              : Orientation::landscape);

@@ -4,6 +4,7 @@
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
+#include "document/pointer_shape.h"
 #include "document/refresh.h"
 #include "document/selection.h"
 #include "document/state/document.h"
@@ -18,9 +19,7 @@
 
 namespace velmora {
 
-namespace {
-constexpr int kUpArrow = 10;
-}
+namespace {}
 
 void Delete_N_Ptos() {
     if (Forma.Pto.upper() < 3)
@@ -71,7 +70,7 @@ void Move_Shape() {
     if (!has_selection())
         return;
     state::view.MoveShapeMode = True;
-    state::Velmora.pic_MousePointer = kUpArrow;
+    state::Velmora.pic_MousePointer = pointer::up_arrow;
     state::view.DestX = state::view.DestY = 0;
     set_status(GetMensaje(message::pick_new_place));
 }

@@ -4,6 +4,7 @@
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
+#include "document/pointer_shape.h"
 #include "document/shown.h"
 #include "document/state/document.h"
 #include "document/state/loading.h"
@@ -95,7 +96,7 @@ Pass read_slwmd(std::string_view path, Array<Pto>& pts, const SideTotals& totals
 void refuse(std::string_view path) {
     MsgBox(joined_by_blanks({GetMensaje(message::the_file), path, GetMensaje(message::not_loaded)}),
            buttons::critical, box_title());
-    set_pointer(0);
+    set_pointer(pointer::standard);
 }
 
 } // namespace

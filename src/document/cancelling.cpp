@@ -1,6 +1,7 @@
 #include "document/cancelling.h"
 
 #include "document/feedback.h"
+#include "document/pointer_shape.h"
 #include "document/refresh.h"
 #include "document/state/cad.h"
 #include "document/state/loading.h"
@@ -69,7 +70,7 @@ void ShapeBefore::put_back() const {
     for (std::size_t i = 0; i < counts_.size(); ++i)
         *counts()[i] = counts_[i];
     state::Velmora.Pbar1.Value = state::Velmora.pbar2.Value = 0;
-    set_pointer(0);
+    set_pointer(pointer::standard);
     if (has_shape())
         Dibuja();
 }

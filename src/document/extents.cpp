@@ -59,6 +59,27 @@ double GetMaxY(std::string_view selector) {
     return extent("Error GetMaxY nº: ", selector, &Pto::Y, kMaximumStart, above);
 }
 
+Extents extents_of(std::string_view selector, const std::array<Bound, 4>& order) {
+    Extents extents;
+    for (const Bound bound : order) {
+        switch (bound) {
+        case Bound::min_x:
+            extents.min_x = GetMinX(selector);
+            break;
+        case Bound::max_x:
+            extents.max_x = GetMaxX(selector);
+            break;
+        case Bound::min_y:
+            extents.min_y = GetMinY(selector);
+            break;
+        case Bound::max_y:
+            extents.max_y = GetMaxY(selector);
+            break;
+        }
+    }
+    return extents;
+}
+
 const Array<Pto>* array_of(std::string_view selector) {
     if (selector == "0")
         return &Forma.Pto;

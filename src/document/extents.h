@@ -3,6 +3,7 @@
 
 #include "document/forma.h"
 
+#include <array>
 #include <string_view>
 
 namespace velmora {
@@ -14,6 +15,18 @@ namespace velmora {
 [[nodiscard]] double GetMaxX(std::string_view selector);
 [[nodiscard]] double GetMinY(std::string_view selector);
 [[nodiscard]] double GetMaxY(std::string_view selector);
+
+struct Extents {
+    double min_x = 0;
+    double max_x = 0;
+    double min_y = 0;
+    double max_y = 0;
+};
+
+enum class Bound { min_x, max_x, min_y, max_y };
+
+/// All four, asked in this order: each that fails shows its own box.
+[[nodiscard]] Extents extents_of(std::string_view selector, const std::array<Bound, 4>& order);
 
 /// The array that a selector names, nullptr for any other text.
 [[nodiscard]] const Array<Pto>* array_of(std::string_view selector);

@@ -1,5 +1,6 @@
 #include "document/feedback.h"
 
+#include "document/pointer_shape.h"
 #include "document/state/loading.h"
 #include "document/state/program.h"
 #include "document/windows/velmora.h"
@@ -11,8 +12,6 @@
 namespace velmora {
 
 namespace {
-constexpr int kDefaultPointer = 0;
-constexpr int kHourglass = 11;
 
 std::string_view own_or_plain(std::string_view title) {
     return title.empty() ? "Velmora" : title;
@@ -74,13 +73,13 @@ void show_trap(std::string_view prefix, const RuntimeError& failure, std::string
 
 LongOperation::LongOperation(std::string_view start_message) {
     set_status(start_message);
-    set_pointer(kHourglass);
+    set_pointer(pointer::hourglass);
     DoEvents();
 }
 
 void LongOperation::finish(std::string_view end_message) {
     set_status(end_message);
-    set_pointer(kDefaultPointer);
+    set_pointer(pointer::standard);
     DoEvents();
 }
 

@@ -7,6 +7,7 @@
 #include "document/flag.h"
 #include "document/forma.h"
 #include "document/number_text.h"
+#include "document/pointer_shape.h"
 #include "document/state/loading.h"
 #include "document/state/program.h"
 #include "document/windows/velmora.h"
@@ -70,10 +71,10 @@ void load(std::string_view fichero, DxfText& text) {
         report_version(fichero);
     state::loading.files.close(1);
     set_status(GetMensaje(message::reorganising_1));
-    set_pointer(11);
+    set_pointer(pointer::hourglass);
     state::Velmora.pbar2.Value = state::Velmora.pbar2.Max;
     walk_dxf();
-    set_pointer(0);
+    set_pointer(pointer::standard);
     OBJS2PTS();
 }
 

@@ -5,6 +5,7 @@
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/forma.h"
+#include "document/pointer_shape.h"
 #include "document/refresh.h"
 #include "document/shown.h"
 #include "document/state/document.h"
@@ -112,7 +113,7 @@ void refuse(const std::string& path, const std::string& format_text) {
     MsgBox(joined_by_blanks(
                {GetMensaje(message::the_file), path, GetMensaje(message::not_loaded), format_text}),
            buttons::critical, box_title());
-    set_pointer(0);
+    set_pointer(pointer::standard);
 }
 
 /// What a reader reads: the file, or where a pass could not rewrite it the passed copy, which is

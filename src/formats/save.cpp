@@ -3,6 +3,7 @@
 #include "document/feedback.h"
 #include "document/flag.h"
 #include "document/options.h"
+#include "document/pointer_shape.h"
 #include "document/recent_files.h"
 #include "document/refresh.h"
 #include "document/state/document.h"
@@ -28,9 +29,6 @@
 namespace velmora {
 
 namespace {
-
-constexpr int kHourglass = 11;
-constexpr int kDefaultPointer = 0;
 
 /// The name that the dialog offers: the last one without its extension, whatever its last four
 /// characters are. Raises 5 for a shorter name.
@@ -158,9 +156,9 @@ void GeneraFichero() {
     Apply_Precision();
     if (state::options.OptimizeOnGen)
         OptimizaPtos();
-    set_pointer(kHourglass);
+    set_pointer(pointer::hourglass);
     const std::int16_t written = EscribeFichero();
-    set_pointer(kDefaultPointer);
+    set_pointer(pointer::standard);
     note_seen(state::document.FileName);
     if (written == False)
         return;

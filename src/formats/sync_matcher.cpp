@@ -1,39 +1,27 @@
 #include "formats/sync_matcher.h"
 
-#include <bit>
-
 namespace velmora {
 
 namespace {
 
-constexpr std::int32_t kNone = -1;
-
-std::uint64_t hash_of(double x, double y) {
-    // Both zeros are one place, as they are to ==.
-    std::uint64_t bits = std::bit_cast<std::uint64_t>(x + 0.0) * 0x9E3779B97F4A7C15U;
-    bits = (bits ^ (bits >> 32U)) + std::bit_cast<std::uint64_t>(y + 0.0);
-    bits = (bits ^ (bits >> 30U)) * 0xBF58476D1CE4E5B9U;
-    bits = (bits ^ (bits >> 27U)) * 0x94D049BB133111EBU;
-    return bits ^ (bits >> 31U);
-}
+constexpr std::int32_t kNone = runtime::PlaceSlots::none;
 
 } // namespace
 
 SyncMatcher::SyncMatcher(Array<Pto>& points) : SyncMatcher(points, points.upper()) {}
 
 SyncMatcher::SyncMatcher(Array<Pto>& points, std::int32_t last)
-    : points_(points), first_at_(std::bit_ceil(2 * points.size()), kNone),
-      next_(points.size(), kNone) {
+    : points_(points), first_at_(2 * points.size()), next_(points.size(), kNone) {
     for (std::int32_t i = last; i >= 0; --i) {
         const Pto& point = points[i];
-        std::int32_t& first = first_at_[slot_of(point.X, point.Y)];
+        std::int32_t& first = first_of(point.X, point.Y);
         next_[static_cast<std::size_t>(i)] = first;
         first = i;
     }
 }
 
 std::int32_t SyncMatcher::mark(double x, double y) {
-    const std::int32_t first = first_at_[slot_of(x, y)];
+    const std::int32_t first = first_of(x, y);
     if (first == kNone)
         return 0;
     const std::int32_t next = next_[static_cast<std::size_t>(first)];
@@ -52,17 +40,11 @@ std::int32_t SyncMatcher::mark_chain(std::int32_t first) {
     return count;
 }
 
-/// The slot of the place, or the free one where it would stand: half of the slots are free.
-std::size_t SyncMatcher::slot_of(double x, double y) const {
-    const std::size_t mask = first_at_.size() - 1;
-    std::size_t slot = hash_of(x, y) & mask;
-    while (first_at_[slot] != kNone) {
-        const Pto& point = points_[first_at_[slot]];
-        if (point.X == x && point.Y == y)
-            break;
-        slot = (slot + 1) & mask;
-    }
-    return slot;
+std::int32_t& SyncMatcher::first_of(double x, double y) {
+    return first_at_.number_of(x, y, [&](std::int32_t first) {
+        const Pto& point = points_[first];
+        return point.X == x && point.Y == y;
+    });
 }
 
 } // namespace velmora

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "document/forma.h"
+#include "runtime/place_slots.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -23,11 +23,11 @@ class SyncMatcher {
     std::int32_t mark(double x, double y);
 
   private:
-    [[nodiscard]] std::size_t slot_of(double x, double y) const;
+    [[nodiscard]] std::int32_t& first_of(double x, double y);
     std::int32_t mark_chain(std::int32_t first);
 
     Array<Pto>& points_;
-    std::vector<std::int32_t> first_at_; ///< by hash: the first point of a place, -1 for none
+    runtime::PlaceSlots first_at_; ///< the first point of a place; half of the slots stay free
     /// The next point of the same place, -1 at the end; for a first point that was marked before,
     /// -1 less the number of points at its place.
     std::vector<std::int32_t> next_;

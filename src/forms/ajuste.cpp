@@ -8,6 +8,7 @@
 #include "cutprep/side_writer.h"
 #include "document/cancelling.h"
 #include "document/feedback.h"
+#include "document/pointer_shape.h"
 #include "document/shown.h"
 #include "document/state/document.h"
 #include "document/state/program.h"
@@ -31,8 +32,6 @@ namespace velmora {
 namespace {
 
 constexpr std::string_view kWindow = "ajuste";
-constexpr int kHourglass = 11;
-constexpr int kDefaultPointer = 0;
 constexpr std::string_view kNotice = "Tened en cuenta que esta funcionalidad, todavia está en "
                                      "fase de pruebas y desarrolo, podeis "
                                      "jugar con ella, y de paso podeis ir comentando cosillas.";
@@ -68,7 +67,7 @@ bool read_side_or_cancel(const Side& side, std::string& file, const std::string&
         return read;
     state::ajuste = boxes;
     side.Ptos = points;
-    set_pointer(kDefaultPointer);
+    set_pointer(pointer::standard);
     return false;
 }
 
@@ -147,7 +146,7 @@ void cmd_opt_Click() {
 
 void Cmd_Ajuste_Click() {
     empty_results();
-    set_pointer(kHourglass);
+    set_pointer(pointer::hourglass);
     adjust();
     DibujaNewMini_A();
     DibujaNewMini_B();
@@ -157,17 +156,17 @@ void Cmd_Ajuste_Click() {
     state::ajuste.Txt_File_A2 = result_path(state::ajuste.txt_fileA);
     state::ajuste.Txt_File_B2 = result_path(state::ajuste.Txt_FileB);
     state::ajuste.Cmd_save_enabled = true;
-    set_pointer(kDefaultPointer);
+    set_pointer(pointer::standard);
 }
 
 void Cmd_save_Click() {
     AjusteWindow& window = state::ajuste;
     window.lbl_estado.clear();
     window.cmd_exit_enabled = false;
-    set_pointer(kHourglass);
+    set_pointer(pointer::hourglass);
     write_results({state::workbench.PtosA2, window.Txt_File_A2},
                   {state::workbench.PtosB2, window.Txt_File_B2}, window.ChkPtosCtrl);
-    set_pointer(kDefaultPointer);
+    set_pointer(pointer::standard);
     window.cmd_exit_enabled = true;
     confirm_save();
 }

@@ -3,6 +3,7 @@
 #include "document/feedback.h"
 #include "document/forma.h"
 #include "document/number_text.h"
+#include "document/pointer_shape.h"
 #include "document/refresh.h"
 #include "document/selection.h"
 #include "document/shown.h"
@@ -56,7 +57,7 @@ void show_maximum(double points) {
 
 void del_Npto_Load() {
     state::del_Npto = {};
-    set_pointer(0);
+    set_pointer(pointer::standard);
     load_literals(kWindow);
     state::del_Npto.MaxDel = Forma.Pto.upper() - 2;
     put_text(state::del_Npto.Txt_JumpPoints, CStr(0), Txt_JumpPoints_Change);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "document/feedback.h"
+#include "document/pointer_shape.h"
 #include "document/windows/velmora.h"
 
 namespace velmora {
@@ -10,7 +11,7 @@ namespace velmora {
 /// fails may be passed over by its caller, and the pointer must not stay.
 class Hourglass {
   public:
-    Hourglass() : before_(state::Velmora.MousePointer) { set_pointer(11); }
+    Hourglass() : before_(state::Velmora.MousePointer) { set_pointer(pointer::hourglass); }
     Hourglass(const Hourglass&) = delete;
     Hourglass& operator=(const Hourglass&) = delete;
     ~Hourglass() { set_pointer(before_); }

@@ -4,6 +4,7 @@
 #include "canvas/keys.h"
 #include "canvas/pointer.h"
 #include "canvas/surface.h"
+#include "document/pointer_shape.h"
 #include "document/refresh.h"
 #include "platform/platform.h"
 #include "toolkit/shown_image.h"
@@ -19,7 +20,6 @@ namespace velmora {
 namespace {
 
 constexpr int kCtrl = 2;
-constexpr int kUpArrow = 10;
 
 int shift_state(bool ctrl) {
     return ctrl ? kCtrl : 0;
@@ -63,7 +63,7 @@ void CanvasView::bind(Bindings& bindings, VelmoraWindow& state) {
                                   });
     bindings.shows<int>([&state] { return state.pic_MousePointer; },
                         [this](int pointer) {
-                            if (pointer == kUpArrow)
+                            if (pointer == pointer::up_arrow)
                                 pic_.setCursor(Qt::UpArrowCursor);
                             else
                                 pic_.unsetCursor();
