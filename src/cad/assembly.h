@@ -1,4 +1,4 @@
-// The end of the road from a drawing: the chained entities become the outline.
+// The last step from a drawing: the chained entities become the outline.
 #pragma once
 
 #include "document/forma.h"

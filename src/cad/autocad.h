@@ -12,7 +12,7 @@
 namespace velmora {
 
 namespace error {
-/// A CAD that runs and turns calls away: it has a question of its own open, or is at work.
+/// A CAD that runs but rejects calls: it has a question of its own open, or is at work.
 inline constexpr int cad_busy = static_cast<int>(0x80010001U);
 } // namespace error
 

@@ -6,8 +6,8 @@
 namespace velmora {
 
 /// Reads the model space into the outline and reports what did not fit. With `origenDelDibujo` the
-/// origin comes from the first entity that is no spline, which clears it. Has no error route: what
-/// the CAD raises goes through, 91 without a document.
+/// origin comes from the first entity that is not a spline, which clears it. Has no error route:
+/// what the CAD raises goes through, 91 without a document.
 void CapturaAcad(Flag& origenDelDibujo);
 
 } // namespace velmora

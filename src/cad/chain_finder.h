@@ -10,8 +10,8 @@
 
 namespace velmora {
 
-/// Made for one walk over a list whose elements' points stay what they are, but for the turning
-/// that the finder does itself. Elements are taken through `take` alone.
+/// Made for one walk over a list whose elements' points don't change, except that the finder itself
+/// turns them round. Elements are taken through `take` alone.
 class ChainFinder {
   public:
     /// Raises 9 for an unused element whose points have no dimensions.
@@ -65,7 +65,7 @@ class ChainFinder {
     std::vector<std::int32_t> cell_of_end_; ///< by end as the entity runs now
     std::vector<bool> used_;                ///< Usado, close together
     std::int32_t unused_ = 0;
-    std::int32_t first_unused_ = 0; ///< nothing unused stands before it
+    std::int32_t first_unused_ = 0; ///< nothing unused is before it
 };
 
 } // namespace velmora

@@ -11,8 +11,7 @@
 namespace velmora {
 
 /// The walk of a DXF load: from element 0 as drawn. What can't be chained while others are left is
-/// given up without a word and keeps its Orden of 0, on purpose. Raises 9 for an element without
-/// points.
+/// given up silently and keeps its Orden of 0, on purpose. Raises 9 for an element without points.
 void walk_dxf();
 
 /// The walk of a capture, from (CadOrigX, CadOrigY). `model_space_count` is the number of entities

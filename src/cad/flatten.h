@@ -10,7 +10,7 @@
 
 namespace velmora {
 
-/// An arc as it is stepped through: point j of 0..count stands at start + j steps.
+/// An arc as it is stepped through: point j of 0..count is at start + j steps.
 struct ArcRun {
     double centre_x = 0;
     double centre_y = 0;

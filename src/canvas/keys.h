@@ -1,4 +1,4 @@
-// The keys of the canvas. They work with a selected point alone; bit 2 of the shift state is Ctrl.
+// The keys of the canvas. They work only with a selected point; bit 2 of the shift state is Ctrl.
 #pragma once
 
 namespace velmora {
@@ -19,9 +19,9 @@ inline constexpr int N = 78;
 inline constexpr int S = 83;
 } // namespace key
 
-/// Carries a key out and repaints, after any key but Ctrl, Shift and Alt, which are none by
-/// themselves. With an index beyond the array selected, Delete,
-/// Insert, S and the arrows change nothing. The list is not refreshed, on purpose.
+/// Carries a key out and repaints, after any key but Ctrl, Shift and Alt, which do nothing by
+/// themselves. With an index beyond the array selected, Delete, Insert, S and the arrows change
+/// nothing. The list is not refreshed, on purpose.
 void pic_KeyDown(int KeyCode, int Shift);
 void pic_KeyUp(int KeyCode, int Shift);
 /// The release of Ctrl goes to another control or window: it counts as released.

@@ -14,7 +14,7 @@
 
 namespace velmora {
 
-/// A pixel as it stands in memory: 0xFF, red, green, blue from the top byte down.
+/// A pixel as it is in memory: 0xFF, red, green, blue from the top byte down.
 using Pixel = std::uint32_t;
 
 /// What a figure is drawn with.

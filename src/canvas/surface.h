@@ -15,11 +15,11 @@ struct PixelPoint {
     bool operator==(const PixelPoint&) const = default;
 };
 
-/// How a pen meets what stands on the surface. Only `Line` and `FillBox` heed the mode; the other
+/// How a pen meets what is on the surface. Only `Line` and `FillBox` heed the mode; the other
 /// operations copy.
 enum class DrawMode {
-    mask_pen_not = 5, ///< pen and not what stands
-    invert = 6,       ///< not what stands
+    mask_pen_not = 5, ///< pen and not what is there
+    invert = 6,       ///< not what is there
     copy_pen = 13,
 };
 

@@ -26,8 +26,8 @@ struct ToolKey {
     void (*handler)() = nullptr;
 };
 
-/// In the order of the menus; a top menu stands before its lines. OPT_PTO is the canvas's pop-up
-/// and stays out of the menu bar.
+/// In the order of the menus; a top menu comes before its lines. OPT_PTO is the canvas's pop-up and
+/// stays out of the menu bar.
 [[nodiscard]] std::span<const MenuEntry> menu_entries();
 /// In the order of the bars.
 [[nodiscard]] std::span<const ToolKey> tool_keys();

@@ -15,7 +15,7 @@ namespace velmora {
 void InsertaPtoTramo(AdjustedSide& side, std::int32_t destino, std::int32_t indice,
                      std::int32_t tramo, std::int32_t NumSinc);
 
-/// Hears which run begins, from 1.
+/// Called with the run that begins, from 1.
 using RunTold = std::function<void(std::int32_t tramo)>;
 
 /// Adds `NumSinc` runs of PtosA and PtosB to PtosA2 and PtosB2, and shows their totals as they

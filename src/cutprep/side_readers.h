@@ -21,8 +21,8 @@ void CargaSLWSINC2(std::string_view fichero, Array<Pto>& pts, std::string_view l
 /// error box with 9.
 void CargaSLWMD_a(std::string_view fichero, Array<Pto>& pts, std::string_view lado, Flag& ok);
 
-/// The file into the side by the reader of its dialect: true when it was read whole. A dialect that
-/// is none of the two is refused in a box.
+/// The file into the side by the reader of its dialect: true when it was read whole. Any other
+/// dialect is refused in a box.
 [[nodiscard]] bool read_side(const Side& side, const std::string& path);
 
 } // namespace velmora

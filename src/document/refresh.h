@@ -1,5 +1,5 @@
 // What every operation calls after it changed the outline, declared in one place so that rooms need
-// not know each other for it. Each routine stands in the room of its subject.
+// not know each other for it. Each routine is in the room of its subject.
 #pragma once
 
 #include <string_view>

@@ -34,7 +34,7 @@ class Shown {
         keep(value);
         show(value);
     }
-    /// Each moves from where it stands, and nothing recounts them. Raises 6 for a text beyond f64.
+    /// Each moves from its own value, and nothing recounts them. Raises 6 for a text beyond f64.
     void step(Number step) {
         step_count(box_, step);
         kept_ += step;

@@ -10,17 +10,17 @@ namespace velmora {
 /// Sends the file to the recycle bin, without a question. True when it is gone.
 bool BorraFichero(std::string_view path);
 
-/// The path left of the last separator that stands four characters or more from the right: a name
-/// has at least three letters and a point. Empty when there is none.
+/// The path left of the last separator with four characters or more after it: a name has at least
+/// three letters and a point. Empty when there is none.
 [[nodiscard]] std::string QuitaNombre(std::string_view path);
-/// What stands behind the last "\" or "/".
+/// What follows the last "\" or "/".
 [[nodiscard]] std::string SoloNombre(std::string_view path);
-/// What stands behind the last "\"; the rule for descriptions.
+/// What follows the last "\"; the rule for descriptions.
 [[nodiscard]] std::string after_last_backslash(std::string_view text);
 
 /// Rewrites the file with the machine's separator when lines 4 to 13 hold none. Gives the path of
 /// what is to be read: the file's own, or that of the passed copy in the program's folder where the
-/// file can't be rewritten and stands as it was. A rewritten file keeps its permissions; of a
+/// file can't be rewritten and stays as it was. A rewritten file keeps its permissions; of a
 /// symbolic link the target is rewritten.
 std::string SetDecimalSep(std::string_view path);
 /// Rewrites the file with blanks for tabs when one of lines 4 to 13 has a tab, likewise.

@@ -18,10 +18,10 @@ std::int16_t CargaSLWSINC(std::string_view path);
 
 /// From record 3 to the section's title. Once record 3 was read the outline is emptied; `total_box`
 /// shows the points as they come. Nothing but the title ends the outline: without it a field that
-/// is no number does, with 13. The array grows before a point's texts are converted.
+/// is not a number does, with 13. The array grows before a point's texts are converted.
 void read_slwsinc_outline(Array<Pto>& points, std::string& total_box, ReadCounts& counts);
 
-/// The records behind the title to the end of the file, the first of them ignored: each marks all
+/// The records after the title to the end of the file, the first of them ignored: each marks all
 /// points at its place. `total_box` shows how many were marked; it keeps its figure when none was.
 /// Raises 13, 6.
 void match_slwsinc_sync_points(Array<Pto>& points, std::string& total_box, ReadCounts& counts);

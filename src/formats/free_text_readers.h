@@ -27,8 +27,8 @@ std::int16_t CargaPROFILI(std::string_view path, std::string_view shown_path);
 [[nodiscard]] bool read_slwmd_outline(Array<Pto>& points, ReadCounts& counts,
                                       CoordinateLimit& limit);
 
-/// The lines behind "Sincronismo" to the end of the file, the first of them ignored. Each point
-/// goes to `place` as it stands in the file, not divided by EscalaCarga, on purpose.
+/// The lines after "Sincronismo" to the end of the file, the first of them ignored. Each point goes
+/// to `place` as it is in the file, not divided by EscalaCarga, on purpose.
 void read_slwmd_sync_points(ReadCounts& counts, const std::function<void(double, double)>& place);
 
 } // namespace velmora

@@ -13,7 +13,7 @@
 namespace velmora {
 
 /// Head, outline, the closing copy of point 0, and the head of the sync section. `write` takes each
-/// record, `after_point` is called behind each point. `description` is UTF-8.
+/// record, `after_point` is called after each point. `description` is UTF-8.
 template <class Write, class AfterPoint>
 void sync_dat_outline(std::string_view description, Write&& write, AfterPoint&& after_point,
                       const Array<Pto>& points = Forma.Pto) {

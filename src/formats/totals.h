@@ -5,8 +5,8 @@
 
 namespace velmora {
 
-/// How many of the totals a reader touches; each row touches what stands above it too, and what is
-/// below it keeps what it was.
+/// How many of the totals a reader touches; each touches those above it too and leaves those below
+/// it alone.
 enum class Totals {
     last_point, ///< UltimoPto
     points,     ///< TotalPtos with its box

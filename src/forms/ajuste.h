@@ -19,7 +19,7 @@ void cmd_opt_Click();
 
 /// Makes PtosA2 and PtosB2 from PtosA and PtosB, and shows them on the way. Without an error route
 /// of its own: a missing TEMP_AJUSTE, a side with fewer sync points than TxtTotalCtrlPtos_A says,
-/// OptZ of 0 and the like raise, and leave the hourglass on: the failure is told and stops the
+/// OptZ of 0 and the like raise, and leave the hourglass on: the failure is reported and stops this
 /// command alone.
 void Cmd_Ajuste_Click();
 

@@ -7,7 +7,7 @@
 namespace velmora {
 
 void Compensa_Load();
-/// The text of Txt_merma changed (it stands in state::Compensa).
+/// The text of Txt_merma changed (it is in state::Compensa).
 void Txt_merma_Change();
 /// A key of the box: the key to take, 0 to swallow it.
 [[nodiscard]] int Txt_merma_KeyPress(int key);

@@ -6,7 +6,7 @@
 namespace velmora {
 
 void del_Npto_Load();
-/// The text of Txt_JumpPoints changed (it stands in state::del_Npto).
+/// The text of Txt_JumpPoints changed (it is in state::del_Npto).
 void Txt_JumpPoints_Change();
 /// A key of a box: the key to take, 0 to swallow it.
 [[nodiscard]] int Txt_JumpPoints_KeyPress(int key);

@@ -9,8 +9,8 @@ void Mult_Ptos_Load();
 /// The text of Combo1 changed; an entry of its list was clicked.
 void Combo1_Change();
 void Combo1_Click();
-/// Shows the number of points to come and refuses 32001 and more. No event calls it, on purpose:
-/// it stands ready for Combo1.
+/// Shows the number of points to come and refuses 32001 and more. No event calls it, on purpose: it
+/// is ready for Combo1.
 void ActualizaNuevoN();
 /// A factor whose whole part is below 1 changes nothing, and the window stays. Raises 6 beyond 32
 /// bits of points.

@@ -12,7 +12,7 @@ inline constexpr int backspace = 8;
 inline constexpr int enter = 13;
 } // namespace key_code
 
-/// A box, where its text stands, and what a refused key makes of it.
+/// A box, its text, and what a refused key makes of it.
 struct NumericBox {
     std::string_view window;
     std::string_view control;

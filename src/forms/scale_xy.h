@@ -14,7 +14,7 @@ enum class ScaleBox { fixed_x, fixed_y, percent_x, percent_y };
 void Scale_xy_Load();
 void Opt_fixed_Click();
 void Opt_percent_Click();
-/// A box's text changed (it stands in state::Scale_xy).
+/// A box's text changed (it is in state::Scale_xy).
 void Scale_xy_Change(ScaleBox box);
 /// A key of a box: returns the character to take instead, 0 to swallow it.
 int Scale_xy_KeyPress(ScaleBox box, int key);

@@ -1,4 +1,4 @@
-// The window seltexto: a typed text in any font becomes the shape. Its values stand in
+// The window seltexto: a typed text in any font becomes the shape. Its values are in
 // state::seltexto.
 #pragma once
 

@@ -1,4 +1,4 @@
-// The dialog `setup`, "Parámetros Generales": its boxes stand in state::setup.
+// The dialog `setup`, "Parámetros Generales": its boxes are in state::setup.
 #pragma once
 
 #include <span>

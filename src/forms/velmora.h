@@ -7,10 +7,11 @@ namespace velmora {
 
 /// Load of the main window: session values, separator, caption, literals, recent files.
 void Velmora_Load();
-/// First activation: connects to the CAD, shows the side windows, tells what became of the
-/// program's own files. Later ones do nothing.
+/// First activation: connects to the CAD, shows the side windows, says what became of the program's
+/// own files. Later ones do nothing.
 void Velmora_Activate();
-/// The main window's close box was used: the side windows go and the program ends, no question.
+/// The main window's close box was used: the side windows go and the program ends, without a
+/// question.
 void Velmora_QueryUnload();
 
 /// Asks whether to leave, and leaves; `cancel` becomes -1 when not. Silent while ExitConfirmed is

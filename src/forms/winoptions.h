@@ -14,12 +14,12 @@ void winoptions_Deactivate();
 [[nodiscard]] int winoptions_height();
 
 /// The three output types exclude each other. The file's name takes the type's extension, FileName
-/// the name as it stands in TxtDat_File.
+/// the name as it is in TxtDat_File.
 void ChkDATSinc_Click();
 void ChkSCR_Click();
 void Chk_DATPerfil_Click();
 
-/// A check box was ticked or cleared (it stands in state::winoptions).
+/// A check box was ticked or cleared (it is in state::winoptions).
 void ChkPtos_Click();
 void ChkPtosCtrl_Click();
 void ChkCoords_Click();
@@ -30,7 +30,7 @@ void chk_Redim_Capture_Click();
 [[nodiscard]] int TxtPutArc_KeyPress(int key);
 [[nodiscard]] int TxtPutCircle_KeyPress(int key);
 [[nodiscard]] int TxtPrecision_KeyPress(int key);
-/// Enter takes the zoom from the text, with either separator. Raises 13 for a text that is no
+/// Enter takes the zoom from the text, with either separator. Raises 13 for a text that is not a
 /// number, 6 beyond the decimal type.
 [[nodiscard]] int Txt_zoom_KeyPress(int key);
 

@@ -1,4 +1,4 @@
-// Blocks of a DXF file: what stands in them, and their drawing wherever they are put in.
+// Blocks of a DXF file: what is in them, and their drawing wherever they are put in.
 #pragma once
 
 #include "import/drawing.h"
@@ -33,7 +33,7 @@ class DxfBlocks {
         Report& report;
     };
     /// Draws a shape; an insertion with all that is in it. `layer_0` is the layer that takes what
-    /// stands on layer 0 of a block. Blocks in themselves, missing ones, too deep a nesting and too
+    /// is on layer 0 of a block. Blocks in themselves, missing ones, too deep a nesting and too
     /// many shapes end with a remark.
     void draw_shape(const DxfShape& shape, const Map& map, const Target& target);
 

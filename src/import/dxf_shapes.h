@@ -1,4 +1,4 @@
-// What an entity of a DXF file draws, in the coordinates of the block or drawing that it stands in.
+// What an entity of a DXF file draws, in the coordinates of the block or drawing that it is in.
 #pragma once
 
 #include "import/curves.h"
@@ -64,7 +64,7 @@ struct DxfShape {
     std::variant<DxfPath, DxfArc, DxfSpline, DxfFitSpline, DxfLoop, DxfDot, DxfInsert> what;
     std::uint32_t line = 0;
     std::uint16_t layer = 0;
-    bool fill = false; ///< of an area: it usually stands over an outline
+    bool fill = false; ///< of an area: it usually lies over an outline
 };
 
 /// From the coordinates of an entity's own plane, at an elevation, to those of the drawing.

@@ -13,7 +13,7 @@ namespace velmora::imports {
 struct DxfTag {
     int code = 0;
     std::size_t line = 0;  ///< of the code, from 1; of a binary file the number of the tag
-    std::string_view text; ///< as it stands, without blanks around it; empty for a binary number
+    std::string_view text; ///< as it is, without blanks around it; empty for a binary number
     double number = 0;     ///< of a binary tag
     bool binary = false;
 
@@ -29,7 +29,7 @@ class DxfTags {
   public:
     DxfTags(std::string_view bytes, Report& report);
     /// False at the end of the file, its end mark, or where a binary file breaks off. Comments are
-    /// passed over; so is, with a remark, a line that is no group code where one has to stand.
+    /// passed over; so is, with a remark, a line that is not a group code where one has to be.
     [[nodiscard]] bool next(DxfTag& tag);
 
   private:

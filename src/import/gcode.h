@@ -1,4 +1,4 @@
-// Programs of four-axis wire cutters: the roads of both ends of the wire.
+// Programs of four-axis wire cutters: the paths of both ends of the wire.
 #pragma once
 
 #include "import/imported.h"

@@ -18,19 +18,19 @@ struct Chain {
     std::vector<Point> points = {};
     bool closed = false;
     std::string name = {}; ///< layer, element, or side of the wire; may be empty
-    std::size_t line = 0;  ///< where its first piece stands in the file, 0 where there are none
+    std::size_t line = 0;  ///< where its first piece is in the file, 0 where there are none
 };
 
 enum class Question : unsigned char {
     kind,    ///< options are names of kinds
     element, ///< which of several outlines in one table of points
-    order,   ///< the rows' order can't be told
+    order,   ///< the rows' order is not clear
     scale,   ///< the chord is neither 1 nor 100: its unit
     unit,    ///< the file names none
     axes     ///< which axes move which end of the wire
 };
 
-/// What could not be told from the content. `best` was taken meanwhile.
+/// What the content does not decide. `best` was taken meanwhile.
 struct Ask {
     Question question;
     bool needed = false; ///< without an answer the result is a guess that may be wrong
@@ -52,7 +52,7 @@ struct Choices {
     RowOrder order = RowOrder::by_itself;
     bool remove_doubles = true;
     bool hidden_layers = false; ///< take what is off or frozen too
-    bool trim_approach = true;  ///< leave out the rapid moves before and behind a cut
+    bool trim_approach = true;  ///< leave out the rapid moves before and after a cut
     std::string axes = {}; ///< of a four-axis program: "XYUV", "XYZA", "XYUZ"; empty: by itself
 };
 

@@ -34,7 +34,7 @@ struct NumberRow {
     bool numeric = true; ///< nothing else stands in the line
 };
 
-/// Lines of blanks do not stand in it. The text has to outlive it; the numbers stay there, since a
+/// Lines of blanks are left out. The text has to outlive it; the numbers stay there, since a
 /// table of short rows holds many times its size in numbers.
 class NumberRows {
   public:
@@ -42,7 +42,7 @@ class NumberRows {
 
     [[nodiscard]] const std::vector<TextLine>& lines() const { return lines_; }
     [[nodiscard]] NumberRow values(const TextLine& line) const { return row_of(text(line)); }
-    /// The line as it stands in the text.
+    /// The line as it is in the text.
     [[nodiscard]] std::string_view text(const TextLine& line) const;
     /// The number of columns that most rows have; 0 where there is no row.
     [[nodiscard]] std::size_t columns() const { return columns_; }

@@ -6,7 +6,7 @@
 
 namespace velmora::imports {
 
-/// No coordinate is larger; what is written so is no number here, which keeps all that is
+/// No coordinate is larger; what is written so is not a number here, which keeps all that is
 /// calculated from coordinates within f64.
 inline constexpr double largest_number = 1e15;
 

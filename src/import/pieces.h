@@ -24,7 +24,7 @@ class Pieces {
     static constexpr std::size_t most_points = 4'000'000;
 
     void begin(std::size_t line, std::uint16_t layer);
-    /// A point where the run stands already adds nothing; one beyond all numbers neither.
+    /// A point where the run already is adds nothing, nor does one beyond all numbers.
     void add(const Point& point);
     /// Ends the run that `begin` began; a run without points leaves none.
     void end(bool closed);

@@ -1,5 +1,5 @@
-// What a reader did with a file: facts with the lines they stand in. The words are made last, so
-// that they can be said in another language.
+// What a reader did with a file: facts with their lines. The words are made last, so that they can
+// be said in another language.
 #pragma once
 
 #include <array>
@@ -80,7 +80,7 @@ enum class Fact : unsigned char {
 struct Remark {
     Fact fact;
     std::size_t line = 0; ///< of the file, from 1; 0 where it speaks of the whole file
-    std::string text;     ///< what stands there, or a name
+    std::string text;     ///< what is there, or a name
     double number = 0;
     double other = 0;
 };
@@ -94,7 +94,7 @@ class Report {
     void add(Fact fact, std::size_t line, std::string_view text = {}, double number = 0,
              double other = 0);
     [[nodiscard]] const std::vector<Remark>& remarks() const { return remarks_; }
-    /// What another report holds, behind what this one does.
+    /// Adds what another report holds.
     void append(const Report& other);
     /// How often it was said, those not kept among them.
     [[nodiscard]] std::size_t count(Fact fact) const;

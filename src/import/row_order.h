@@ -13,8 +13,8 @@ namespace velmora::imports {
 /// Where x turns: each index is of the last point before it runs back by more than 2 % of the
 /// chord. No more than the first hundred: an outline has two.
 [[nodiscard]] std::vector<std::size_t> turns_of_x(std::span<const Point> points);
-/// The one step in x of more than `least` times the chord: the index of the point behind it; 0
-/// where there is none or more than one.
+/// The one step in x of more than `least` times the chord: the index of the point after it; 0 where
+/// there is none or more than one.
 [[nodiscard]] std::size_t only_jump(std::span<const Point> points, double least);
 /// The first half turned round, then the second without a nose that both have.
 [[nodiscard]] std::vector<Point> joined_halves(std::span<const Point> first,
@@ -26,7 +26,7 @@ namespace velmora::imports {
 
 /// What an outline is, by its x alone; `turns` are where it turns.
 struct Course {
-    RowOrder order = RowOrder::by_itself; ///< by_itself: can't be told
+    RowOrder order = RowOrder::by_itself; ///< by_itself: not clear
     bool open = false;
     std::vector<std::size_t> turns = {};
 };

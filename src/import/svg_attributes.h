@@ -15,7 +15,7 @@ namespace velmora::imports {
 [[nodiscard]] bool names_length_unit(std::string_view text);
 /// A list of transforms; what follows an error is left out.
 [[nodiscard]] Map svg_transform(std::string_view text);
-/// All numbers of a list up to what is none.
+/// All numbers of a list up to the first that is not one.
 [[nodiscard]] std::vector<double> svg_numbers(std::string_view text);
 /// Hidden by one of the properties, given by itself or in a style.
 [[nodiscard]] bool is_hidden(std::string_view display, std::string_view visibility,

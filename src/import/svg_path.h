@@ -19,8 +19,8 @@ struct SvgPen {
     std::uint16_t layer;
 };
 
-/// Adds each run as a piece. At an error what precedes it stays: where in the data it stands, the
-/// size of the data where there is none.
+/// Adds each run as a piece. At an error what precedes it stays: where in the data it is, the size
+/// of the data where there is none.
 [[nodiscard]] std::size_t read_svg_path(std::string_view data, const SvgPen& pen);
 
 /// The arc of a path between two points by its radii, turned by an angle in radians; none where it

@@ -13,7 +13,7 @@ namespace velmora::imports {
 /// `storage`, which has to outlive the view.
 [[nodiscard]] std::string_view decoded(std::string_view bytes, std::string& storage,
                                        Report& report);
-/// The text up to byte 26, which old systems wrote behind the last line.
+/// The text up to byte 26, which old systems wrote after the last line.
 [[nodiscard]] std::string_view before_end_mark(std::string_view text, Report& report);
 
 [[nodiscard]] std::string_view trimmed(std::string_view text);
@@ -29,7 +29,7 @@ namespace velmora::imports {
 class Lines {
   public:
     explicit Lines(std::string_view text) : rest_(text) {}
-    /// False at the end. A line end behind the last line begins no other line.
+    /// False at the end. A line end after the last line does not begin another.
     [[nodiscard]] bool next(std::string_view& line);
     /// Of the line that `next` gave last, from 1.
     [[nodiscard]] std::size_t number() const { return number_; }

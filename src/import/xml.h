@@ -21,7 +21,7 @@ class XmlReader {
 
     /// Without the prefix of its name space.
     [[nodiscard]] std::string_view name() const { return name_; }
-    /// Of the element that began last; empty where it has none of the name. A prefix is no part of
+    /// Of the element that began last; empty where it has none of the name. A prefix is not part of
     /// the name.
     [[nodiscard]] std::string_view attribute(std::string_view name) const;
     [[nodiscard]] std::size_t element_start() const { return element_start_; }

@@ -48,8 +48,8 @@ class Dialogs {
     virtual ~Dialogs() = default;
     /// Shows a box and returns the answer.
     virtual int message(std::string_view text, int buttons_and_icon, std::string_view title) = 0;
-    /// The same where an icon helps that no code names: it is for the eye alone. Who has no eye for
-    /// it shows the box as coded.
+    /// The same where an icon helps that no code names: it is for the eye alone. Where there are no
+    /// icons the box is shown as coded.
     virtual int message_with_icon(int /*icon*/, std::string_view text, int buttons_and_icon,
                                   std::string_view title) {
         return message(text, buttons_and_icon, title);

@@ -1,5 +1,5 @@
 // Files under numbers: text lines in and out, fixed records, plain bytes. All reading and writing
-// is buffered; texts are bytes as they stand in the file (Windows-1252).
+// is buffered; texts are bytes as they are in the file (Windows-1252).
 #pragma once
 
 #include <array>
@@ -46,7 +46,7 @@ class FileTable {
     std::string_view line_input(int number);
     /// The next record, `length` bytes; what the file lacks is blank. Valid until the next use.
     std::string_view read_record(int number);
-    /// Text or bytes as they stand. For a record exactly its length, else 5.
+    /// Text or bytes as they are. For a record exactly its length, else 5.
     void write(int number, std::string_view bytes);
     /// Bytes of a file opened for bytes, at most a buffer's worth; empty at the end.
     std::string_view read_bytes(int number);

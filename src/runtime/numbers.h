@@ -8,12 +8,12 @@
 
 namespace velmora::runtime {
 
-/// Text to f64, the whole text used; `separator` is '.' or ','. Raises 13 for any text that is no
-/// number, an empty one too, and 6 beyond f64.
+/// Text to f64, the whole text used; `separator` is '.' or ','. Raises 13 for any text that is not
+/// a number, an empty one too, and 6 beyond f64.
 [[nodiscard]] double CDbl(std::string_view text, char separator);
 
 /// The longest numeric prefix with '.' as separator, blanks, tabs and line feeds skipped wherever
-/// they stand; 0 when there is none. Raises 6 beyond f64, never 13.
+/// they are; 0 when there is none. Raises 6 beyond f64, never 13.
 [[nodiscard]] double Val(std::string_view text);
 
 /// Text to a whole number: CDbl, then to nearest with ties to even. Raises 13, and 6 when the

@@ -15,9 +15,9 @@ namespace velmora::runtime {
 /// the name, "\velmora.chm", is taken as the joint.
 [[nodiscard]] std::string join(std::string_view folder, std::string_view name);
 [[nodiscard]] bool is_separator(char c);
-/// Something other than a folder stands at the path. Never raises.
+/// Something other than a folder is at the path. Never raises.
 [[nodiscard]] bool file_exists(std::string_view path);
-/// A plain delete; a missing file is no error. Never raises; false when the file still stands.
+/// A plain delete; a missing file is no error. Never raises; false when the file is still there.
 bool remove_file(std::string_view path);
 /// Copies over what is there. Raises 53, 61, 70 (a file over itself too), 75, 76.
 void copy_file(std::string_view from, std::string_view to);

@@ -1,5 +1,5 @@
-// The keys under which a control's texts stand in a form's table, and the two run-time errors that
-// a walk over unlike controls passes over.
+// The keys under which a control's texts are stored in a form's table, and the two run-time errors
+// that a walk over unlike controls passes over.
 #pragma once
 
 #include "platform/form.h"

@@ -6,7 +6,7 @@
 namespace velmora {
 
 /// Writes the form's own texts into its table for the language in use, making the table if need be.
-/// A text with an apostrophe breaks its statement, as it stands. Raises 91, 3075, 3022.
+/// A text with an apostrophe breaks its statement, since nothing escapes it. Raises 91, 3075, 3022.
 void CreaLiterales(Form& form);
 
 } // namespace velmora

@@ -1,5 +1,5 @@
-// What whoever hands out the program puts in its own place: addresses and names, in the file
-// "deployment.txt" beside the program.
+// What those who hand out the program fill in: addresses and names, in the file "deployment.txt"
+// beside the program.
 #pragma once
 
 #include <iosfwd>
@@ -15,10 +15,10 @@ struct Deployment {
 };
 
 /// Lines "key = value" (UTF-8); a key that is not known and a line that begins with "#" are passed
-/// over, "helper" may stand several times.
+/// over, "helper" may occur several times.
 [[nodiscard]] Deployment read_deployment(std::istream& lines);
 
-/// The file beside the program as it stands now; all empty where there is none.
+/// The file beside the program as it is now; all empty where there is none.
 [[nodiscard]] Deployment deployment();
 
 } // namespace velmora

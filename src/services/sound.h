@@ -1,4 +1,4 @@
-// The program's own sounds, which stand beside it.
+// The program's own sounds, which lie beside it.
 #pragma once
 
 #include "document/state/program.h"

@@ -6,10 +6,10 @@
 
 namespace velmora {
 
-/// AplicaLiterales for a window that is loaded; nothing where no window stands behind the logic.
+/// AplicaLiterales for a window that is loaded; nothing where the logic runs without windows.
 void load_literals(std::string_view window);
 
-/// The caption of a control of a loaded window as it stands there; empty where there is none.
+/// The caption of a control of a loaded window as it is shown; empty where there is none.
 [[nodiscard]] std::string caption_of(std::string_view window, std::string_view control);
 
 } // namespace velmora

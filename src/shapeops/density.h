@@ -8,8 +8,8 @@
 
 namespace velmora {
 
-/// The outline without `count` points, the whole part of it counting: that at `first` and then one
-/// behind every `jump` that stay. A place beyond the end is brought back by one turn, with a
+/// The outline without `count` points, the whole part of it counting: the one at `first` and then
+/// one after every `jump` that stay. A place beyond the end is brought back by one turn, with a
 /// fraction it goes to the nearest point, ties to even. What stays keeps its sync mark and loses
 /// the other; where nothing stays, one zeroed record does. Empty where one turn does not bring a
 /// place back.

@@ -11,9 +11,9 @@ void Insert_Pto();
 void Delete_Pto();
 /// Turns the order of cutting so that the selected point is the first. PtoSel keeps its number.
 void Set_CutStart();
-/// Puts a line from the machine's zero line to the selected point in. Raises 9 without a selection.
+/// Inserts a line from the machine's zero line to the selected point. Raises 9 without a selection.
 void insert_ini();
-/// Starts the insertion of points by hand behind the selected one.
+/// Starts the insertion of points by hand after the selected one.
 void Insert_N_Ptos();
 
 } // namespace velmora

@@ -1,4 +1,4 @@
-// An image on its way to a window: whoever draws it tells what changed, the window shows it.
+// An image on its way to a window: whoever draws it says what changed, the window shows it.
 #pragma once
 
 #include <QImage>

@@ -30,8 +30,8 @@ class AjusteDialog : public FormWindow<Ui::ajuste>, private Previews {
     void bind_results();
     void bind_status();
     void wire();
-    /// A click while a command of the window is still at work is none: that command yields to the
-    /// windows, and it would be undercut by a second one.
+    /// A click while a command of the window is still at work is ignored: that command yields to
+    /// the windows, and a second one would disturb it.
     void on_idle_click(QAbstractButton& button, void (*handler)());
 };
 

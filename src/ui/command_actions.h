@@ -25,7 +25,7 @@ class CommandActions {
     CommandActions(QMainWindow& window, std::function<void(void (*)())> run);
 
     void add_menus();
-    /// The bars stand in `bands`, in the table's order.
+    /// The bars are put into `bands`, in the table's order.
     void add_bars(QBoxLayout& bands);
 
     /// The entries as controls of the form: "mnu_openfile", "mnuRecentFile(1)".

@@ -1,5 +1,5 @@
 // The list box Lst_Coords: the rows of the session, each text made when the row is looked at, so
-// that a list of a million rows stands at once.
+// that a list of a million rows is there at once.
 #pragma once
 
 #include "document/windows/velmora.h"

@@ -11,7 +11,7 @@ class EventSink {
     virtual ~EventSink() = default;
     /// Runs a handler of the logic as an event of a window.
     virtual void run(const std::function<void()>& handler) = 0;
-    /// The same for one whose run-time error stops it alone: it is told, and the program goes on.
+    /// The same, but a run-time error stops the handler alone: it is reported, the program goes on.
     virtual void run_alone(const std::function<void()>& handler) = 0;
     /// No handler is running or, where one waits in a modal window, nothing runs above that window.
     [[nodiscard]] virtual bool idle() const = 0;

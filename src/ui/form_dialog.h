@@ -1,6 +1,6 @@
-// The widget of a window that is no main window: Enter works the button that has the focus, or
-// the form's default button where no button has it; Esc is the close box. A form whose boxes take
-// Enter as one of their own keys has no default button.
+// The widget of a window other than the main one: Enter works the button that has the focus, or the
+// form's default button where no button has it; Esc is the close box. A form whose boxes take Enter
+// as one of their own keys has no default button.
 #pragma once
 
 #include <QDialog>

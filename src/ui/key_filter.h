@@ -1,5 +1,5 @@
-// The shared pieces of the text boxes: characters that are looked at before they come in, by
-// whatever way, and the focus that leaves a box.
+// The shared pieces of the text boxes: characters that are looked at before they come in, whichever
+// way, and the focus that leaves a box.
 #pragma once
 
 #include <QObject>
@@ -16,7 +16,7 @@ namespace velmora {
 
 /// Calls `handler` with each character that comes into a box: typed, composed by a dead key or an
 /// input method, pasted or dropped. It returns the character to take instead, 0 to refuse it; a
-/// text with a refused character is refused whole. Keys that move, cut or copy are no typing.
+/// text with a refused character is refused whole. Keys that move, cut or copy are not typing.
 class KeyFilter : public QObject {
     Q_OBJECT
   public:

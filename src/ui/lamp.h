@@ -1,4 +1,4 @@
-// A round signal, green with a tick or red with a cross, so that colour does not tell it alone.
+// A round signal, green with a tick or red with a cross, so that colour is not its only sign.
 #pragma once
 
 #include <QWidget>

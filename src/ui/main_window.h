@@ -31,7 +31,7 @@ class MainWindow : public FormWindow<Ui::Velmora, QMainWindow> {
     void bind();
     void wire();
     void list_in_form_order();
-    /// The window with its frame stands on the screen, with room beside it where there is some.
+    /// The window with its frame is on the screen, with space beside it where there is some.
     void fit_to_screen();
 
     QMainWindow& window_;

@@ -1,4 +1,4 @@
-// What the side windows stand beside, and where each of them stood.
+// What the side windows are placed beside, and where each of them was.
 #pragma once
 
 #include <QPoint>
@@ -11,7 +11,7 @@ class QWidget;
 
 namespace velmora {
 
-/// Where a side window stood when it was unloaded, and the main window's size then.
+/// Where a side window was when it was unloaded, and the main window's size then.
 struct SidePlace {
     QPoint place;
     QSize main;

@@ -26,7 +26,7 @@ class SidePanel : public FormWindow<Ui, QWidget> {
             keep_to_main();
     }
 
-    /// It stands beside the work; the keyboard stays with the main window until the user comes.
+    /// It is shown beside the work; the main window keeps the keyboard until the user comes to it.
     bool takes_focus() const override { return false; }
 
     void Unload() override {
@@ -58,8 +58,8 @@ class SidePanel : public FormWindow<Ui, QWidget> {
     }
 
   private:
-    /// What was rolled up before the desktop put its frame around it stands off by the frame, which
-    /// is there when the window is painted.
+    /// What was rolled up before the desktop put its frame around it is off by the frame, which is
+    /// known when the window is painted.
     bool is_first_look(const QEvent& event) {
         return event.type() == QEvent::Paint && !std::exchange(looked_at_, true) &&
                !at_users_place_;

@@ -1,5 +1,5 @@
-// A window of the program: a top-level widget with its controls, its bindings, its face towards the
-// literals, and one method for each event of its life. A window is added with a form (.ui), a class
+// A window of the program: a top-level widget with its controls, its bindings, how the literals see
+// it, and one method for each event of its life. A window is added with a form (.ui), a class
 // derived from FormWindow, and a line in window_registry.cpp.
 #pragma once
 
@@ -46,7 +46,7 @@ class Window : public QObject {
     [[nodiscard]] virtual bool takes_focus() const { return true; }
     /// Takes its place on the screen before it is shown the first time.
     virtual void place();
-    /// The window is unloaded: its controls tell it nothing any more.
+    /// The window is unloaded: its controls send it nothing any more.
     void retire();
     /// Shows what cannot wait until the windows get time.
     virtual void status_changed() {}
@@ -62,7 +62,7 @@ class Window : public QObject {
     /// A key that types: `handler` gets its character (8 backspace, 13 Enter) and returns the one
     /// to take instead, 0 to swallow it.
     void on_key_press(QLineEdit& box, std::function<int(int)> handler);
-    /// Another control of the window took the focus. A click that caused it is carried out behind
+    /// Another control of the window took the focus. A click that caused it is carried out after
     /// the handler, even when the box takes the focus back.
     void on_lost_focus(QLineEdit& box, Handler handler);
 

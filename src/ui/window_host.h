@@ -19,7 +19,7 @@ namespace velmora {
 
 class ShownImage;
 
-/// What someone who watches the windows is told; each may be empty.
+/// Calls to someone who watches the windows; each may be empty.
 struct WindowEvents {
     std::function<void(const std::string& window)> opened;
     std::function<void(const std::string& window)> closed;

@@ -17,8 +17,8 @@
 
 namespace velmora {
 
-/// Unwinds a handler that waits, in a modal window or a yield, while the program ended. It is no
-/// std::exception and no run-time error, so that no trap of the logic takes it.
+/// Unwinds a handler that waits, in a modal window or a yield, while the program ended. It is
+/// neither a std::exception nor a run-time error, so that no trap of the logic takes it.
 struct EndOfProgram {};
 
 struct WindowHost::Private {

@@ -43,7 +43,7 @@ class Variant {
     [[nodiscard]] std::string as_text() const;
     /// One dimension, of f64 or of values that become one.
     [[nodiscard]] std::vector<double> as_array() const;
-    /// 91 for an object variable without an object, 424 for what is none.
+    /// 91 for an object variable without an object, 424 for anything else.
     [[nodiscard]] ComPtr<IDispatch> as_object() const;
     [[nodiscard]] bool is_missing() const;
 

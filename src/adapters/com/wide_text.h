@@ -6,7 +6,7 @@
 
 namespace velmora::com {
 
-/// Bytes that are no UTF-8 become U+FFFD.
+/// Bytes that are not UTF-8 become U+FFFD.
 [[nodiscard]] std::wstring wide_text(std::string_view text);
 [[nodiscard]] std::string utf8_text(std::wstring_view text);
 

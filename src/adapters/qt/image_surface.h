@@ -16,7 +16,7 @@ class ImageSurface : public RasterSurface, public ShownImage {
     /// A view of the living pixels, not a copy; it must not outlive the surface.
     [[nodiscard]] const QImage& image() const override { return image_; }
 
-    /// Raises 53 for a file that is not there, 481 for one that is no picture, 7 for a picture
+    /// Raises 53 for a file that is not there, 481 for one that is not a picture, 7 for a picture
     /// larger than a gigabyte.
     void set_picture(std::string_view file) override;
 

@@ -1,4 +1,4 @@
-// The desktop behind the logic's back: programs for files, the recycle bin, sounds.
+// What the desktop does for the logic: programs for files, the recycle bin, sounds.
 #pragma once
 
 #include "platform/shell.h"

@@ -23,7 +23,7 @@ using Connection = std::shared_ptr<sqlite3>;
 /// Every fault raises its number. A fault or an end leaves no lock behind.
 class Statement {
   public:
-    /// Takes the first statement of the text; `rest`, where given, gets what stands behind it.
+    /// Takes the first statement of the text; `rest`, where given, gets what follows it.
     Statement(Connection connection, std::string_view text, std::string_view* rest = nullptr);
     Statement(const Statement&) = delete;
     Statement& operator=(const Statement&) = delete;
