@@ -44,16 +44,6 @@ std::int32_t ContarNoUsados() {
     return static_cast<std::int32_t>(std::ranges::count_if(all_objects(), is_unused));
 }
 
-std::int32_t PrimerNoUsado() {
-    const auto objects = all_objects();
-    const auto first = std::ranges::find_if(objects, is_unused);
-    return first == objects.end() ? 0 : static_cast<std::int32_t>(first - objects.begin());
-}
-
-Flag TodosUsados() {
-    return flag(std::ranges::none_of(all_objects(), is_unused));
-}
-
 Flag HayPuntos() {
     return flag(std::ranges::none_of(
         all_objects(), [](const ObjCad& object) { return object.Tipo == TipoCad::AcDbPoint; }));

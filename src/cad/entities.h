@@ -17,10 +17,6 @@ namespace velmora {
 
 /// Number of elements with Usado 0.
 [[nodiscard]] std::int32_t ContarNoUsados();
-/// First index with Usado 0, and 0 when there is none.
-[[nodiscard]] std::int32_t PrimerNoUsado();
-/// -1 when no element has Usado 0, also for a list without elements.
-[[nodiscard]] Flag TodosUsados();
 /// 0 when some element is an AcDbPoint, -1 when none is: the reverse of the name's usual sense, on
 /// purpose.
 [[nodiscard]] Flag HayPuntos();

@@ -7,11 +7,8 @@
 
 namespace velmora {
 
-namespace {
-
-constexpr double kRunEnd = 100.0;
-
-double chord(const Array<Pto>& points, std::int32_t i) {
+double LargoCuerda(std::string_view lado, std::int32_t i) {
+    const Array<Pto>& points = side_of(lado).Trabajo;
     const Pto& here = points[i];
     const Pto& next = points[i + 1 > points.upper() ? 0 : i + 1];
     const double dx = here.X - next.X;
@@ -19,18 +16,20 @@ double chord(const Array<Pto>& points, std::int32_t i) {
     return runtime::checked(std::sqrt(dx * dx + dy * dy));
 }
 
+namespace {
+
+constexpr double kRunEnd = 100.0;
+
 /// Adds working points to a run, and up their chords.
 class RunFiller {
   public:
-    explicit RunFiller(AdjustedSide& side) : points_(side.side.Trabajo), run_(side.Tramo) {
-        run_.redim(0);
-    }
+    explicit RunFiller(AdjustedSide& side) : side_(side.side), run_(side.Tramo) { run_.redim(0); }
 
     void add(std::int32_t first, std::int32_t last) {
         for (std::int32_t i = first; i <= last; ++i) {
-            const double length = chord(points_, i);
+            const double length = LargoCuerda(side_.lado, i);
             run_.redim_keep(count_);
-            run_[count_] = {.Longitud = length, .X = points_[i].X, .Y = points_[i].Y};
+            run_[count_] = {.Longitud = length, .X = side_.Trabajo[i].X, .Y = side_.Trabajo[i].Y};
             total_ = runtime::checked(total_ + length);
             ++count_;
         }
@@ -38,7 +37,7 @@ class RunFiller {
     [[nodiscard]] double total() const { return total_; }
 
   private:
-    const Array<Pto>& points_;
+    const Side& side_;
     Array<PtoTramo>& run_;
     std::int32_t count_ = 0;
     double total_ = 0;
@@ -56,27 +55,6 @@ void set_positions(Array<PtoTramo>& run, double total) {
 }
 
 } // namespace
-
-std::int32_t SiguienteSinc(std::string_view lado, std::int32_t desde) {
-    const Array<Pto>& points = side_of(lado).Ptos;
-    for (std::int32_t i = desde + 1; i <= points.upper(); ++i)
-        if (points[i].Sinc == 1)
-            return i;
-    return -1;
-}
-
-std::int32_t SincN(std::string_view lado, std::int32_t n) {
-    const Array<Pto>& points = side_of(lado).Ptos;
-    std::int32_t ordinal = -1;
-    for (std::int32_t i = 0; i <= points.upper(); ++i)
-        if (points[i].Sinc == 1 && ++ordinal == n)
-            return i;
-    return 0;
-}
-
-double LargoCuerda(std::string_view lado, std::int32_t i) {
-    return chord(side_of(lado).Trabajo, i);
-}
 
 SyncIndex::SyncIndex(const Array<Pto>& points) {
     for (std::int32_t i = 0; i <= points.upper(); ++i)

@@ -20,19 +20,17 @@ struct PtoTramo {
     double Y = 0;
 };
 
-/// The lowest index above `desde` whose point is a sync point of the loaded side; -1 for none.
-[[nodiscard]] std::int32_t SiguienteSinc(std::string_view lado, std::int32_t desde);
-/// The index of the sync point of ordinal `n`, from 0, of the loaded side; 0 for none.
-[[nodiscard]] std::int32_t SincN(std::string_view lado, std::int32_t n);
 /// Length from a working point to the next, to the first from the last. Raises 9, 6.
 [[nodiscard]] double LargoCuerda(std::string_view lado, std::int32_t i);
 
-/// The sync points of an outline, found once: answers as SiguienteSinc and SincN do, without a
-/// search from the start. The outline must keep its sync points while this is asked.
+/// The sync points of an outline, found once. The outline must keep its sync points while this is
+/// asked.
 class SyncIndex {
   public:
     explicit SyncIndex(const Array<Pto>& points);
+    /// SiguienteSinc: the lowest index above `after` whose point is a sync point; -1 for none.
     [[nodiscard]] std::int32_t next(std::int32_t after) const;
+    /// SincN: the index of the sync point of ordinal `n`, from 0; 0 for none.
     [[nodiscard]] std::int32_t nth(std::int32_t n) const;
 
   private:

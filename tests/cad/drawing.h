@@ -88,6 +88,19 @@ inline std::vector<ObjCad> random_drawing(std::mt19937& random, int most_entitie
     return objects;
 }
 
+/// First index with Usado 0, and 0 when there is none.
+inline std::int32_t PrimerNoUsado() {
+    for (std::int32_t i = 0; i <= session.ObjsCad.upper(); ++i)
+        if (session.ObjsCad[i].Usado == 0)
+            return i;
+    return 0;
+}
+
+/// -1 when no element has Usado 0, also for a list without elements.
+inline Flag TodosUsados() {
+    return ContarNoUsados() == 0 ? True : False;
+}
+
 /// The rule of the chain, entity by entity.
 inline std::int32_t plain_next(double X, double Y, bool por_vertices) {
     Array<ObjCad>& objects = session.ObjsCad;

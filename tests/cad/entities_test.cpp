@@ -46,20 +46,14 @@ TEST(Entities, counts_what_is_not_used) {
     const ObjCad free = line({0, 0}, {1, 1});
     set_drawing({used(free), free, used(free), free});
     EXPECT_EQ(ContarNoUsados(), 2);
-    EXPECT_EQ(PrimerNoUsado(), 1);
-    EXPECT_EQ(TodosUsados(), False);
     set_drawing({used(free), used(free)});
     EXPECT_EQ(ContarNoUsados(), 0);
-    EXPECT_EQ(PrimerNoUsado(), 0);
-    EXPECT_EQ(TodosUsados(), True);
 }
 
 TEST(Entities, an_empty_list_has_nothing_unused) {
     RecordingPlatform platform;
     session.ObjsCad.erase();
     EXPECT_EQ(ContarNoUsados(), 0);
-    EXPECT_EQ(PrimerNoUsado(), 0);
-    EXPECT_EQ(TodosUsados(), True);
     EXPECT_EQ(HayPuntos(), True);
 }
 

@@ -1,5 +1,6 @@
 #include "cutprep/adjustment.h"
 
+#include "plain_syncs.h"
 #include "workbench.h"
 
 #include <algorithm>
@@ -12,6 +13,8 @@ namespace {
 
 using test::Points;
 using test::points_of;
+using test::SiguienteSinc;
+using test::SincN;
 
 /// The adjustment written down a second time, the plain way: searches from the start, no table but
 /// a stable sort, no prepared index.

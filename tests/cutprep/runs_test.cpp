@@ -1,5 +1,6 @@
 #include "cutprep/runs.h"
 
+#include "plain_syncs.h"
 #include "support/error_number.h"
 #include "workbench.h"
 
@@ -11,6 +12,8 @@ namespace {
 
 using test::number_of;
 using test::Points;
+using test::SiguienteSinc;
+using test::SincN;
 
 struct RunsTest : testing::Test, test::Workbench {
     static void set_work(const Points& A, const Points& B) {
@@ -24,30 +27,32 @@ const Points kSide = {{0, 0}, {3, 4, 1}, {3, 0, 0}, {9, 8, 1}, {0, 8}};
 
 TEST_F(RunsTest, the_next_sync_point_lies_above_the_given_index) {
     set_sides(kSide, {{0, 0, 1}, {1, 0, 2}, {2, 0, -1}});
-    EXPECT_EQ(SiguienteSinc("A", -1), 1);
-    EXPECT_EQ(SiguienteSinc("A", 0), 1);
-    EXPECT_EQ(SiguienteSinc("A", 1), 3);
-    EXPECT_EQ(SiguienteSinc("A", 3), -1);
-    EXPECT_EQ(SiguienteSinc("A", 4), -1);
-    EXPECT_EQ(SiguienteSinc("A", 40), -1);
+    const SyncIndex A(session.PtosA);
+    EXPECT_EQ(A.next(-1), 1);
+    EXPECT_EQ(A.next(0), 1);
+    EXPECT_EQ(A.next(1), 3);
+    EXPECT_EQ(A.next(3), -1);
+    EXPECT_EQ(A.next(4), -1);
+    EXPECT_EQ(A.next(40), -1);
     // Only 1 marks a sync point.
-    EXPECT_EQ(SiguienteSinc("B", 0), -1);
+    EXPECT_EQ(SyncIndex(session.PtosB).next(0), -1);
 }
 
 TEST_F(RunsTest, a_sync_point_is_found_by_its_ordinal_or_is_0) {
     set_sides(kSide, {{0, 0}, {1, 0}});
-    EXPECT_EQ(SincN("A", 0), 1);
-    EXPECT_EQ(SincN("A", 1), 3);
-    EXPECT_EQ(SincN("A", 2), 0);
-    EXPECT_EQ(SincN("B", 0), 0);
+    const SyncIndex A(session.PtosA);
+    EXPECT_EQ(A.nth(0), 1);
+    EXPECT_EQ(A.nth(1), 3);
+    EXPECT_EQ(A.nth(2), 0);
+    EXPECT_EQ(SyncIndex(session.PtosB).nth(0), 0);
 }
 
 TEST_F(RunsTest, any_text_but_A_means_side_B) {
     set_work({{0, 0, 1}, {1, 0}}, {{0, 0}, {5, 0, 1}});
     for (const char* lado : {"B", "b", "a", "", "A2"}) {
         SCOPED_TRACE(lado);
-        EXPECT_EQ(SiguienteSinc(lado, -1), 1);
-        EXPECT_EQ(SincN(lado, 0), 1);
+        EXPECT_EQ(AdjustedSide(lado).syncs.next(-1), 1);
+        EXPECT_EQ(AdjustedSide(lado).syncs.nth(0), 1);
         EXPECT_EQ(LargoCuerda(lado, 0), 5);
     }
 }
@@ -71,7 +76,7 @@ TEST_F(RunsTest, chords_come_from_the_working_copy_and_sync_points_from_the_load
     set_work(kSide, kSide);
     session.TrabajoA[1] = {.X = 0, .Y = 2};
     EXPECT_EQ(LargoCuerda("A", 0), 2);
-    EXPECT_EQ(SiguienteSinc("A", -1), 1);
+    EXPECT_EQ(AdjustedSide("A").syncs.next(-1), 1);
 }
 
 TEST_F(RunsTest, a_run_holds_both_its_sync_points_and_counts_the_chord_behind_it) {
