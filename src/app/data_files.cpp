@@ -66,7 +66,7 @@ std::optional<QByteArray> mark_of_database(const fs::path& path) {
     trap(
         [&] { mark = digest(QByteArray::fromStdString(language_texts(runtime::path_text(path)))); },
         [&](const RuntimeError& failure) {
-            if (failure.number == error::not_a_database)
+            if (failure.number == error::unrecognized_database)
                 mark = kDamaged;
         });
     return mark;

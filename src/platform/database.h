@@ -23,7 +23,6 @@ inline constexpr int database_not_opened = 3051;
 inline constexpr int null_key = 3058;
 inline constexpr int field_too_small = 3163;
 inline constexpr int operation_not_supported = 3251;
-inline constexpr int not_a_database = 3343;
 } // namespace error
 
 using Value = std::variant<std::monostate, std::int64_t, double, std::string>;

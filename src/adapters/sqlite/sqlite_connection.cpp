@@ -16,14 +16,14 @@ constexpr int kBusyMilliseconds = 200;
 void refuse_empty(const Connection& connection) {
     Statement pages(connection, "PRAGMA page_count");
     if (pages.step() && pages.column(0) == Value{std::int64_t{0}})
-        raise(error::not_a_database, "file is empty");
+        raise(error::unrecognized_database, "file is empty");
 }
 
 // Gives the first fault as a row, or "ok".
 void refuse_damaged(const Connection& connection) {
     Statement check(connection, "PRAGMA quick_check(1)");
     if (check.step() && check.column(0) != Value{std::string("ok")})
-        raise(error::not_a_database, "database disk image is malformed");
+        raise(error::unrecognized_database, "database disk image is malformed");
 }
 
 // A write-protected file is opened for reading by these flags.

@@ -41,7 +41,7 @@ int number_of(int extended_code, std::string_view text) {
         return error::database_read_only;
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
-        return error::not_a_database;
+        return error::unrecognized_database;
     case SQLITE_CANTOPEN:
     case SQLITE_PERM:
     case SQLITE_AUTH:
