@@ -24,6 +24,9 @@ if(VELMORA_SANITIZE)
     -fno-omit-frame-pointer -g1 -O1)
   add_link_options(-fsanitize=address,undefined)
 endif()
+if(VELMORA_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 
 # Hardened as the distribution hardens, with the library's own checks of its containers on top. Its
 # compilers make position independent programs by themselves.

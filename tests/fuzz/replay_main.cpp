@@ -1,4 +1,4 @@
-// Runs inputs through their targets.
+// Runs inputs through their targets, without libFuzzer.
 //
 //     velmora-fuzz TARGET FILE|FOLDER...   these inputs
 //     velmora-fuzz --all FOLDER            every target with its folder in FOLDER

@@ -1,6 +1,7 @@
 // Saved and read back: equal points and marks, or a reason that has a name.
 #include "document/session.h"
 #include "formats/load.h"
+#include "formats/outline_writer.h"
 #include "formats/save.h"
 #include "fuzz/stage.h"
 #include "fuzz/target.h"
