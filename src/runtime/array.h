@@ -27,12 +27,13 @@ class Array {
     [[nodiscard]] bool dimensioned() const { return !items_.empty(); }
     [[nodiscard]] std::size_t size() const { return items_.size(); }
 
-    /// New bounds 0..upper, all elements zeroed. A negative bound raises 9.
+    /// New bounds 0..upper, all elements zeroed. A negative bound raises 9, one beyond 2 GB of
+    /// elements 7.
     void redim(std::int32_t upper) {
         check_bound(upper);
         items_.assign(static_cast<std::size_t>(upper) + 1, T{});
     }
-    /// New bounds 0..upper, what is inside both stays. A negative bound raises 9.
+    /// New bounds 0..upper, what is inside both stays. Raises likewise.
     void redim_keep(std::int32_t upper) {
         check_bound(upper);
         items_.resize(static_cast<std::size_t>(upper) + 1);
@@ -54,9 +55,14 @@ class Array {
     void swap(Array& other) noexcept { items_.swap(other.items_); }
 
   private:
+    static constexpr std::size_t most_bytes = std::size_t{1} << 31U;
+
     static void check_bound(std::int32_t upper) {
         if (upper < 0)
             raise(error::subscript);
+        // The system promises memory that it does not have, and ends who takes it.
+        if (static_cast<std::size_t>(upper) >= most_bytes / sizeof(T))
+            raise(error::out_of_memory);
     }
     [[nodiscard]] std::size_t checked(std::int32_t index) const {
         if (index < 0 || static_cast<std::size_t>(index) >= items_.size())

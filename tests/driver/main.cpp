@@ -77,7 +77,7 @@ int run(const Options& options, const std::string& script, char* program) {
     QApplication::setApplicationName("Velmora");
     folders.install(QCoreApplication::applicationDirPath().toStdString());
     Stage stage(folders.work(), folders.program());
-    Runner runner(stage, parse_script(script));
+    Runner runner(stage, lines_of(parse_script(script)));
     runner.begin();
     const int status = QApplication::exec();
     folders.remove();

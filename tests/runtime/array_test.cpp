@@ -27,6 +27,14 @@ TEST(Array, redim_zeroes_and_redim_keep_keeps) {
     EXPECT_EQ(array[2], 0);
 }
 
+TEST(Array, more_than_any_machine_has_room_for_raises_7_and_changes_nothing) {
+    Array<double> array;
+    array.redim(1);
+    EXPECT_EQ(number_of([&] { array.redim(1 << 28); }), error::out_of_memory);
+    EXPECT_EQ(number_of([&] { array.redim_keep(1 << 28); }), error::out_of_memory);
+    EXPECT_EQ(array.upper(), 1);
+}
+
 TEST(Array, an_index_or_a_bound_outside_raises_9) {
     Array<int> array;
     array.redim(2);

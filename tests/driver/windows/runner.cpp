@@ -24,8 +24,15 @@ void expired(int line) {
 
 } // namespace
 
-Runner::Runner(Stage& stage, std::vector<ScriptLine> lines)
-    : stage_(stage), lines_(std::move(lines)), watchdog_(kLineLimit, expired) {}
+LineSource lines_of(std::vector<ScriptLine> lines) {
+    auto next = [lines = std::move(lines), at = std::size_t{0}]() mutable {
+        return at == lines.size() ? std::nullopt : std::optional(lines[at++]);
+    };
+    return {.next = std::move(next), .fault = leave_with_fault};
+}
+
+Runner::Runner(Stage& stage, LineSource source)
+    : stage_(stage), source_(std::move(source)), watchdog_(kLineLimit, expired) {}
 
 void Runner::begin() {
     arm(0);
@@ -44,21 +51,21 @@ void Runner::step() {
     if (!std::exchange(settled_, true))
         return arm(0);
     settled_ = false;
-    if (next_ == lines_.size())
+    const auto line = source_.next();
+    if (!line)
         leave(ExitStatus::done);
     arm(0);
-    carry_out_next();
+    carry_out(*line);
 }
 
-void Runner::carry_out_next() {
-    const ScriptLine& line = lines_[next_++];
+void Runner::carry_out(const ScriptLine& line) {
     stage_.line = line.number;
     watchdog_.begin(line.number);
     stage_.transcript.line(">", line.text);
     try {
-        carry_out(stage_, split_words(line.text));
+        driver::carry_out(stage_, split_words(line.text));
     } catch (const std::exception& fault) {
-        leave_with_fault(line.number, fault.what());
+        source_.fault(line.number, fault.what());
     }
 }
 

@@ -1,4 +1,4 @@
-// Carries a script out, a line each time that the windows are idle. The next step is always armed
+// Carries lines out, one each time that the windows are idle. The next step is always armed
 // before a line is carried out: a line that opens a modal window returns only when that window has
 // closed, and the lines behind it run inside.
 #pragma once
@@ -8,25 +8,36 @@
 #include "windows/stage.h"
 
 #include <QObject>
-#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace velmora::driver {
 
+/// Where the lines come from, and what becomes of one that can't be carried out.
+struct LineSource {
+    /// The next line, asked for when the windows are idle; nothing at the end.
+    std::function<std::optional<ScriptLine>()> next;
+    std::function<void(int line, const std::string& reason)> fault;
+};
+
+/// The lines of a script; the first that can't be carried out ends the process.
+[[nodiscard]] LineSource lines_of(std::vector<ScriptLine> lines);
+
 class Runner : public QObject {
   public:
-    Runner(Stage& stage, std::vector<ScriptLine> lines);
+    Runner(Stage& stage, LineSource source);
     /// To be called once; the steps come from the event loop.
     void begin();
 
   private:
     void arm(int milliseconds);
     void step();
-    void carry_out_next();
+    void carry_out(const ScriptLine& line);
 
     Stage& stage_;
-    std::vector<ScriptLine> lines_;
-    std::size_t next_ = 0;
+    LineSource source_;
     bool settled_ = false; ///< the windows were idle a turn of the event loop ago
     Watchdog watchdog_;
 };
