@@ -1,5 +1,6 @@
 // The canvas: repaints of a large shape beside the desktop's own painter, hit test, drag.
 #include "adapters/qt/image_surface.h"
+#include "canvas/fit.h"
 #include "canvas/pointer.h"
 #include "canvas/rubber_band.h"
 #include "canvas/view.h"
@@ -69,6 +70,13 @@ BENCHMARK(zoomed_repaint)
     ->Arg(4000)
     ->ArgName("waves")
     ->Unit(benchmark::kMillisecond);
+
+void fit(benchmark::State& state) {
+    const RingOnCanvas ring(40);
+    for ([[maybe_unused]] auto _ : state)
+        fit_shape();
+}
+BENCHMARK(fit)->Name("fit_shape of 32000 points")->Unit(benchmark::kMillisecond);
 
 void bare_polyline(benchmark::State& state) {
     const RingOnCanvas ring(static_cast<double>(state.range(0)));

@@ -23,8 +23,6 @@ namespace velmora {
 
 namespace {
 
-constexpr double kTwipsPerPixel = 15;
-constexpr double kMargin = 30; ///< pixels from the edge to the axes of a shape without negatives
 constexpr std::int32_t kPointRadius = 3;
 constexpr std::int32_t kSyncRadius = 5;
 constexpr double kSelectionHalf = 2;
@@ -32,21 +30,17 @@ constexpr double kSelectionHalf = 2;
 /// The pixels of a Polyline, kept from one repaint to the next for its memory alone.
 std::vector<PixelPoint> PtoPoly;
 
-double middle_of(double twips) {
-    return twips / (2 * kTwipsPerPixel);
-}
-
 /// The two axes, and with them the place of the world's origin. They go by the extents of the last
 /// Define_Layout, not by the present points.
 void draw_axes(Surface& pic) {
     const double width = pic.Width();
     const double height = pic.Height();
-    const double right = width / kTwipsPerPixel;
-    const double bottom = height / kTwipsPerPixel;
-    const double x = state::view.MinXForma >= 0 ? kMargin : middle_of(width);
+    const double right = width / kCanvasTwips;
+    const double bottom = height / kCanvasTwips;
+    const double x = origin_on_x(state::view.MinXForma, width);
     pic.Line(to_single(x), 0, to_single(x), to_single(bottom));
     state::view.CanvasX0 = x;
-    const double y = state::view.MinYForma >= 0 ? bottom - kMargin : middle_of(height);
+    const double y = origin_on_y(state::view.MinYForma, height);
     pic.Line(0, to_single(y), to_single(right), to_single(y));
     state::view.CanvasY0 = y;
 }

@@ -24,6 +24,7 @@ void show_figures(const Extents& extents) {
 void place_scroll_bars(const Extents& extents) {
     state::Velmora.SSScroll_x = extents.min_x < 0 ? 1.0 / 5 : 0;
     state::Velmora.SSScroll_y = extents.min_y < 0 ? 1.0 / 3 : 1;
+    state::Velmora.SSScroll_middle.reset();
     ++state::Velmora.SSScroll_moves;
 }
 

@@ -9,6 +9,22 @@
 
 namespace velmora {
 
+namespace {
+
+double middle_of(double twips) {
+    return twips / (2 * kCanvasTwips);
+}
+
+} // namespace
+
+double origin_on_x(double smallest, double width) {
+    return smallest >= 0 ? kCanvasMargin : middle_of(width);
+}
+
+double origin_on_y(double smallest, double height) {
+    return smallest >= 0 ? height / kCanvasTwips - kCanvasMargin : middle_of(height);
+}
+
 double canvas_x(double x) {
     return runtime::checked(state::view.ZoomFactor * x + state::view.CanvasX0);
 }

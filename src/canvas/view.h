@@ -11,6 +11,15 @@
 
 namespace velmora {
 
+inline constexpr double kCanvasTwips = 15;  ///< to the pixel
+inline constexpr double kCanvasMargin = 30; ///< pixels from the edge to the axes without negatives
+
+/// Pixel position of the world's origin on an axis of the canvas, by the smallest coordinate of the
+/// shape and the canvas's size in twips: 30 pixels from the edge without negatives, else in the
+/// middle.
+[[nodiscard]] double origin_on_x(double smallest, double width);
+[[nodiscard]] double origin_on_y(double smallest, double height);
+
 /// Pixel position of a world point, unrounded; raises 6 beyond f64.
 [[nodiscard]] double canvas_x(double x);
 [[nodiscard]] double canvas_y(double y);

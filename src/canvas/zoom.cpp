@@ -1,5 +1,8 @@
 #include "canvas/zoom.h"
 
+#include "document/refresh.h"
+#include "document/shown.h"
+
 namespace velmora {
 
 double zoom_above(double zoom) {
@@ -22,6 +25,12 @@ double zoom_below(double zoom) {
     if (zoom <= 1000)
         return zoom - 100;
     return zoom - 1000;
+}
+
+void zoom_to(double zoom) {
+    shown::ZoomFactor().put(zoom);
+    Define_Layout();
+    Dibuja();
 }
 
 } // namespace velmora

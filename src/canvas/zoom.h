@@ -1,4 +1,4 @@
-// The ladder of zooms.
+// The ladder of zooms, and what every change of the zoom does.
 #pragma once
 
 namespace velmora {
@@ -7,5 +7,8 @@ namespace velmora {
 /// down to 9. From 1 or below it goes no lower.
 [[nodiscard]] double zoom_above(double zoom);
 [[nodiscard]] double zoom_below(double zoom);
+
+/// ZoomFactor and its box, then the refresh of a zoom: Define_Layout, Dibuja.
+void zoom_to(double zoom);
 
 } // namespace velmora

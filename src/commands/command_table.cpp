@@ -95,6 +95,9 @@ constexpr auto kMenus = std::to_array<MenuEntry>({
     top("mnu_ver", "&Ver"),
     {"mnu_ver", "mnu_wininfo", "Ventana &Info", "", mnu_wininfo},
     {"mnu_ver", "mnu_winoptgen", "Ventana Opciones Generales", "", mnu_winoptgen},
+    separator("mnu_ver"),
+    {"mnu_ver", "mnu_fit_shape", "Encuadrar la Forma", "Ctrl+0", mnu_fit_shape},
+    {"mnu_ver", "mnu_fit_point", "Encuadrar el Punto Seleccionado", "Ctrl+9", mnu_fit_point},
 
     top("mnu_hlp", "Ay&uda"),
     {"mnu_hlp", "mnu_contenido", "Contenido", "", mnu_contenido},
@@ -147,6 +150,7 @@ constexpr auto kTools = std::to_array<ToolKey>({
     {"TBar4", "K_MIRRORV", "Aplica un Espejo Vertical (F11)", mnu_mirrorv},
     {"TBar4", "K_ZOOMUP", "Aumentar Zoom (CTRL+F12)", mnu_zoom_up},
     {"TBar4", "K_ZOOMDWN", "Disminuir Zoom (CTRL+F11)", mnu_zoom_down},
+    {"TBar4", "K_FIT", "Encuadrar la Forma (CTRL+0)", mnu_fit_shape},
 });
 
 } // namespace

@@ -51,6 +51,10 @@ void mnu_SendToCad();
 // Ver
 void mnu_wininfo();
 void mnu_winoptgen();
+/// The zoom at which the whole shape, or what lies round the selected point, fills the canvas's
+/// visible part; the middle of it is the part's middle then.
+void mnu_fit_shape();
+void mnu_fit_point();
 // Ayuda
 void mnu_contenido();
 void mnu_Shortkeys();

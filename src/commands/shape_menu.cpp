@@ -5,7 +5,6 @@
 #include "canvas/zoom.h"
 #include "commands/handlers.h"
 #include "document/refresh.h"
-#include "document/shown.h"
 #include "document/state/view.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"
@@ -23,12 +22,6 @@ void transform_and_refresh(void (*transform)()) {
     Apply_Precision();
     transform();
     Carga_List_Coords("UPDATE");
-    Define_Layout();
-    Dibuja();
-}
-
-void zoom_to(double zoom) {
-    shown::ZoomFactor().put(zoom);
     Define_Layout();
     Dibuja();
 }

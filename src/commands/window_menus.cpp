@@ -1,4 +1,5 @@
 // The commands of the menus mnu_config, mnuherra, mnu_ver and mnu_hlp: they bring up windows.
+#include "canvas/fit.h"
 #include "commands/handlers.h"
 #include "document/refresh.h"
 #include "document/state/program.h"
@@ -37,6 +38,16 @@ void mnu_wininfo() {
 
 void mnu_winoptgen() {
     platform().windows.show("winoptions");
+}
+
+void mnu_fit_shape() {
+    if (shape_at_hand())
+        fit_shape();
+}
+
+void mnu_fit_point() {
+    if (shape_at_hand())
+        fit_selected_point();
 }
 
 void mnu_contenido() {

@@ -124,6 +124,10 @@ void Bindings::each_push(std::function<void()> push) {
     ties_.push_back({{}, std::move(push)});
 }
 
+void Bindings::each_pull(std::function<void()> pull) {
+    ties_.push_back({std::move(pull), {}});
+}
+
 void Bindings::pull() {
     for (const Tie& tie : ties_)
         if (tie.pull)
@@ -132,7 +136,8 @@ void Bindings::pull() {
 
 void Bindings::push() {
     for (const Tie& tie : ties_)
-        tie.push();
+        if (tie.push)
+            tie.push();
 }
 
 } // namespace velmora

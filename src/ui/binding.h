@@ -39,6 +39,8 @@ class Bindings {
 
     /// Called at each push; for what finds out itself what changed, cheaply.
     void each_push(std::function<void()> push);
+    /// Called at each pull; for what the window alone knows.
+    void each_pull(std::function<void()> pull);
 
     /// Widgets that the user changed into their fields.
     void pull();
@@ -48,7 +50,7 @@ class Bindings {
   private:
     struct Tie {
         std::function<void()> pull; ///< empty where the user changes nothing
-        std::function<void()> push;
+        std::function<void()> push; ///< empty where nothing shows
     };
 
     /// Both directions. `in_widget` and `into_widget` are the widget's side.

@@ -12,6 +12,11 @@ class CanvasScroll : public QScrollArea {
   public:
     using QScrollArea::QScrollArea;
 
+    /// Its bars reach as far as the canvas, and to these places where they lie beyond.
+    void reach(QPoint place);
+    [[nodiscard]] QPoint place() const;
+    void go_to(QPoint place);
+
   protected:
     bool focusNextPrevChild(bool next) override;
 };

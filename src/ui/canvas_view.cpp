@@ -4,22 +4,25 @@
 #include "canvas/keys.h"
 #include "canvas/pointer.h"
 #include "canvas/surface.h"
+#include "commands/handlers.h"
 #include "document/pointer_shape.h"
 #include "document/refresh.h"
 #include "platform/platform.h"
 #include "toolkit/shown_image.h"
 #include "ui/binding.h"
+#include "ui/canvas_scroll.h"
 #include "ui/pic_widget.h"
 
 #include <QLabel>
-#include <QScrollArea>
 #include <QScrollBar>
+#include <cmath>
 
 namespace velmora {
 
 namespace {
 
 constexpr int kCtrl = 2;
+constexpr int kMiddleButton = 4;
 
 int shift_state(bool ctrl) {
     return ctrl ? kCtrl : 0;
@@ -35,13 +38,9 @@ void set_label_colours(QLabel& label, std::uint32_t colour) {
     label.setPalette(palette);
 }
 
-int share_of(const QScrollBar& bar, double share) {
-    return static_cast<int>(std::lround(bar.maximum() * share));
-}
-
 } // namespace
 
-CanvasView::CanvasView(ShownImage& image, PicWidget& pic, QLabel& lbl_xyfloat, QScrollArea& scroll)
+CanvasView::CanvasView(ShownImage& image, PicWidget& pic, QLabel& lbl_xyfloat, CanvasScroll& scroll)
     : image_(image), pic_(pic), label_(lbl_xyfloat), scroll_(scroll) {
     label_.setAutoFillBackground(true);
     label_.setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -68,10 +67,20 @@ void CanvasView::bind(Bindings& bindings, VelmoraWindow& state) {
                             else
                                 pic_.unsetCursor();
                         });
-    bindings.shows<std::uint64_t>(
-        [&state] { return state.SSScroll_moves; },
-        [this, &state](std::uint64_t) { scroll_to(state.SSScroll_x, state.SSScroll_y); });
+    bind_view(bindings, state);
     bind_label(bindings, state);
+}
+
+void CanvasView::bind_view(Bindings& bindings, VelmoraWindow& state) {
+    bindings.shows<std::uint64_t>([&state] { return state.SSScroll_moves; },
+                                  [this, &state](std::uint64_t) {
+                                      scroll_x_ = state.SSScroll_x;
+                                      scroll_y_ = state.SSScroll_y;
+                                      middle_ = state.SSScroll_middle;
+                                      user_scrolled_ = false;
+                                      take_place();
+                                  });
+    bindings.each_pull([this, &state] { state.SSScroll_visible = visible(); });
 }
 
 void CanvasView::bind_label(Bindings& bindings, VelmoraWindow& state) {
@@ -89,15 +98,31 @@ void CanvasView::bind_label(Bindings& bindings, VelmoraWindow& state) {
 
 void CanvasView::wire(Dispatch dispatch) {
     dispatch_ = std::move(dispatch);
+    wire_pointer();
+    wire_keys();
+    wire_scroll_bars();
+}
+
+void CanvasView::wire_pointer() {
     pic_.pressed = [this](const PointerEvent& at) {
+        pressed_twice_ = at.twice;
         dispatch_([at] { pic_MouseDown(at.button, shift_state(at.ctrl), at.x, at.y); });
     };
     pic_.moved = [this](const PointerEvent& at) {
         dispatch_([at] { pic_MouseMove(at.button, shift_state(at.ctrl), at.x, at.y); });
     };
     pic_.released = [this](const PointerEvent& at) {
-        dispatch_([at] { pic_MouseUp(at.button, shift_state(at.ctrl), at.x, at.y); });
+        released(at);
     };
+}
+
+void CanvasView::released(const PointerEvent& at) {
+    dispatch_([at] { pic_MouseUp(at.button, shift_state(at.ctrl), at.x, at.y); });
+    if (at.button == kMiddleButton && std::exchange(pressed_twice_, false))
+        dispatch_(mnu_fit_shape);
+}
+
+void CanvasView::wire_keys() {
     pic_.key_down = [this](int key, bool ctrl) {
         dispatch_([=] { pic_KeyDown(key, shift_state(ctrl)); });
     };
@@ -109,31 +134,45 @@ void CanvasView::wire(Dispatch dispatch) {
     pic_.menu_key = [this] {
         dispatch_(pic_MenuKey);
     };
-    wire_scroll_bars();
 }
 
 void CanvasView::wire_scroll_bars() {
     for (QScrollBar* bar : {scroll_.horizontalScrollBar(), scroll_.verticalScrollBar()}) {
-        connect(bar, &QScrollBar::actionTriggered, this, [this] {
-            user_scrolled_ = true;
-            repaint_after_scroll();
-        });
+        connect(bar, &QScrollBar::actionTriggered, this, &CanvasView::user_moved_view);
         // Until the user scrolls, the place that the program chose holds at every size.
         connect(bar, &QScrollBar::rangeChanged, this, [this] {
             if (!user_scrolled_)
-                scroll_to(scroll_x_, scroll_y_);
+                take_place();
         });
     }
 }
 
-void CanvasView::scroll_to(double x, double y) {
-    scroll_x_ = x;
-    scroll_y_ = y;
-    user_scrolled_ = false;
-    QScrollBar* horizontal = scroll_.horizontalScrollBar();
-    QScrollBar* vertical = scroll_.verticalScrollBar();
-    horizontal->setValue(share_of(*horizontal, x));
-    vertical->setValue(share_of(*vertical, y));
+void CanvasView::take_place() {
+    const QPoint place = wanted_place();
+    scroll_.reach(place);
+    scroll_.go_to(place);
+}
+
+QPoint CanvasView::wanted_place() const {
+    const QSize seen = scroll_.viewport()->size();
+    if (middle_)
+        return {static_cast<int>(std::lround(middle_->x - seen.width() / 2.0)),
+                static_cast<int>(std::lround(middle_->y - seen.height() / 2.0))};
+    const QSize beyond = pic_.size() - seen;
+    return {static_cast<int>(std::lround(std::max(0, beyond.width()) * scroll_x_)),
+            static_cast<int>(std::lround(std::max(0, beyond.height()) * scroll_y_))};
+}
+
+VisibleBox CanvasView::visible() const {
+    const QSize seen = scroll_.viewport()->size();
+    const QPoint at = scroll_.place();
+    return {static_cast<double>(at.x()), static_cast<double>(at.y()),
+            static_cast<double>(seen.width()), static_cast<double>(seen.height())};
+}
+
+void CanvasView::user_moved_view() {
+    user_scrolled_ = true;
+    repaint_after_scroll();
 }
 
 // One repaint for all the steps that a turn of the wheel makes.

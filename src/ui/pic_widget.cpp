@@ -29,7 +29,8 @@ int button_code(Qt::MouseButton button) {
 
 PointerEvent pointer_event(const QMouseEvent& event, int button) {
     return {button, event.modifiers().testFlag(Qt::ControlModifier),
-            static_cast<float>(event.position().x()), static_cast<float>(event.position().y())};
+            static_cast<float>(event.position().x()), static_cast<float>(event.position().y()),
+            event.type() == QEvent::MouseButtonDblClick};
 }
 
 constexpr int kControlKey = 17;

@@ -16,6 +16,7 @@ struct PointerEvent {
     bool ctrl = false;
     float x = 0;
     float y = 0;
+    bool twice = false; ///< the second press of a double click
 };
 
 class PicWidget : public QWidget {

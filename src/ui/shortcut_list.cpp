@@ -9,11 +9,11 @@ namespace velmora {
 
 namespace {
 
-constexpr int kLines = 21;
+constexpr int kLines = 23;
 
 std::vector<std::string> control_names() {
-    std::vector<std::string> names = {"Frame1",       "frm_genericas", "frm_autocad",
-                                      "frm_archivos", "frm_forma",     "frm_puntos"};
+    std::vector<std::string> names = {"Frame1",    "frm_genericas", "frm_autocad", "frm_archivos",
+                                      "frm_forma", "frm_puntos",    "frm_vista"};
     for (int line = 0; line < kLines; ++line)
         for (const char* array : {"lbl_key", "lbl_line"})
             names.push_back(array + ('(' + std::to_string(line) + ')'));

@@ -24,7 +24,7 @@ std::string text_of_file(const std::string& name) {
 /// The keys that a page of the guide names, "Ctrl+F12", without its marks.
 std::set<std::string> keys_on(const std::string& page) {
     const std::string plain = std::regex_replace(text_of_file(page), std::regex("</?kbd>"), "");
-    const std::regex key("(Ctrl\\+)?(F[0-9]+|[A-Z])\\b");
+    const std::regex key("(Ctrl\\+)?(F[0-9]+|[A-Z0-9])\\b");
     return {std::sregex_token_iterator(plain.begin(), plain.end(), key), {}};
 }
 

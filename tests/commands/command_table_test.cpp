@@ -75,6 +75,9 @@ constexpr Row kRows[] = {
     {"", "mnu_ver", "&Ver", ""},
     {"mnu_ver", "mnu_wininfo", "Ventana &Info", ""},
     {"mnu_ver", "mnu_winoptgen", "Ventana Opciones Generales", ""},
+    {"mnu_ver", "", "-", ""},
+    {"mnu_ver", "mnu_fit_shape", "Encuadrar la Forma", "Ctrl+0"},
+    {"mnu_ver", "mnu_fit_point", "Encuadrar el Punto Seleccionado", "Ctrl+9"},
     {"", "mnu_hlp", "Ay&uda", ""},
     {"mnu_hlp", "mnu_contenido", "Contenido", ""},
     {"mnu_hlp", "mnu_Shortkeys", "Teclas Rápìdas", ""},
@@ -129,6 +132,7 @@ constexpr Key kKeys[] = {
     {"TBar4", "K_MIRRORV", "Aplica un Espejo Vertical (F11)"},
     {"TBar4", "K_ZOOMUP", "Aumentar Zoom (CTRL+F12)"},
     {"TBar4", "K_ZOOMDWN", "Disminuir Zoom (CTRL+F11)"},
+    {"TBar4", "K_FIT", "Encuadrar la Forma (CTRL+0)"},
 };
 
 TEST(CommandTable, holds_the_menus_in_their_order) {

@@ -122,7 +122,7 @@ TEST_F(ControlsTest, kinds_and_parts_are_those_of_the_form) {
     EXPECT_EQ(form_control("Velmora", "TBar2").kind(), ControlKind::tool_bar);
     EXPECT_EQ(form_control("Velmora", "TBar2").parts(), 7);
     EXPECT_EQ(form_control("Velmora", "TBar3").parts(), 2);
-    EXPECT_EQ(form_control("Velmora", "TBar4").parts(), 9);
+    EXPECT_EQ(form_control("Velmora", "TBar4").parts(), 10);
     EXPECT_EQ(form_control("Velmora", "StatusBar1").kind(), ControlKind::status_bar);
     EXPECT_EQ(form_control("Velmora", "StatusBar1").parts(), 1);
     EXPECT_EQ(form_control("winoptions", "SSTab1").kind(), ControlKind::tab_strip);

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,25 @@ struct CoordRow {
     double Y = 0;
 };
 
+/// A place on pic in pixels, or in the world in its units.
+struct Spot {
+    double x = 0;
+    double y = 0;
+
+    bool operator==(const Spot&) const = default;
+};
+
+/// The part of pic that is seen, in its pixels, as the window was when the user last did something.
+struct VisibleBox {
+    double left = 0;
+    double top = 1400;
+    double width = 800;
+    double height = 600;
+
+    [[nodiscard]] Spot middle() const { return {left + width / 2, top + height / 2}; }
+    bool operator==(const VisibleBox&) const = default;
+};
+
 struct VelmoraWindow {
     std::string Caption;
     std::string TxtDat_File;
@@ -61,6 +81,9 @@ struct VelmoraWindow {
     double SSScroll_x = 0;            ///< 0 left to 1 right, as a share of the bar's maximum
     double SSScroll_y = 1;            ///< 0 top to 1 bottom
     std::uint64_t SSScroll_moves = 0; ///< grows with every move by the program
+    /// What a move brings to the middle of the visible part, in place of the shares
+    std::optional<Spot> SSScroll_middle;
+    VisibleBox SSScroll_visible; ///< written by the window alone
     bool minimized = false;
     std::map<std::string, MenuState, std::less<>> menus; ///< entries that differ from the default
     std::array<RecentEntry, 11> mnuRecentFile;           ///< 1 to 10; 0 is not in use
