@@ -4,6 +4,7 @@
 #include "canvas/pointer.h"
 #include "canvas/rubber_band.h"
 #include "canvas/view.h"
+#include "canvas/wheel_zoom.h"
 #include "document/refresh.h"
 #include "document/session.h"
 #include "fakes/put_in_place.h"
@@ -68,6 +69,20 @@ BENCHMARK(zoomed_repaint)
     ->Name("Dibuja of 32000 points, zoomed in")
     ->Arg(40)
     ->Arg(4000)
+    ->ArgName("waves")
+    ->Unit(benchmark::kMillisecond);
+
+void wheel(benchmark::State& state) {
+    const RingOnCanvas ring(static_cast<double>(state.range(0)));
+    int step = 1;
+    for ([[maybe_unused]] auto _ : state)
+        zoom_around({1100, 1100}, step = -step);
+}
+BENCHMARK(wheel)
+    ->Name("a step of the wheel's zoom, 32000 points")
+    ->Arg(0)
+    ->Arg(40)
+    ->Arg(400)
     ->ArgName("waves")
     ->Unit(benchmark::kMillisecond);
 

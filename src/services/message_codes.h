@@ -100,6 +100,7 @@ inline constexpr int offer_recovery = 117;
 inline constexpr int capture_cancelled = 118;
 inline constexpr int lines_passed_over = 120;
 inline constexpr int results_saved = 121;
+inline constexpr int canvas_ends = 122;
 inline constexpr int open_filter = 132;
 inline constexpr int picture_filter = 144;
 

@@ -17,8 +17,17 @@ class CanvasScroll : public QScrollArea {
     [[nodiscard]] QPoint place() const;
     void go_to(QPoint place);
 
+  signals:
+    /// Ctrl and the wheel: whole steps, away from the user above 0, with the pointer's place on the
+    /// screen.
+    void wheel_zoomed(int steps, QPoint on_screen);
+
   protected:
     bool focusNextPrevChild(bool next) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    int turned_ = 0; ///< eighths of a degree that made no step yet
 };
 
 } // namespace velmora

@@ -4,6 +4,7 @@
 #include "canvas/keys.h"
 #include "canvas/pointer.h"
 #include "canvas/surface.h"
+#include "canvas/wheel_zoom.h"
 #include "commands/handlers.h"
 #include "document/pointer_shape.h"
 #include "document/refresh.h"
@@ -22,6 +23,7 @@ namespace velmora {
 namespace {
 
 constexpr int kCtrl = 2;
+constexpr int kSpace = 32;
 constexpr int kMiddleButton = 4;
 
 int shift_state(bool ctrl) {
@@ -41,7 +43,8 @@ void set_label_colours(QLabel& label, std::uint32_t colour) {
 } // namespace
 
 CanvasView::CanvasView(ShownImage& image, PicWidget& pic, QLabel& lbl_xyfloat, CanvasScroll& scroll)
-    : image_(image), pic_(pic), label_(lbl_xyfloat), scroll_(scroll) {
+    : image_(image), pic_(pic), label_(lbl_xyfloat), scroll_(scroll),
+      hand_(scroll, [this] { user_moved_view(); }) {
     label_.setAutoFillBackground(true);
     label_.setAttribute(Qt::WA_TransparentForMouseEvents);
     pic_.show_image(image_.image());
@@ -62,10 +65,8 @@ void CanvasView::bind(Bindings& bindings, VelmoraWindow& state) {
                                   });
     bindings.shows<int>([&state] { return state.pic_MousePointer; },
                         [this](int pointer) {
-                            if (pointer == pointer::up_arrow)
-                                pic_.setCursor(Qt::UpArrowCursor);
-                            else
-                                pic_.unsetCursor();
+                            pointer_ = pointer;
+                            show_cursor();
                         });
     bind_view(bindings, state);
     bind_label(bindings, state);
@@ -101,39 +102,75 @@ void CanvasView::wire(Dispatch dispatch) {
     wire_pointer();
     wire_keys();
     wire_scroll_bars();
+    connect(&scroll_, &CanvasScroll::wheel_zoomed, this, &CanvasView::zoom_by_wheel);
 }
 
 void CanvasView::wire_pointer() {
     pic_.pressed = [this](const PointerEvent& at) {
-        pressed_twice_ = at.twice;
-        dispatch_([at] { pic_MouseDown(at.button, shift_state(at.ctrl), at.x, at.y); });
+        if (!hand_.takes_press(at))
+            dispatch_([at] { pic_MouseDown(at.button, shift_state(at.ctrl), at.x, at.y); });
     };
     pic_.moved = [this](const PointerEvent& at) {
-        dispatch_([at] { pic_MouseMove(at.button, shift_state(at.ctrl), at.x, at.y); });
+        if (!hand_.takes_move(at))
+            dispatch_([at] { pic_MouseMove(at.button, shift_state(at.ctrl), at.x, at.y); });
+        show_cursor();
     };
     pic_.released = [this](const PointerEvent& at) {
-        released(at);
+        if (!hand_.takes_release(at))
+            released(at);
+        show_cursor();
     };
 }
 
+// What the logic does with the middle button can lay the view out anew: a dragged view stays where
+// it was dragged to.
 void CanvasView::released(const PointerEvent& at) {
+    const QPoint dragged_to = scroll_.place();
     dispatch_([at] { pic_MouseUp(at.button, shift_state(at.ctrl), at.x, at.y); });
-    if (at.button == kMiddleButton && std::exchange(pressed_twice_, false))
+    if (at.button != kMiddleButton)
+        return;
+    const ViewHand::Ended ended = hand_.let_go();
+    if (ended == ViewHand::Ended::double_click)
         dispatch_(mnu_fit_shape);
+    if (ended == ViewHand::Ended::drag && scroll_.place() != dragged_to) {
+        scroll_.go_to(dragged_to);
+        user_moved_view();
+    }
 }
 
 void CanvasView::wire_keys() {
     pic_.key_down = [this](int key, bool ctrl) {
+        if (key == kSpace)
+            space(true);
         dispatch_([=] { pic_KeyDown(key, shift_state(ctrl)); });
     };
     pic_.key_up = [this](int key, bool ctrl) {
+        if (key == kSpace)
+            space(false);
         dispatch_([=] { pic_KeyUp(key, shift_state(ctrl)); });
     };
     // Nothing that shows changes, and the focus goes while handlers run.
-    pic_.focus_lost = pic_LostFocus;
+    pic_.focus_lost = [this] {
+        space(false);
+        pic_LostFocus();
+    };
     pic_.menu_key = [this] {
         dispatch_(pic_MenuKey);
     };
+}
+
+void CanvasView::space(bool down) {
+    hand_.space(down);
+    show_cursor();
+}
+
+void CanvasView::show_cursor() {
+    if (hand_.shows())
+        pic_.setCursor(hand_.drags() ? Qt::ClosedHandCursor : Qt::OpenHandCursor);
+    else if (pointer_ == pointer::up_arrow)
+        pic_.setCursor(Qt::UpArrowCursor);
+    else
+        pic_.unsetCursor();
 }
 
 void CanvasView::wire_scroll_bars() {
@@ -186,6 +223,26 @@ void CanvasView::repaint_after_scroll() {
             dispatch_([] { Dibuja_unless_NoRedraw(); });
         },
         Qt::QueuedConnection);
+}
+
+// All the steps that came by now in one: each costs a whole repaint.
+void CanvasView::zoom_by_wheel(int steps, QPoint on_screen) {
+    wheel_steps_ += steps;
+    wheel_at_ = on_screen;
+    if (!std::exchange(zoom_due_, true))
+        QMetaObject::invokeMethod(
+            this, [this] { zoom_now(); }, Qt::QueuedConnection);
+}
+
+// Steps that come while the windows run inside a zoom wait for its end.
+void CanvasView::zoom_now() {
+    while (const int steps = std::exchange(wheel_steps_, 0)) {
+        const QPoint at = pic_.mapFromGlobal(wheel_at_);
+        dispatch_([=] {
+            zoom_around({static_cast<double>(at.x()), static_cast<double>(at.y())}, steps);
+        });
+    }
+    zoom_due_ = false;
 }
 
 } // namespace velmora

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "document/windows/velmora.h"
+#include "ui/view_hand.h"
 
 #include <QObject>
 #include <functional>
@@ -15,7 +16,6 @@ namespace velmora {
 class Bindings;
 class CanvasScroll;
 class PicWidget;
-struct PointerEvent;
 class ShownImage;
 
 class CanvasView : public QObject {
@@ -37,24 +37,32 @@ class CanvasView : public QObject {
     void wire_keys();
     void wire_scroll_bars();
     void released(const PointerEvent& at);
+    void space(bool down);
+    void show_cursor();
     /// Puts the bars where the program wants them.
     void take_place();
     [[nodiscard]] QPoint wanted_place() const;
     [[nodiscard]] VisibleBox visible() const;
     void repaint_after_scroll();
     void user_moved_view();
+    void zoom_by_wheel(int steps, QPoint on_screen);
+    void zoom_now();
 
     ShownImage& image_;
     PicWidget& pic_;
     QLabel& label_;
     CanvasScroll& scroll_;
+    ViewHand hand_;
     Dispatch dispatch_;
     double scroll_x_ = 0; ///< shares of the bars' maximum, as the program set them last
     double scroll_y_ = 1;
     std::optional<Spot> middle_; ///< in place of them
     bool user_scrolled_ = false; ///< since then
     bool repaint_due_ = false;
-    bool pressed_twice_ = false;
+    int pointer_ = 0;     ///< the canvas's own, as the program set it
+    int wheel_steps_ = 0; ///< not yet zoomed by
+    QPoint wheel_at_;
+    bool zoom_due_ = false;
 };
 
 } // namespace velmora

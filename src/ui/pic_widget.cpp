@@ -28,8 +28,11 @@ int button_code(Qt::MouseButton button) {
 }
 
 PointerEvent pointer_event(const QMouseEvent& event, int button) {
-    return {button, event.modifiers().testFlag(Qt::ControlModifier),
-            static_cast<float>(event.position().x()), static_cast<float>(event.position().y()),
+    return {button,
+            event.modifiers().testFlag(Qt::ControlModifier),
+            static_cast<float>(event.position().x()),
+            static_cast<float>(event.position().y()),
+            event.globalPosition().toPoint(),
             event.type() == QEvent::MouseButtonDblClick};
 }
 
@@ -78,8 +81,9 @@ void PicWidget::mousePressEvent(QMouseEvent* event) {
 void PicWidget::mouseMoveEvent(QMouseEvent* event) {
     const bool left = event->buttons().testFlag(Qt::LeftButton);
     const bool right = event->buttons().testFlag(Qt::RightButton);
+    const bool middle = event->buttons().testFlag(Qt::MiddleButton);
     if (moved)
-        moved(pointer_event(*event, (left ? 1 : 0) + (right ? 2 : 0)));
+        moved(pointer_event(*event, (left ? 1 : 0) + (right ? 2 : 0) + (middle ? 4 : 0)));
 }
 
 void PicWidget::mouseReleaseEvent(QMouseEvent* event) {

@@ -3,6 +3,7 @@
 // desktop.
 #pragma once
 
+#include <QPoint>
 #include <QWidget>
 #include <functional>
 
@@ -10,12 +11,14 @@ class QImage;
 
 namespace velmora {
 
-/// A press, move or release at a pixel. Button: 1 left, 2 right, 4 middle, 0 none.
+/// A press, move or release at a pixel. Button: 1 left, 2 right, 4 middle, 0 none; at a move the
+/// sum of those that are down.
 struct PointerEvent {
     int button = 0;
     bool ctrl = false;
     float x = 0;
     float y = 0;
+    QPoint on_screen;
     bool twice = false; ///< the second press of a double click
 };
 

@@ -9,7 +9,7 @@ namespace velmora {
 
 namespace {
 
-constexpr int kLines = 23;
+constexpr int kLines = 25;
 
 std::vector<std::string> control_names() {
     std::vector<std::string> names = {"Frame1",    "frm_genericas", "frm_autocad", "frm_archivos",

@@ -1,4 +1,4 @@
-// The view fitted by hand, by real events: keys, menu, bar, the wheel as a button.
+// The view moved and fitted by hand, by real events: wheel, middle button, Space, keys, menu.
 #include "support/outline.h"
 #include "windows/canvas_test.h"
 
@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 namespace velmora::test {
 
@@ -19,6 +20,31 @@ class ViewTest : public CanvasTest {
     QSize seen() { return scroll().viewport()->size(); }
     /// The pixel of pic in the middle of what is seen.
     QPoint middle() { return place_seen() + QPoint(seen().width() / 2, seen().height() / 2); }
+    /// A pixel of pic as a place of the window.
+    QPoint in_window(QPoint at) { return pic().mapTo(window("Velmora"), at); }
+    void turn(QPoint at, int eighths, Qt::KeyboardModifiers keys = Qt::ControlModifier) {
+        send_turn(at, eighths, keys);
+        settle();
+    }
+    void send_turn(QPoint at, int eighths, Qt::KeyboardModifiers keys) {
+        const QPoint on_screen = pic().mapToGlobal(at);
+        QWidget& viewport = *scroll().viewport(); // where the canvas lets it through to
+        QWheelEvent event(viewport.mapFromGlobal(on_screen), on_screen, {}, {0, eighths},
+                          Qt::NoButton, keys, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&viewport, &event);
+    }
+    /// Presses at a pixel of pic, goes `way` on the screen, lets go.
+    void drag(Qt::MouseButton button, QPoint from, QPoint way) {
+        send(QEvent::MouseButtonPress, from, button);
+        const QPoint to = pic().mapToGlobal(from) + way;
+        QMouseEvent move(QEvent::MouseMove, pic().mapFromGlobal(to), to, Qt::NoButton, button,
+                         Qt::NoModifier);
+        QCoreApplication::sendEvent(&pic(), &move);
+        QMouseEvent release(QEvent::MouseButtonRelease, pic().mapFromGlobal(to), to, button,
+                            Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&pic(), &release);
+        settle();
+    }
     void send(QEvent::Type type, QPoint at, Qt::MouseButton button) {
         QMouseEvent event(type, at, pic().mapToGlobal(at), button,
                           type == QEvent::MouseButtonRelease ? Qt::NoButton : button,
@@ -90,12 +116,124 @@ TEST_F(ViewTest, ctrl_9_brings_the_selected_point_to_the_middle) {
     EXPECT_LE((middle() - QPoint(30 + far, 1970 - far)).manhattanLength(), 2);
 }
 
+TEST_F(ViewTest, ctrl_and_the_wheel_zoom_round_the_pointer) {
+    const QPoint before = in_window(place(10, 10));
+    turn(place(10, 10), 120);
+    EXPECT_EQ(session.ZoomFactor, 11);
+    EXPECT_LE((in_window({30 + 110, 1970 - 110}) - before).manhattanLength(), 1);
+    turn({30 + 110, 1970 - 110}, -120);
+    EXPECT_EQ(session.ZoomFactor, 10);
+    EXPECT_LE((in_window(place(10, 10)) - before).manhattanLength(), 2);
+}
+
+TEST_F(ViewTest, the_canvas_can_stand_further_in_than_its_corner_to_keep_the_place) {
+    const QPoint before = in_window(place(10, 10));
+    turn(place(10, 10), -240);
+    EXPECT_EQ(session.ZoomFactor, 8.26446);
+    EXPECT_LE((in_window({30 + 83, 1970 - 83}) - before).manhattanLength(), 2);
+    EXPECT_LT(place_seen().x(), 0);
+}
+
+TEST_F(ViewTest, small_turns_add_up_to_steps) {
+    for (int i = 0; i < 3; ++i)
+        turn(place(10, 10), 40);
+    EXPECT_EQ(session.ZoomFactor, 11);
+    turn(place(10, 10), 60);
+    EXPECT_EQ(session.ZoomFactor, 11);
+}
+
+TEST_F(ViewTest, the_steps_of_one_turn_cost_one_repaint) {
+    const std::uint64_t moves = session.Velmora.SSScroll_moves;
+    for (int i = 0; i < 4; ++i)
+        send_turn(place(10, 10), 120, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(session.ZoomFactor, 14.641);
+    EXPECT_EQ(session.Velmora.SSScroll_moves, moves + 2) << "of the layout, and round the pointer";
+}
+
+TEST_F(ViewTest, the_wheel_alone_scrolls) {
+    const QPoint before = place_seen();
+    turn(place(5, 5), 120, Qt::NoModifier);
+    EXPECT_EQ(session.ZoomFactor, 10);
+    EXPECT_LT(place_seen().y(), before.y());
+}
+
+TEST_F(ViewTest, the_middle_button_takes_the_view_along) {
+    const QPoint before = place_seen();
+    drag(Qt::MiddleButton, place(5, 5), {-40, 25});
+    EXPECT_EQ(place_seen(), before + QPoint(40, -25));
+    EXPECT_EQ(session.ZoomFactor, 10);
+}
+
 TEST_F(ViewTest, a_press_of_the_middle_button_still_picks_a_point) {
     session.PtoSel = 0;
     send(QEvent::MouseButtonPress, place(10, 10), Qt::MiddleButton);
     EXPECT_EQ(session.PtoSel, 2);
     EXPECT_EQ(session.DragPto, False);
     send(QEvent::MouseButtonRelease, place(10, 10), Qt::MiddleButton);
+}
+
+TEST_F(ViewTest, a_dragged_view_stays_while_points_are_put_in) {
+    session.PtoSel = 2;
+    choose("Insert_N_Ptos");
+    settle();
+    const QPoint before = place_seen();
+    drag(Qt::MiddleButton, place(5, 5), {-40, 25});
+    EXPECT_EQ(place_seen(), before + QPoint(40, -25));
+    EXPECT_EQ(session.TotalPtos, 4);
+}
+
+TEST_F(ViewTest, the_shape_on_its_way_goes_where_the_middle_button_is_let_go) {
+    session.PtoSel = 0;
+    choose("Move_Shape");
+    settle();
+    const QPoint before = place_seen();
+    drag(Qt::MiddleButton, place(5, 5), {40, 0});
+    EXPECT_EQ(session.MoveShapeMode, False);
+    EXPECT_EQ(shape().at(0), (Pto{9, 5}));
+    EXPECT_EQ(place_seen(), before);
+}
+
+TEST_F(ViewTest, space_and_the_left_button_take_the_view_along_and_touch_nothing) {
+    for (const char* mode : {"", "Insert_N_Ptos", "Move_Shape"}) {
+        SCOPED_TRACE(mode);
+        session.PtoSel = 2;
+        open_shape({{0, 0}, {10, 0}, {10, 10}, {0, 10}});
+        if (*mode != '\0')
+            choose(mode);
+        settle();
+        const auto points = shape();
+        const QPoint before = place_seen();
+        QTest::keyPress(&pic(), Qt::Key_Space);
+        EXPECT_EQ(pic().cursor().shape(), Qt::OpenHandCursor);
+        drag(Qt::LeftButton, place(10, 10), {-30, 20});
+        EXPECT_EQ(place_seen(), before + QPoint(30, -20));
+        QTest::keyRelease(&pic(), Qt::Key_Space);
+        EXPECT_NE(pic().cursor().shape(), Qt::OpenHandCursor);
+        EXPECT_EQ(shape(), points);
+        EXPECT_EQ(session.DragPto, False);
+        QTest::keyClick(&pic(), Qt::Key_Escape);
+    }
+}
+
+TEST_F(ViewTest, a_button_let_go_elsewhere_is_let_go) {
+    send(QEvent::MouseButtonPress, place(5, 5), Qt::MiddleButton);
+    move_to(place(7, 5), Qt::MiddleButton);
+    const QPoint before = place_seen();
+    move_to(place(12, 12));
+    settle();
+    EXPECT_EQ(place_seen(), before);
+}
+
+TEST_F(ViewTest, space_let_go_elsewhere_is_let_go) {
+    session.PtoSel = 2;
+    QTest::keyPress(&pic(), Qt::Key_Space);
+    control<QWidget>("Velmora", "TxtDescDat").setFocus();
+    settle();
+    pic().setFocus();
+    QTest::mousePress(&pic(), Qt::LeftButton, {}, place(10, 10));
+    EXPECT_EQ(session.DragPto, True);
+    QTest::mouseRelease(&pic(), Qt::LeftButton, {}, place(10, 10));
 }
 
 } // namespace
