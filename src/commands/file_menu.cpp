@@ -1,5 +1,6 @@
 // The commands of the menu mnu_Archivo.
 #include "cad/entity_counters.h"
+#include "canvas/fit.h"
 #include "canvas/print.h"
 #include "commands/handlers.h"
 #include "commands/open_recovered.h"
@@ -12,6 +13,7 @@
 #include "document/state/document.h"
 #include "document/state/program.h"
 #include "document/state/view.h"
+#include "document/state/view_choices.h"
 #include "document/windows/importar.h"
 #include "document/windows/velmora.h"
 #include "formats/load.h"
@@ -53,6 +55,12 @@ void reset_counts() {
     shown::TotalObjs().show(0);
 }
 
+/// Where the user chose so; at the stored zoom otherwise.
+void fit_opened() {
+    if (state::view_choices.FitOnOpen != False && has_shape())
+        fit_shape();
+}
+
 /// The outline at the stored zoom, its first point selected.
 void show_from_the_start() {
     state::document.PtoSel = 0;
@@ -62,6 +70,7 @@ void show_from_the_start() {
     take_colours();
     Define_Layout();
     Dibuja();
+    fit_opened();
 }
 
 } // namespace
@@ -109,6 +118,7 @@ void open_named(std::string_view path) {
     take_colours();
     Define_Layout();
     Dibuja();
+    fit_opened();
     UpdateFileMenu(path);
     Carga_List_Coords("NEWFILE");
 }

@@ -18,6 +18,7 @@ constinit LoadingState& loading = session;
 constinit ViewState& view = session;
 constinit OptionState& options = session;
 constinit SettingState& settings = session;
+constinit ViewChoiceState& view_choices = session;
 constinit CadState& cad = session;
 constinit WorkbenchState& workbench = session;
 constinit VelmoraWindow& Velmora = session.Velmora;

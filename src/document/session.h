@@ -13,6 +13,7 @@
 #include "document/state/program.h"
 #include "document/state/settings.h"
 #include "document/state/view.h"
+#include "document/state/view_choices.h"
 #include "document/state/workbench.h"
 #include "document/windows/acerca.h"
 #include "document/windows/ajuste.h"
@@ -38,6 +39,7 @@ struct Session : ProgramState,
                  ViewState,
                  OptionState,
                  SettingState,
+                 ViewChoiceState,
                  CadState,
                  WorkbenchState {
     VelmoraWindow Velmora;

@@ -1,9 +1,11 @@
 #include "forms/setup.h"
 
+#include "document/flag.h"
 #include "document/number_text.h"
 #include "document/options.h"
 #include "document/state/program.h"
 #include "document/state/settings.h"
+#include "document/state/view_choices.h"
 #include "document/windows/setup.h"
 #include "forms/numeric_box.h"
 #include "platform/dialogs.h"
@@ -13,6 +15,7 @@
 #include "services/message_codes.h"
 #include "services/messages.h"
 #include "services/settings.h"
+#include "services/view_choices.h"
 #include "services/window_literals.h"
 
 #include <algorithm>
@@ -123,6 +126,7 @@ void setup_Activate() {
     window.Txt_Def_zoom_Val = CStr(state::settings.Def_Zoom);
     window.Cmb_Lang = name_of_language(state::program.Idioma);
     window.APP_Sound = state::program.Sound == 1;
+    window.chk_fit_open = state::view_choices.FitOnOpen != False;
     window.Idioma = state::program.Idioma.substr(0, 1);
     draw_preview();
 }
@@ -172,6 +176,8 @@ void setup_cmd_ok_Click() {
     take_boxes();
     take_language();
     state::program.Sound = state::setup.APP_Sound ? 1 : 0;
+    state::view_choices.FitOnOpen = flag(state::setup.chk_fit_open);
+    write_view_choices();
     GuardaSettings();
     take_defaults(Defaults::one_by_one);
     take_colours();

@@ -24,6 +24,7 @@
 #include "services/message_codes.h"
 #include "services/messages.h"
 #include "services/sound.h"
+#include "services/view_choices.h"
 #include "services/window_literals.h"
 
 namespace velmora {
@@ -92,6 +93,7 @@ void Velmora_Load() {
     state::Velmora.Caption = main_caption();
     load_literals("Velmora");
     GetRecentFiles();
+    read_view_choices();
     take_defaults();
     take_colours();
 }

@@ -48,7 +48,8 @@ SetupDialog::SetupDialog(EventSink& events) : FormWindow(events) {
                    "lbl_coords",
                    "Test_Pic",
                    "cmd_ok",
-                   "cmd_cancel"});
+                   "cmd_cancel",
+                   "chk_fit_open"});
     ui.Txt_Def_Dec_Val->setFocus();
 }
 
@@ -60,6 +61,7 @@ void SetupDialog::bind() {
     bindings().text(*ui.Txt_Def_zoom_Val, state.Txt_Def_zoom_Val);
     bindings().choice(*ui.Cmb_Lang, state.Cmb_Lang);
     bindings().check(*ui.APP_Sound, state.APP_Sound);
+    bindings().check(*ui.chk_fit_open, state.chk_fit_open);
     bindings().shows<std::uint64_t>([&state] { return state.Test_Pic_draws; },
                                     [this](std::uint64_t) { ui.Test_Pic->draw(); });
 }

@@ -61,6 +61,15 @@ TEST(mnu_openfile, takes_the_default_of_the_zoom_alone) {
     EXPECT_EQ(session.winoptions.TxtPrecision, "3");
 }
 
+TEST(mnu_openfile, fits_the_shape_where_the_user_chose_so) {
+    RecordingPlatform platform{test::with_database};
+    session.FitOnOpen = True;
+    load_triangle(platform);
+    EXPECT_EQ(session.ZoomFactor, 72.12) << "(800 / 2 - 30) / 5.13";
+    EXPECT_EQ(session.winoptions.Txt_zoom, "72.12");
+    EXPECT_TRUE(session.Velmora.SSScroll_middle);
+}
+
 TEST(mnu_openfile, a_failed_load_leaves_the_selection_and_the_list) {
     RecordingPlatform platform{test::with_database};
     load_triangle(platform);
@@ -160,6 +169,14 @@ TEST(mnuRecentFile, a_path_that_is_gone_is_reported_and_stays_in_the_list) {
     EXPECT_NE(platform.dialogs.boxes[0].text.find("Error GetFileFormat  nº:53"), std::string::npos);
     EXPECT_EQ(session.Velmora.TxtDat_File, platform.path("wing.dat"));
     EXPECT_EQ(platform.settings.get("RecentFiles", "RecentFile1"), platform.path("wing.dat"));
+}
+
+TEST(open_named, fits_the_shape_where_the_user_chose_so) {
+    RecordingPlatform platform{test::with_database};
+    session.FitOnOpen = True;
+    open_named(platform.write("wing.dat", triangle_file()));
+    EXPECT_EQ(session.ZoomFactor, 72.12);
+    EXPECT_EQ(session.winoptions.Txt_zoom, "72.12");
 }
 
 TEST(open_named, opens_as_a_recent_file_does) {

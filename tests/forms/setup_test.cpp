@@ -81,6 +81,26 @@ TEST_F(SetupTest, shows_the_session_when_it_is_activated) {
     EXPECT_EQ(window.Test_Pic_draws, draws + 1);
 }
 
+TEST_F(SetupTest, shows_and_takes_the_choice_to_fit_after_opening) {
+    EXPECT_FALSE(window.chk_fit_open);
+    window.chk_fit_open = true;
+    setup_cmd_cancel_Click();
+    EXPECT_EQ(session.FitOnOpen, False);
+    setup_cmd_ok_Click();
+    EXPECT_EQ(session.FitOnOpen, True);
+    EXPECT_EQ(stored("fit_on_open"), "1");
+    window.chk_fit_open = false;
+    setup_Activate();
+    EXPECT_TRUE(window.chk_fit_open);
+}
+
+// The values that were always stored stand alone while nobody chose otherwise.
+TEST_F(SetupTest, stores_no_choice_that_was_not_made) {
+    setup_cmd_ok_Click();
+    EXPECT_EQ(stored("fit_on_open"), "absent");
+    EXPECT_NE(stored("sound"), "absent");
+}
+
 TEST_F(SetupTest, offers_the_languages_in_their_order) {
     EXPECT_THAT(setup_languages(),
                 ElementsAre("Español", "English", "Français", "Portugues", "Italiano"));

@@ -71,8 +71,8 @@ TEST_F(SetupDialogTest, tab_runs_through_the_tab_in_front) {
     in_window([this] {
         EXPECT_THAT(tab_order(part<QLineEdit>("Txt_Def_Dec_Val")),
                     ElementsAre("Txt_Def_Dec_Val", "Txt_Def_Arc_Val", "Txt_Def_Circle_Val",
-                                "Txt_Def_zoom_Val", "Cmb_Lang", "APP_Sound", "cmd_ok", "cmd_cancel",
-                                "qt_tabwidget_tabbar"));
+                                "Txt_Def_zoom_Val", "Cmb_Lang", "APP_Sound", "chk_fit_open",
+                                "cmd_ok", "cmd_cancel", "qt_tabwidget_tabbar"));
         show_colours();
         EXPECT_THAT(tab_order(part<ColourLabel>("lblcolor_fondo")),
                     ElementsAre("lblcolor_fondo", "lblcolor_ejes", "lblcolor_lineas",

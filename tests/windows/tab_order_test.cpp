@@ -45,8 +45,8 @@ TEST_F(TabOrderTest, main_window) {
 TEST_F(TabOrderTest, setup) {
     EXPECT_THAT(order_in("setup", "Txt_Def_Dec_Val"),
                 ElementsAre("Txt_Def_Dec_Val", "Txt_Def_Arc_Val", "Txt_Def_Circle_Val",
-                            "Txt_Def_zoom_Val", "Cmb_Lang", "APP_Sound", "cmd_ok", "cmd_cancel",
-                            kTabs));
+                            "Txt_Def_zoom_Val", "Cmb_Lang", "APP_Sound", "chk_fit_open", "cmd_ok",
+                            "cmd_cancel", kTabs));
     EXPECT_THAT(order_in("setup", "lblcolor_fondo", 1),
                 ElementsAre("lblcolor_fondo", "lblcolor_ejes", "lblcolor_lineas",
                             "lblcolor_lineaini", "lblcolor_lineados", "lblcolor_ptos",

@@ -12,6 +12,7 @@ struct SetupWindow {
     std::string Txt_Def_Dec_Val, Txt_Def_Arc_Val, Txt_Def_Circle_Val, Txt_Def_zoom_Val;
     std::string Cmb_Lang; ///< the name that is chosen
     bool APP_Sound = false;
+    bool chk_fit_open = false;
     std::string Idioma; ///< the language when the window was activated, one character
     // Back colours of the labels
     std::uint32_t lblcolor_fondo = 0, lblcolor_ejes = 0, lblcolor_lineas = 0, lblcolor_lineaini = 0,
