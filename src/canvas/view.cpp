@@ -2,6 +2,7 @@
 
 #include "document/forma.h"
 #include "document/state/view.h"
+#include "platform/platform.h"
 #include "runtime/numbers.h"
 
 #include <cmath>
@@ -23,6 +24,16 @@ double origin_on_x(double smallest, double width) {
 
 double origin_on_y(double smallest, double height) {
     return smallest >= 0 ? height / kCanvasTwips - kCanvasMargin : middle_of(height);
+}
+
+bool picture_shown() {
+    return (has_shape() || state::view.PtosToInsertMode) && !state::view.NoRedraw;
+}
+
+Spot origin_seen() {
+    const Surface& pic = platform().pic;
+    return {origin_on_x(state::view.MinXForma, pic.Width()),
+            origin_on_y(state::view.MinYForma, pic.Height())};
 }
 
 double canvas_x(double x) {

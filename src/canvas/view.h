@@ -6,6 +6,7 @@
 #include "canvas/surface.h"
 #include "document/forma.h"
 #include "document/state/view.h"
+#include "document/windows/velmora.h"
 
 #include <cstdint>
 
@@ -19,6 +20,11 @@ inline constexpr double kCanvasMargin = 30; ///< pixels from the edge to the axe
 /// middle.
 [[nodiscard]] double origin_on_x(double smallest, double width);
 [[nodiscard]] double origin_on_y(double smallest, double height);
+
+/// There is a shape, or one that is put in by hand, and it was drawn.
+[[nodiscard]] bool picture_shown();
+/// The origin of the picture that is seen: printing leaves another in the session.
+[[nodiscard]] Spot origin_seen();
 
 /// Pixel position of a world point, unrounded; raises 6 beyond f64.
 [[nodiscard]] double canvas_x(double x);

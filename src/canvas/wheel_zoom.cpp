@@ -33,13 +33,6 @@ double few_digits(double zoom) {
     return runtime::normalized_15(std::round(zoom / unit) * unit);
 }
 
-/// The origin of what is seen: printing leaves another in the session.
-Spot origin_seen() {
-    const Surface& pic = platform().pic;
-    return {origin_on_x(state::view.MinXForma, pic.Width()),
-            origin_on_y(state::view.MinYForma, pic.Height())};
-}
-
 /// Pixels from the origin, at a zoom `ratio` times the present one.
 bool on_canvas(Spot from_origin, Spot origin, double ratio) {
     const double x = origin.x + from_origin.x * ratio;
@@ -96,8 +89,7 @@ double zoom_by_steps(double zoom, int steps) {
 }
 
 void zoom_around(Spot pointer, int steps) {
-    const bool drawn = has_shape() || state::view.PtosToInsertMode;
-    if (!drawn || state::view.NoRedraw || steps == 0)
+    if (!picture_shown() || steps == 0)
         return;
     const double zoom = state::view.ZoomFactor > 0 ? state::view.ZoomFactor : 1;
     const Spot origin = origin_seen();

@@ -1,6 +1,7 @@
 #include "commands/command_table.h"
 
 #include "commands/handlers.h"
+#include "document/state/view_choices.h"
 
 #include <algorithm>
 #include <array>
@@ -25,6 +26,16 @@ void recent_file() {
 template <int Index>
 constexpr MenuEntry recent() {
     return {"mnu_Archivo", "mnuRecentFile", "", "", recent_file<Index>, false, Index};
+}
+
+template <Flag ViewChoiceState::*Choice>
+bool chosen() {
+    return state::view_choices.*Choice != False;
+}
+
+constexpr MenuEntry choice(std::string_view menu, std::string_view name, std::string_view caption,
+                           void (*handler)(), bool (*checked)()) {
+    return {menu, name, caption, "", handler, true, 0, checked};
 }
 
 constexpr auto kMenus = std::to_array<MenuEntry>({
@@ -98,6 +109,10 @@ constexpr auto kMenus = std::to_array<MenuEntry>({
     separator("mnu_ver"),
     {"mnu_ver", "mnu_fit_shape", "Encuadrar la Forma", "Ctrl+0", mnu_fit_shape},
     {"mnu_ver", "mnu_fit_point", "Encuadrar el Punto Seleccionado", "Ctrl+9", mnu_fit_point},
+    separator("mnu_ver"),
+    choice("mnu_ver", "mnu_rulers", "Reglas", mnu_rulers, chosen<&ViewChoiceState::ShowRulers>),
+    choice("mnu_ver", "mnu_position", "Posición del Puntero", mnu_position,
+           chosen<&ViewChoiceState::ShowPosition>),
 
     top("mnu_hlp", "Ay&uda"),
     {"mnu_hlp", "mnu_contenido", "Contenido", "", mnu_contenido},

@@ -17,6 +17,7 @@ struct MenuEntry {
     void (*handler)() = nullptr;
     bool visible = true;
     int index = 0;
+    bool (*checked)() = nullptr; ///< of an entry with a tick
 };
 
 struct ToolKey {

@@ -55,6 +55,9 @@ void mnu_winoptgen();
 /// visible part; the middle of it is the part's middle then.
 void mnu_fit_shape();
 void mnu_fit_point();
+/// Shows and hides the rulers, the pointer's position in the status bar; the choice is stored.
+void mnu_rulers();
+void mnu_position();
 // Ayuda
 void mnu_contenido();
 void mnu_Shortkeys();

@@ -3,13 +3,27 @@
 #include "commands/handlers.h"
 #include "document/refresh.h"
 #include "document/state/program.h"
+#include "document/state/view_choices.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"
+#include "platform/settings_store.h"
 #include "platform/shell.h"
 #include "services/help.h"
 #include "services/shape_at_hand.h"
+#include "services/view_choices.h"
 
 namespace velmora {
+
+namespace {
+
+// Where the choice can't be kept it holds for this time, without a word.
+void turn_over(Flag& choice) {
+    choice = flag(choice == False);
+    write_view_choices();
+    (void)platform().settings.keep();
+}
+
+} // namespace
 
 // The colours are in force as soon as they are picked, so the canvas is drawn after a cancel too.
 void mnu_paramgenerales() {
@@ -48,6 +62,14 @@ void mnu_fit_shape() {
 void mnu_fit_point() {
     if (shape_at_hand())
         fit_selected_point();
+}
+
+void mnu_rulers() {
+    turn_over(state::view_choices.ShowRulers);
+}
+
+void mnu_position() {
+    turn_over(state::view_choices.ShowPosition);
 }
 
 void mnu_contenido() {

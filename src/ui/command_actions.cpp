@@ -86,6 +86,7 @@ void CommandActions::add_entry(QMenu& menu, const MenuEntry& row) {
         // The point menu and the side windows have keys of their own.
         action->setShortcutContext(Qt::WindowShortcut);
     }
+    action->setCheckable(row.checked != nullptr);
     if (row.handler != nullptr)
         QObject::connect(action, &QAction::triggered, &window_,
                          [this, handler = row.handler] { run_(handler); });
@@ -134,6 +135,8 @@ void CommandActions::show(const VelmoraWindow& state) const {
             const auto& recent = state.mnuRecentFile.at(static_cast<std::size_t>(row->index));
             action->setText(QString::fromStdString(recent.caption));
         }
+        if (row->checked != nullptr)
+            action->setChecked(row->checked());
         action->setVisible(is_visible(*row, state));
         action->setEnabled(is_enabled(*row, state));
     }

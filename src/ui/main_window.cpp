@@ -9,6 +9,8 @@
 #include "ui/shortcuts_first.h"
 
 #include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -44,8 +46,9 @@ MainWindow::MainWindow(EventSink& events, ShownImage& canvas)
                     });
                 }),
       status_(*new ElidedLabel(ui.StatusBar1)), pbar1_(*new QProgressBar(ui.StatusBar1)),
-      pbar2_(*new QProgressBar(ui.StatusBar1)),
-      canvas_(canvas, *ui.pic, *ui.lbl_xyfloat, *ui.SSScroll) {
+      pbar2_(*new QProgressBar(ui.StatusBar1)), position_(*new QLabel(&window_)),
+      canvas_(canvas, *ui.pic, *ui.lbl_xyfloat, *ui.SSScroll),
+      marks_({*ui.pic, *ui.SSScroll, *ui.ruler_along, *ui.ruler_upright, position_}) {
     commands_.add_menus();
     commands_.add_bars(*ui.bands);
     ui.bands->addStretch(1);
@@ -61,6 +64,7 @@ MainWindow::MainWindow(EventSink& events, ShownImage& canvas)
     }
     add_parts_without_a_look();
     add_status_bar();
+    add_position();
     bind();
     wire();
     list_in_form_order();
@@ -88,6 +92,21 @@ void MainWindow::add_status_bar() {
     }
 }
 
+// In a holder: the panels of the status bar are the logic's, one label each.
+void MainWindow::add_position() {
+    const QString tip = "Posición del puntero sobre la forma";
+    position_.setObjectName("lbl_position");
+    position_.setToolTip(tip);
+    position_.setAccessibleName(tip);
+    position_.setMinimumWidth(
+        position_.fontMetrics().horizontalAdvance("X -0000.000  Y -0000.000"));
+    auto* holder = new QWidget(ui.StatusBar1);
+    auto* row = new QHBoxLayout(holder);
+    row->setContentsMargins({});
+    row->addWidget(&position_);
+    ui.StatusBar1->addPermanentWidget(holder);
+}
+
 void MainWindow::bind() {
     VelmoraWindow& state = state::Velmora;
     bindings().title(window_, state.Caption);
@@ -103,6 +122,7 @@ void MainWindow::bind() {
     bindings().shows<std::uint64_t>([&state] { return state.Lst_Coords_fill; },
                                     [this](std::uint64_t) { ui.Lst_Coords->start_over(); });
     canvas_.bind(bindings(), state);
+    marks_.bind(bindings());
 }
 
 void MainWindow::wire() {
@@ -125,8 +145,9 @@ void MainWindow::list_in_form_order() {
     std::vector<std::string> names = {"pic",        "lbl_xyfloat", "Lst_Coords",
                                       "TxtDescDat", "TxtDat_File", "Timer1"};
     names.insert(names.end(), commands_.menu_controls().begin(), commands_.menu_controls().end());
-    for (const char* name : {"SSPanel1", "SSScroll", "CoolBar1", "TBar4", "TBar3", "TBar2",
-                             "CommonDialog1", "StatusBar1", "Pbar1", "pbar2", "ImageList2"})
+    for (const char* name :
+         {"SSPanel1", "SSScroll", "CoolBar1", "TBar4", "TBar3", "TBar2", "CommonDialog1",
+          "StatusBar1", "Pbar1", "pbar2", "ImageList2", "lbl_position"})
         names.emplace_back(name);
     list_controls(names);
 }

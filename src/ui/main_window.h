@@ -4,6 +4,7 @@
 #include "ui/canvas_view.h"
 #include "ui/command_actions.h"
 #include "ui/elided_label.h"
+#include "ui/view_marks.h"
 #include "ui/window.h"
 
 #include <QMainWindow>
@@ -28,6 +29,7 @@ class MainWindow : public FormWindow<Ui::Velmora, QMainWindow> {
   private:
     void add_parts_without_a_look();
     void add_status_bar();
+    void add_position();
     void bind();
     void wire();
     void list_in_form_order();
@@ -39,7 +41,9 @@ class MainWindow : public FormWindow<Ui::Velmora, QMainWindow> {
     ElidedLabel& status_;
     QProgressBar& pbar1_;
     QProgressBar& pbar2_;
+    QLabel& position_;
     CanvasView canvas_;
+    ViewMarks marks_;
     bool looked_at_ = false;
 };
 

@@ -68,8 +68,9 @@ TEST_F(ControlsTest, the_main_window_holds_its_controls_in_order) {
                                          "TxtDescDat", "TxtDat_File", "Timer1"};
     const auto menus = named_menu_entries();
     expected.insert(expected.end(), menus.begin(), menus.end());
-    for (const char* name : {"SSPanel1", "SSScroll", "CoolBar1", "TBar4", "TBar3", "TBar2",
-                             "CommonDialog1", "StatusBar1", "Pbar1", "pbar2", "ImageList2"})
+    for (const char* name :
+         {"SSPanel1", "SSScroll", "CoolBar1", "TBar4", "TBar3", "TBar2", "CommonDialog1",
+          "StatusBar1", "Pbar1", "pbar2", "ImageList2", "lbl_position"})
         expected.emplace_back(name);
     EXPECT_THAT(names("Velmora"), ElementsAreArray(expected));
 }

@@ -4,8 +4,10 @@
 
 #include "platform/platform.h"
 #include "ui/canvas_scroll.h"
+#include "ui/ruler.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -68,6 +70,18 @@ class ViewTest : public CanvasTest {
         EXPECT_LE(side, room);
         EXPECT_GE(side, room - room / 500 - 2);
         EXPECT_EQ(session.winoptions.Txt_zoom, CStr(session.ZoomFactor));
+    }
+    QLabel& position() { return control<QLabel>("Velmora", "lbl_position"); }
+    Ruler& ruler(const char* name) { return *window("Velmora")->findChild<Ruler*>(name); }
+    /// The ruler's pixels along a line beside the canvas, dark ones as marks.
+    std::vector<int> long_marks(Ruler& ruler, bool upright) {
+        const QImage image = ruler.grab().toImage();
+        std::vector<int> marks;
+        const int length = upright ? seen().height() : seen().width();
+        for (int i = 0; i < length; ++i)
+            if (image.pixelColor(upright ? QPoint(1, i) : QPoint(i, 1)).lightness() < 100)
+                marks.push_back(i);
+        return marks;
     }
     static std::string CStr(double number) { return QString::number(number).toStdString(); }
 };
@@ -234,6 +248,67 @@ TEST_F(ViewTest, space_let_go_elsewhere_is_let_go) {
     QTest::mousePress(&pic(), Qt::LeftButton, {}, place(10, 10));
     EXPECT_EQ(session.DragPto, True);
     QTest::mouseRelease(&pic(), Qt::LeftButton, {}, place(10, 10));
+}
+
+// 10 pixels a unit: a number each 10 units, the origin 30 pixels from the corner.
+TEST_F(ViewTest, the_rulers_measure_in_the_units_of_the_shape) {
+    std::vector<int> along;
+    for (int at = 30; at < seen().width(); at += 100)
+        along.push_back(at);
+    EXPECT_EQ(long_marks(ruler("ruler_along"), false), along);
+    std::vector<int> upright;
+    for (int at = seen().height() - 30; at >= 0; at -= 100)
+        upright.insert(upright.begin(), at);
+    EXPECT_EQ(long_marks(ruler("ruler_upright"), true), upright);
+    EXPECT_EQ(ruler("ruler_along").mapTo(window("Velmora"), QPoint()).x(),
+              scroll().viewport()->mapTo(window("Velmora"), QPoint()).x());
+    EXPECT_EQ(ruler("ruler_upright").mapTo(window("Velmora"), QPoint()).y(),
+              scroll().viewport()->mapTo(window("Velmora"), QPoint()).y());
+}
+
+TEST_F(ViewTest, the_rulers_go_with_the_view) {
+    drag(Qt::MiddleButton, place(5, 5), {-40, 0});
+    EXPECT_EQ(long_marks(ruler("ruler_along"), false).front(), 90) << "of 10; 0 is gone";
+    choose("mnu_zoom_up");
+    settle();
+    EXPECT_EQ(long_marks(ruler("ruler_along"), false).at(1), 130) << "of 5";
+}
+
+TEST_F(ViewTest, the_position_of_the_pointer_is_told_while_it_is_over_the_canvas) {
+    EXPECT_EQ(position().text(), "");
+    move_to(place(7, 3));
+    EXPECT_EQ(position().text(), "X 7  Y 3");
+    choose("mnu_zoom_up");
+    settle();
+    EXPECT_EQ(position().text(), "X 3.5  Y 1.5");
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&pic(), &leave);
+    EXPECT_EQ(position().text(), "");
+}
+
+TEST_F(ViewTest, rulers_and_position_are_turned_off_and_stay_off) {
+    for (const auto& [entry, key] :
+         {std::pair("mnu_rulers", "rulers"), std::pair("mnu_position", "position")}) {
+        auto& action = control<QAction>("Velmora", entry);
+        EXPECT_TRUE(action.isChecked()) << entry;
+        action.trigger();
+        EXPECT_FALSE(action.isChecked()) << entry;
+        EXPECT_EQ(settings().get("Values", key), "0");
+    }
+    EXPECT_FALSE(ruler("ruler_along").isVisible());
+    EXPECT_FALSE(ruler("ruler_upright").isVisible());
+    EXPECT_FALSE(position().isVisible());
+    const auto stored = settings().values;
+    rebuild();
+    settings().values = stored;
+    start_program();
+    EXPECT_FALSE(ruler("ruler_along").isVisible());
+    EXPECT_FALSE(position().isVisible());
+    choose("mnu_rulers");
+    choose("mnu_position");
+    EXPECT_TRUE(ruler("ruler_along").isVisible());
+    EXPECT_TRUE(position().isVisible());
+    EXPECT_EQ(settings().get("Values", "rulers"), "1");
 }
 
 } // namespace
