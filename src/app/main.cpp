@@ -6,6 +6,7 @@
 #include "document/state/program.h"
 #include "runtime/paths.h"
 #include "ui/program_style.h"
+#include "ui/window_place.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -45,6 +46,14 @@ void open_at_start(velmora::WindowHost& windows, const std::filesystem::path& fi
     timer->start(kMilliseconds);
 }
 
+/// From its first showing on, wherever the user puts the main window.
+void keep_place_of_main_window(velmora::WindowHost& windows) {
+    windows.events.opened = [&windows](const std::string& name) {
+        if (name == "Velmora")
+            new velmora::WindowPlaceKeeper(*windows.window(name));
+    };
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -65,6 +74,7 @@ int main(int argc, char** argv) {
     choose_folder();
     if (!line.file.empty())
         open_at_start(*platform.windows, line.file);
+    keep_place_of_main_window(*platform.windows);
     const velmora::SessionGuard guard(*platform.windows);
     platform.windows->start();
     return QApplication::exec();

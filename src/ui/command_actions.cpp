@@ -70,6 +70,7 @@ void CommandActions::add_menus() {
 void CommandActions::add_top_menu(const MenuEntry& row) {
     auto* menu = new QMenu(qt_text(row.caption), &window_);
     menu->setObjectName(qt_text(row.name));
+    menu->setToolTipsVisible(true); // of the entries that have one: the recent files their path
     menu->menuAction()->setObjectName(qt_text(row.name));
     if (row.visible)
         window_.menuBar()->addMenu(menu);
@@ -134,6 +135,7 @@ void CommandActions::show(const VelmoraWindow& state) const {
         if (row->name == kRecentFile) {
             const auto& recent = state.mnuRecentFile.at(static_cast<std::size_t>(row->index));
             action->setText(QString::fromStdString(recent.caption));
+            action->setToolTip(QString::fromStdString(recent.path));
         }
         if (row->checked != nullptr)
             action->setChecked(row->checked());

@@ -7,6 +7,7 @@
 #include "ui/file_drop.h"
 #include "ui/program_style.h"
 #include "ui/shortcuts_first.h"
+#include "ui/window_place.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -165,10 +166,38 @@ void MainWindow::QueryUnload() {
 }
 
 void MainWindow::place() {
-    window_.resize(kSizeAtStart);
-    fit_to_screen();
+    stored_place_ = take_stored_place();
+    if (!stored_place_) {
+        window_.resize(kSizeAtStart);
+        fit_to_screen();
+    }
     (void)window_.winId(); // makes the native window, where keys and presses come in first
     window_.windowHandle()->installEventFilter(this);
+}
+
+bool MainWindow::take_stored_place() {
+    const auto stored = stored_window_place();
+    const auto place = stored ? on_a_screen(*stored) : std::nullopt;
+    if (!place)
+        return false;
+    window_.resize(place->size);
+    window_.move(place->corner);
+    if (place->maximized)
+        window_.setWindowState(Qt::WindowMaximized);
+    return true;
+}
+
+void MainWindow::take_in_the_frame() {
+    if (!stored_place_)
+        return fit_to_screen();
+    if (window_.isMaximized())
+        return;
+    const QRect frame = window_.frameGeometry();
+    const QSize around = frame.size() - window_.size();
+    if (const auto place = on_a_screen({frame.topLeft(), frame.size()})) {
+        window_.resize(place->size - around);
+        window_.move(place->corner);
+    }
 }
 
 void MainWindow::fit_to_screen() {
@@ -194,7 +223,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     // The desktop's frame is there when the window is painted; before, nobody knows its size.
     if (watched == &window_ && event->type() == QEvent::Paint && !std::exchange(looked_at_, true) &&
         !window_.screen()->availableGeometry().contains(window_.frameGeometry()))
-        fit_to_screen();
+        take_in_the_frame();
     if (watched == window_.windowHandle() && is_use(*event)) {
         if (!state::Velmora.lbl_notice.empty())
             events().run([] { state::Velmora.lbl_notice.clear(); });

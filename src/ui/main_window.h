@@ -35,6 +35,10 @@ class MainWindow : public FormWindow<Ui::Velmora, QMainWindow> {
     void list_in_form_order();
     /// The window with its frame is on the screen, with space beside it where there is some.
     void fit_to_screen();
+    /// Where the user had it last, if there is a screen for that.
+    [[nodiscard]] bool take_stored_place();
+    /// The desktop's frame does not fit: a stored place moves as little as it takes.
+    void take_in_the_frame();
 
     QMainWindow& window_;
     CommandActions commands_;
@@ -45,6 +49,7 @@ class MainWindow : public FormWindow<Ui::Velmora, QMainWindow> {
     CanvasView canvas_;
     ViewMarks marks_;
     bool looked_at_ = false;
+    bool stored_place_ = false;
 };
 
 } // namespace velmora

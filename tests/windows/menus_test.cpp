@@ -132,6 +132,8 @@ TEST_F(MenusTest, recent_files_stand_in_the_file_menu) {
     EXPECT_TRUE(entry("mnuRecentFileSep").isVisible());
     EXPECT_TRUE(entry("mnuRecentFile(1)").isVisible());
     EXPECT_EQ(entry("mnuRecentFile(1)").text(), "&1 ala.dat");
+    EXPECT_EQ(entry("mnuRecentFile(1)").toolTip(), "/tmp/ala.dat");
+    EXPECT_TRUE(menu("mnu_Archivo").toolTipsVisible());
     EXPECT_FALSE(entry("mnuRecentFile(2)").isVisible());
 }
 
