@@ -15,7 +15,8 @@ MAX_LINES = 500
 
 # Who may include whom, besides oneself. An arrow points one way.
 LOGIC = ["runtime", "platform", "document", "services"]
-OPERATIONS = LOGIC + ["shapeops", "canvas", "cad", "formats", "cutprep", "generators", "import"]
+OPERATIONS = LOGIC + ["shapeops", "canvas", "cad", "formats", "cutprep", "generators", "import",
+              "cutting"]
 # Where the headers stand that an adapter answers for, and what all adapters share.
 CONTRACTS = ["runtime", "platform", "canvas", "cad", "generators", "adapters"]
 ROOMS = {
@@ -30,7 +31,8 @@ ROOMS = {
     "cutprep": LOGIC + ["formats"],
     "generators": ["runtime", "platform", "document", "cad"],
     "import": ["runtime"],
-    "forms": LOGIC + ["shapeops", "cad", "cutprep", "generators", "import"],
+    "cutting": ["runtime", "document", "formats", "cutprep", "import"],
+    "forms": LOGIC + ["shapeops", "cad", "cutprep", "generators", "import", "cutting"],
     "commands": LOGIC + ["shapeops", "canvas", "cad", "formats", "forms"],
     "toolkit": [],
     "ui": OPERATIONS + ["forms", "commands", "toolkit"],
