@@ -49,7 +49,7 @@ enum class SideFault : unsigned char {
 };
 
 struct SideFile {
-    SidePath path;
+    SidePath path = {};
     SideFault fault = SideFault::none;
     std::size_t line = 0;      ///< of the file, from 1; 0 where it speaks of the whole file
     std::size_t unmatched = 0; ///< sync records that lie on no point
@@ -61,7 +61,7 @@ struct SideFile {
 [[nodiscard]] SideFile read_side_file(std::string_view bytes);
 
 struct SidesFile {
-    Sides sides;
+    Sides sides = {};
     SideFault fault = SideFault::none;
     std::size_t line = 0;
 };
