@@ -16,9 +16,9 @@ struct Crossing {
 };
 
 /// Crossings by the step that comes first. Every outline that crosses itself has one at least, and
-/// each that is named is one, by exact arithmetic: touching, a repeated point and a way back over
-/// the way there are none. Of a step that crosses many others not all are named. Coordinates are
-/// finite and at most 1e15 in size. Time grows as n log n.
+/// each that is named is one, by exact arithmetic: touching, a repeated point and a stretch in
+/// common, as a way back over the way there, are none. Of a step that crosses many others not all
+/// are named. Coordinates are finite and at most 1e15 in size. Time grows as n log n.
 [[nodiscard]] std::vector<Crossing> self_crossings(std::span<const Point> points, bool closed);
 
 } // namespace velmora::cutting
