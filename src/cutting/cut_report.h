@@ -84,7 +84,8 @@ struct CutReport {
 /// The finding is one of two outlines that don't belong together as they are paired.
 [[nodiscard]] bool speaks_of_pairing(Finding kind);
 
-/// Takes any input; time grows as n log n. A negative or senseless threshold finds nothing.
+/// Takes any input; time grows as n log n. Lengths below 0, factors below 1 and what is no number
+/// find nothing.
 [[nodiscard]] CutReport report_of(const Sides& sides, const Thresholds& thresholds = {});
 
 } // namespace velmora::cutting
