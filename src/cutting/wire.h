@@ -52,8 +52,8 @@ struct Wire {
 /// Sides that were carried to the towers already, as the adjustment leaves and saves them: the
 /// faces are found backwards.
 [[nodiscard]] Wire wire_of_towers(const Sides& towers, const Distances& distances);
-/// Without distances: the faces are at the towers.
-[[nodiscard]] Wire wire_of_roads(const Sides& roads);
+/// Without the machine's distances: the faces are at the towers, `between` apart.
+[[nodiscard]] Wire wire_of_roads(const Sides& roads, double between = 0);
 
 /// A place of the wire on its way.
 struct WirePlace {
