@@ -86,6 +86,8 @@ class GcodeReader {
         } else if (has('A') && has('Z')) {
             axes_ = "XYZA";
             ask_for_axes(1);
+        } else if (has('A') && has('B')) {
+            axes_ = "XYAB";
         } else {
             axes_ = "XY";
         }

@@ -53,7 +53,7 @@ struct Choices {
     bool remove_doubles = true;
     bool hidden_layers = false; ///< take what is off or frozen too
     bool trim_approach = true;  ///< leave out the rapid moves before and after a cut
-    std::string axes = {}; ///< of a four-axis program: "XYUV", "XYZA", "XYUZ"; empty: by itself
+    std::string axes = {};      ///< of a four-axis program: any four, as "XYUV"; empty: by itself
 };
 
 struct Imported {

@@ -35,6 +35,14 @@ TEST(ImportGcode, both_ends_of_the_wire_become_two_outlines) {
     EXPECT_TRUE(imported.asks.empty());
 }
 
+TEST(ImportGcode, two_turning_axes_without_a_z_move_the_other_end) {
+    const Imported imported = read("G21\nG0 X0 Y0 A0 B0\nG1 X10 Y0 A8 B1\nX10 Y10 A7 B6\n");
+    ASSERT_EQ(imported.chains.size(), 2U);
+    EXPECT_EQ(imported.chains[0].points, (Points{{0, 0}, {10, 0}, {10, 10}}));
+    EXPECT_EQ(imported.chains[1].points, (Points{{0, 0}, {8, 1}, {7, 6}}));
+    EXPECT_TRUE(imported.asks.empty());
+}
+
 TEST(ImportGcode, inches_and_relative_places) {
     const Imported imported = read("G20 G91\nG1 X1 Y0\nX1 Y2\nX-1\n");
     ASSERT_EQ(imported.chains.size(), 1U);
