@@ -62,20 +62,24 @@ struct MachineProblem {
 };
 
 struct MachineFile {
-    Machine machine;
-    std::vector<MachineProblem> problems; ///< usable where it is empty
+    Machine machine = {};
+    std::vector<MachineProblem> problems = {}; ///< usable where it is empty
 };
 
-/// `file` is for the problems alone. A byte order mark, any line end and blanks are taken.
+/// Four different letters of XYZUVWABC.
+[[nodiscard]] bool are_axes(std::string_view letters);
+
+/// `file` is for the problems alone, `text` is UTF-8. Any line end and blanks are taken; of a key
+/// that stands several times the last one counts, but all lines and the travel of each axis.
 [[nodiscard]] MachineFile read_machine(std::string_view text, std::string_view file);
 
 /// The files of the folders, by their names; of a name that several folders have the first one's,
 /// so that the user's own go before the program's. A file that can't be read is a problem of its
 /// own without a text. A folder that isn't there has none.
 struct MachineEntry {
-    std::string path;
-    MachineFile file;
-    bool readable = true;
+    std::string path = {};
+    MachineFile file = {};
+    bool readable = true; ///< else `file` is empty
 };
 [[nodiscard]] std::vector<MachineEntry> machines_in(const std::vector<std::string>& folders);
 
