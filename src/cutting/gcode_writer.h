@@ -28,19 +28,21 @@ enum class GcodeFault : unsigned char {
 };
 
 struct Gcode {
-    std::string text; ///< empty with a fault; nothing is written to any file here
+    std::string text = {}; ///< empty with a fault; nothing is written to any file here
     GcodeFault fault = GcodeFault::none;
     std::size_t lines = 0;
-    std::size_t moves = 0;            ///< of the cut
-    double minutes = 0;               ///< of the cut, at the speed and the machine's own limit
-    std::vector<BeyondTravel> beyond; ///< the first hundred
+    std::size_t moves = 0;                 ///< of the cut
+    double minutes = 0;                    ///< of the cut, at the speed and the machine's own limit
+    std::vector<BeyondTravel> beyond = {}; ///< the first hundred
     std::size_t beyond_count = 0;
 };
 
-/// The towers' places in absolute coordinates, all four words in each line; a step that moves
-/// nothing at the written decimals is left out. `speed` is that of the longer way at the faces, in
-/// mm a minute; an axis that would pass the machine's fastest slows its line down. The wire goes to
-/// the first point by G0, cold.
+/// The unit and G90 in front, each on a line of its own, as some controllers want them; then the
+/// machine's lines and the towers' places in absolute coordinates, all four words in each line; a
+/// step that moves nothing at the written decimals is left out. `speed` is that of the longer way
+/// at the faces, in mm a minute; an axis that would pass the machine's fastest slows its line down.
+/// The wire goes to the first point by G0, between the lines `before` and `start`: it is still cold
+/// there.
 [[nodiscard]] Gcode gcode_of(const Wire& wire, const Machine& machine, double speed);
 
 } // namespace velmora::cutting
