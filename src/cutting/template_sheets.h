@@ -27,7 +27,7 @@ struct TemplateChoices {
     bool one_sheet = false;       ///< a single sheet as large as all needs, in place of tiles
 };
 
-enum class Ink : unsigned char { side_A, side_B, point, sync, joint, frame };
+enum class Ink : unsigned char { side_A, side_B, point, sync, joint };
 
 struct SheetLine {
     Ink ink = Ink::side_A;
@@ -45,15 +45,15 @@ struct SheetText {
     Ink ink = Ink::sync;
     Point at; ///< left end of the line that the letters stand on
     double height = 3;
-    std::string text; ///< figures and capitals
+    std::string text = {}; ///< figures and capitals
 };
 
 struct Sheet {
     std::size_t column = 0; ///< from 0, left to right
     std::size_t row = 0;    ///< from 0, top to bottom
-    std::vector<SheetLine> lines;
-    std::vector<SheetCircle> circles;
-    std::vector<SheetText> texts;
+    std::vector<SheetLine> lines = {};
+    std::vector<SheetCircle> circles = {};
+    std::vector<SheetText> texts = {};
 };
 
 enum class SheetFault : unsigned char {
@@ -73,14 +73,13 @@ struct SheetLayout {
     double height = 0;
     std::size_t columns = 0;
     std::size_t rows = 0;
-    std::vector<Sheet> sheets; ///< row by row; without those that nothing lies on
+    std::vector<Sheet> sheets = {}; ///< row by row; without those that nothing lies on
 };
 
-/// One outline, or two that keep their places to one another; an empty list is none.
+/// One outline, or two that keep their places to one another; an empty one is none. Where there are
+/// several sheets each has its name in a corner ("A1", rows by letters), crosses in the middle of
+/// what neighbours show both, and at each edge the name of the neighbour.
 [[nodiscard]] SheetLayout template_of(const SidePath& A, const SidePath& B,
                                       const TemplateChoices& choices);
-
-/// A sheet as SVG in its true size, places to so many decimals of a millimetre.
-[[nodiscard]] std::string svg_of(const SheetLayout& layout, const Sheet& sheet, int decimals = 4);
 
 } // namespace velmora::cutting
