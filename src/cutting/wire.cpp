@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velmora::cutting {
 
@@ -141,6 +142,17 @@ Wire wire_of_roads(const Sides& roads, double between) {
     Wire wire{.depth = {0, 0, between, between}};
     wire.points = {roads.A.points, roads.A.points, roads.B.points, roads.B.points};
     return finished(std::move(wire), roads.closed);
+}
+
+Sides sides_at_faces(const Wire& wire, const Sides& made_of) {
+    Sides faces = made_of;
+    faces.A.points = wire.points[index(Plane::face_A)];
+    faces.B.points = wire.points[index(Plane::face_B)];
+    if (wire.closed && wire.size() > 0) {
+        faces.A.points.pop_back();
+        faces.B.points.pop_back();
+    }
+    return faces;
 }
 
 WirePlace place_at(const Wire& wire, double along) {

@@ -55,6 +55,10 @@ struct Wire {
 /// Without the machine's distances: the faces are at the towers, `between` apart.
 [[nodiscard]] Wire wire_of_roads(const Sides& roads, double between = 0);
 
+/// The outlines at the faces, as the foam sees them, with the sync points of the sides that the
+/// wire was made of. What a file of the towers' places loses is seen on those sides alone.
+[[nodiscard]] Sides sides_at_faces(const Wire& wire, const Sides& made_of);
+
 /// A place of the wire on its way.
 struct WirePlace {
     std::size_t step = 0; ///< from this point to the next

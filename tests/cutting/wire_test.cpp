@@ -56,6 +56,20 @@ TEST(Wire, is_found_back_from_the_towers) {
             EXPECT_LT(distance(back.points[plane][i], there.points[plane][i]), 1e-12);
 }
 
+TEST(Wire, gives_the_outlines_at_the_faces_with_their_sync_points) {
+    Sides towers = taper;
+    towers.A.sync = {0, 2};
+    towers.B.sync = {0, 1};
+    const Sides faces = sides_at_faces(wire_of_towers(towers, distances), towers);
+    // (A - B) of the towers divided by 1 + 1.5 + 2, and 1.5 times that back from A.
+    ASSERT_EQ(faces.A.points.size(), 3U);
+    EXPECT_LT(distance(faces.A.points[0], {2 / 3.0, 1 / 3.0}), 1e-12);
+    EXPECT_EQ(faces.A.sync, towers.A.sync);
+    EXPECT_EQ(faces.B.sync, towers.B.sync);
+    EXPECT_TRUE(are_paired(faces));
+    EXPECT_TRUE(sides_at_faces({.fault = WireFault::no_distance}, towers).A.points.empty());
+}
+
 TEST(Wire, runs_by_the_longer_of_the_two_ways) {
     // Steps of A: 3, 4, 5; of B: 6, 0, 6.
     const Wire wire =
