@@ -92,9 +92,8 @@ class GcodeWriter {
         return {written(A.X), written(A.Y), written(B.X), written(B.Y)};
     }
 
-    /// Without a sign before a zero.
     [[nodiscard]] double written(double mm) const {
-        return runtime::Round(mm / machine_.unit_mm, machine_.decimals) + 0.0;
+        return runtime::Round(mm / machine_.unit_mm, machine_.decimals);
     }
 
     [[nodiscard]] std::string words(const Places& to) const {

@@ -15,10 +15,11 @@ struct Crossing {
     Point where = {};
 };
 
-/// Crossings by the step that comes first. Every outline that crosses itself has one at least, and
+/// Crossings by the step that comes first. An outline that crosses itself has one at least, and
 /// each that is named is one, by exact arithmetic: touching, a repeated point and a stretch in
-/// common, as a way back over the way there, are none. Of a step that crosses many others not all
-/// are named. Coordinates are finite and at most 1e15 in size. Time grows as n log n.
+/// common, as a way back over the way there, are none. Not all are named of a step that crosses
+/// many others, nor where three ways and more meet in one place. Coordinates are finite and at most
+/// 1e15 in size. Time grows as n log n.
 [[nodiscard]] std::vector<Crossing> self_crossings(std::span<const Point> points, bool closed);
 
 } // namespace velmora::cutting

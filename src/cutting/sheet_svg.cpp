@@ -45,7 +45,7 @@ class SvgWriter {
 
   private:
     [[nodiscard]] std::string number(double value) const {
-        return runtime::NumACadena(runtime::Round(value, decimals_) + 0.0, '.');
+        return runtime::NumACadena(runtime::Round(value, decimals_), '.');
     }
     [[nodiscard]] std::string attribute(std::string_view name, double value) const {
         return std::string(name).append("=\"").append(number(value)).append("\" ");

@@ -217,8 +217,8 @@ class Tiler {
             if (!part)
                 return;
             const Point from = on_sheet(sheet, at_part(a, b, part->from));
-            const bool goes_on = sheet.lines.size() > begun[number] && part->from == 0 &&
-                                 sheet.lines.back().points.back() == from;
+            const bool goes_on =
+                sheet.lines.size() > begun[number] && sheet.lines.back().points.back() == from;
             if (!goes_on)
                 sheet.lines.push_back({.ink = ink, .closed = false, .points = {from}});
             sheet.lines.back().points.push_back(on_sheet(sheet, at_part(a, b, part->to)));

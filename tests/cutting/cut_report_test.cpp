@@ -139,6 +139,15 @@ TEST(CutReport, short_steps_are_compared_together) {
     EXPECT_EQ(report_of(sides, {.least_step = 0.01}).count(Finding::steps_differ), 10U);
 }
 
+TEST(CutReport, what_is_too_short_at_the_end_is_compared_with_the_step_before_it) {
+    // 1 and 0.5 alone are twice; with 0.09 and nothing behind them more.
+    Sides sides = pair_of({{0, 0}, {1, 0}, {1.09, 0}}, {{0, 0}, {0.5, 0}, {0.5, 0}});
+    sides.closed = false;
+    const Entry entry = only(report_of(sides), Finding::steps_differ);
+    EXPECT_EQ(entry.last, 2U);
+    EXPECT_NEAR(entry.value, 2.18, 1e-12);
+}
+
 TEST(CutReport, lines_cross_where_a_step_runs_against_the_other_side) {
     // A goes from 0 to 6, B from 8 to 6: in between, at 6/8 of the depth, the step has no length.
     Sides sides = pair_of({{0, 0}, {6, 0}}, {{8, 0}, {6, 0}});

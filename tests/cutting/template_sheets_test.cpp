@@ -174,8 +174,9 @@ TEST(TemplateSheets, what_can_not_be_laid_out_is_said) {
 TEST(TemplateSheets, a_shape_that_is_larger_by_rounding_alone_gets_no_sheet_more) {
     const SidePath A = path_of({{0, 0}, {0.1 + 0.2, 0}});
     // 0.30000000000000004 at 333.3333 times is 100 and a bit.
-    const SheetLayout layout = template_of(A, {}, {.paper = small, .scale = 100 / 0.3});
-    EXPECT_EQ(layout.columns, 1U);
+    EXPECT_EQ(template_of(A, {}, {.paper = small, .scale = 100 / 0.3}).columns, 1U);
+    EXPECT_EQ(template_of(A, {}, {.paper = small, .scale = 190 / 0.3}).columns, 2U);
+    EXPECT_EQ(template_of(A, {}, {.paper = small, .scale = 191 / 0.3}).columns, 3U);
 }
 
 } // namespace
