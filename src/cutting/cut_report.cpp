@@ -16,11 +16,11 @@ namespace velmora::cutting {
 
 namespace {
 
-/// The larger over the smaller; infinite where that is nothing.
+/// The larger over the smaller; infinite where that is nothing but rounding.
 double factor_between(double one, double other) {
     const double smaller = std::min(one, other);
     const double larger = std::max(one, other);
-    return smaller > 0 ? larger / smaller : std::numeric_limits<double>::infinity();
+    return smaller > 1e-9 * larger ? larger / smaller : std::numeric_limits<double>::infinity();
 }
 
 /// A limit below 1 is none that a factor could have.

@@ -84,6 +84,8 @@ struct CutReport {
 /// The finding is one of two outlines that don't belong together as they are paired.
 [[nodiscard]] bool speaks_of_pairing(Finding kind);
 
+/// Of the sides as they are given: lines that cross outside the block are legal, so those of the
+/// towers say more than is wrong. What repeats is lost from files as they are saved, at the towers.
 /// Takes any input; time grows as n log n. Lengths below 0, factors below 1 and what is no number
 /// find nothing.
 [[nodiscard]] CutReport report_of(const Sides& sides, const Thresholds& thresholds = {});

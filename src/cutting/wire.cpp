@@ -2,6 +2,7 @@
 
 #include "import/number_text.h"
 #include "runtime/error.h"
+#include "runtime/numbers.h"
 
 #include <algorithm>
 #include <cmath>
@@ -99,13 +100,20 @@ Reach reach_of(const Distances& to) {
     return {(to.Z + to.X) / to.Z, (to.Z + to.Y) / to.Z};
 }
 
+/// To a millionth of a thousandth: the way back leaves the last bits of a place to chance, and a
+/// side that stands still would tremble.
+Point steadied(const Point& point) {
+    constexpr int decimals = 9;
+    return {runtime::Round(point.X, decimals), runtime::Round(point.Y, decimals)};
+}
+
 void carry_inward(Wire& wire, const Sides& towers, const Reach& reach) {
     for (std::size_t i = 0; i < towers.A.points.size(); ++i) {
         const Point& A = towers.A.points[i];
         const Point& B = towers.B.points[i];
         const Point between = (1 / reach.whole()) * (A - B);
-        wire.points[index(Plane::face_A)].push_back(A - reach.A * between);
-        wire.points[index(Plane::face_B)].push_back(B + reach.B * between);
+        wire.points[index(Plane::face_A)].push_back(steadied(A - reach.A * between));
+        wire.points[index(Plane::face_B)].push_back(steadied(B + reach.B * between));
     }
 }
 

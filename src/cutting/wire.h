@@ -50,7 +50,7 @@ struct Wire {
 /// Sides at the faces, carried to the towers by the formula of the adjustment (`projected`).
 [[nodiscard]] Wire wire_of_faces(const Sides& faces, const Distances& distances);
 /// Sides that were carried to the towers already, as the adjustment leaves and saves them: the
-/// faces are found backwards.
+/// faces are found backwards, to nine decimals.
 [[nodiscard]] Wire wire_of_towers(const Sides& towers, const Distances& distances);
 /// Without the machine's distances: the faces are at the towers, `between` apart.
 [[nodiscard]] Wire wire_of_roads(const Sides& roads, double between = 0);

@@ -53,7 +53,24 @@ TEST(Wire, is_found_back_from_the_towers) {
     EXPECT_EQ(back.depth, there.depth);
     for (std::size_t plane = 0; plane < planes; ++plane)
         for (std::size_t i = 0; i < there.size(); ++i)
-            EXPECT_LT(distance(back.points[plane][i], there.points[plane][i]), 1e-12);
+            EXPECT_EQ(back.points[plane][i], there.points[plane][i]);
+}
+
+TEST(Wire, a_face_that_stands_still_stands_when_it_is_found_back) {
+    // A stays at a third while B moves on by tenths: the towers' places hold what rounding left.
+    const double third = 1.0 / 3;
+    Sides faces = sides_of({}, {}, false);
+    for (int i = 0; i < 50; ++i) {
+        faces.A.points.push_back({third, 100 * third});
+        faces.B.points.push_back({i / 10.0, i / 30.0});
+    }
+    const Wire there = wire_of_faces(faces, {.X = 30, .Y = 70, .Z = 410});
+    const Wire back =
+        wire_of_towers(sides_of(at(there, Plane::tower_A), at(there, Plane::tower_B), false),
+                       {.X = 30, .Y = 70, .Z = 410});
+    ASSERT_EQ(back.fault, WireFault::none);
+    for (const Point& point : at(back, Plane::face_A))
+        EXPECT_EQ(point, (Point{0.333333333, 33.333333333}));
 }
 
 TEST(Wire, gives_the_outlines_at_the_faces_with_their_sync_points) {
@@ -63,7 +80,7 @@ TEST(Wire, gives_the_outlines_at_the_faces_with_their_sync_points) {
     const Sides faces = sides_at_faces(wire_of_towers(towers, distances), towers);
     // (A - B) of the towers divided by 1 + 1.5 + 2, and 1.5 times that back from A.
     ASSERT_EQ(faces.A.points.size(), 3U);
-    EXPECT_LT(distance(faces.A.points[0], {2 / 3.0, 1 / 3.0}), 1e-12);
+    EXPECT_EQ(faces.A.points[0], (Point{0.666666667, 0.333333333}));
     EXPECT_EQ(faces.A.sync, towers.A.sync);
     EXPECT_EQ(faces.B.sync, towers.B.sync);
     EXPECT_TRUE(are_paired(faces));
