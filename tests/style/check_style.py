@@ -16,7 +16,7 @@ MAX_LINES = 500
 # Who may include whom, besides oneself. An arrow points one way.
 LOGIC = ["runtime", "platform", "document", "services"]
 OPERATIONS = LOGIC + ["shapeops", "canvas", "cad", "formats", "cutprep", "generators", "import",
-              "cutting"]
+              "cutting", "cutview"]
 # Where the headers stand that an adapter answers for, and what all adapters share.
 CONTRACTS = ["runtime", "platform", "canvas", "cad", "generators", "adapters"]
 ROOMS = {
@@ -32,7 +32,8 @@ ROOMS = {
     "generators": ["runtime", "platform", "document", "cad"],
     "import": ["runtime"],
     "cutting": ["runtime", "document", "formats", "cutprep", "import"],
-    "forms": LOGIC + ["shapeops", "cad", "cutprep", "generators", "import", "cutting"],
+    "cutview": [],
+    "forms": LOGIC + ["shapeops", "cad", "cutprep", "generators", "import", "cutting", "cutview"],
     "commands": LOGIC + ["shapeops", "canvas", "cad", "formats", "forms"],
     "toolkit": [],
     "ui": OPERATIONS + ["forms", "commands", "toolkit"],
