@@ -9,7 +9,9 @@ namespace {
 constexpr double kMargin = 24;
 constexpr double kLeastZoom = 0.1;
 constexpr double kMostZoom = 100'000;
-constexpr double kBorder = 30; // what is brought in stands this far from the edge
+constexpr double kLeastLook = 4;
+constexpr double kMostLook = 64;
+constexpr double kRound = 4; // a part that is looked at has so many times its size round it
 
 double share(double room, double size) {
     return size > 0 ? room / size : std::numeric_limits<double>::infinity();
@@ -57,13 +59,15 @@ void PlaneView::move(Spot by) {
     fitted_ = false;
 }
 
-void PlaneView::bring_in(Spot drawing) {
-    const Spot seen = on_screen(drawing);
-    const bool inside = seen.x >= kBorder && seen.x <= width_ - kBorder && seen.y >= kBorder &&
-                        seen.y <= height_ - kBorder;
-    if (inside)
-        return;
-    middle_ = drawing;
+void PlaneView::look_at(const Extent& part) {
+    const double least = fit_scale_ * kLeastLook;
+    const double most = fit_scale_ * kMostLook;
+    const bool has_size = part.width() > 0 || part.height() > 0;
+    const double scale =
+        has_size ? fitting_scale(kRound * part.width(), kRound * part.height(), width_, height_, 0)
+                 : most;
+    scale_ = std::clamp(scale, least, most);
+    middle_ = part.middle();
     fitted_ = false;
 }
 

@@ -15,8 +15,8 @@ class PlaneView {
     /// hundred thousand times the fitted size.
     void zoom(double factor, Spot around);
     void move(Spot by);
-    /// Brings a place of the drawing into the room, where it is not in it.
-    void bring_in(Spot drawing);
+    /// Part of the drawing into the middle, large: from four to 64 times the fitted size.
+    void look_at(const Extent& part);
 
     [[nodiscard]] bool fitted() const { return fitted_; }
     [[nodiscard]] double scale() const { return scale_; }

@@ -86,14 +86,22 @@ TEST(PlaneViewTest, a_fitted_view_follows_the_room_and_a_moved_one_keeps_its_mid
     expect_near(view.in_drawing({150, 150}), middle);
 }
 
-TEST(PlaneViewTest, only_what_is_out_of_sight_is_brought_in) {
+TEST(PlaneViewTest, a_part_that_is_looked_at_stands_in_the_middle_with_its_neighbourhood) {
+    PlaneView view = fitted_view(); // a scale of 2
+    view.look_at(extent_of({20, 5}, {22, 5}));
+    EXPECT_DOUBLE_EQ(view.scale(), 31); // 248 / (4 * 2)
+    expect_near(view.on_screen({21, 5}), {124, 74});
+    EXPECT_FALSE(view.fitted());
+}
+
+TEST(PlaneViewTest, a_look_at_a_part_is_never_too_far_nor_too_near) {
     PlaneView view = fitted_view();
-    view.bring_in({60, 10});
-    EXPECT_TRUE(view.fitted());
-    view.zoom(20, {124, 74});
-    view.bring_in({10, 10});
-    expect_near(view.on_screen({10, 10}), {124, 74});
-    EXPECT_DOUBLE_EQ(view.scale(), 40);
+    view.look_at(extent_of({20, 5}, {20, 5}));
+    EXPECT_DOUBLE_EQ(view.scale(), 128);
+    view.look_at(extent_of({20, 5}, {20.001, 5}));
+    EXPECT_DOUBLE_EQ(view.scale(), 128);
+    view.look_at(extent_of({10, 0}, {110, 20}));
+    EXPECT_DOUBLE_EQ(view.scale(), 8);
 }
 
 TEST(PlaneViewTest, screen_and_drawing_are_each_others_way_back) {
