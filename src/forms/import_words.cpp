@@ -2,11 +2,7 @@
 
 #include "document/number_text.h"
 #include "document/state/program.h"
-#include "platform/database.h"
-#include "platform/platform.h"
-#include "runtime/error.h"
 #include "runtime/numbers.h"
-#include "runtime/text.h"
 
 #include <algorithm>
 #include <map>
@@ -18,11 +14,6 @@ namespace {
 constexpr const char* table_name = "importar_texts";
 constexpr std::size_t shown_of_each = 5;
 constexpr int length_decimals = 2;
-
-void put(std::string& text, std::string_view mark, std::string_view value) {
-    if (const auto at = text.find(mark); at != std::string::npos)
-        text.replace(at, mark.size(), value);
-}
 
 /// What a reader names in English has a text of its own: "DWG drawing" that of word_DWG_drawing.
 std::string key_of_word(const std::string& word) {
@@ -44,26 +35,11 @@ double length_of(const imports::Chain& chain) {
 
 } // namespace
 
-ImportWords::ImportWords() {
-    trap([&] { table_ = platform().database.open_recordset(table_name, Access::read_only); },
-         [](const RuntimeError&) {});
-}
-
-ImportWords::~ImportWords() = default;
-
-std::string ImportWords::text(std::string_view key, std::string_view otherwise) const {
-    if (!table_)
-        return std::string(otherwise);
-    table_->seek({key, state::program.Idioma});
-    if (table_->no_match())
-        return std::string(otherwise);
-    const Value value = table_->field("Descripcion");
-    return is_null(value) ? std::string(otherwise) : std::string(runtime::Trim(text_of(value)));
-}
+ImportWords::ImportWords() : TextTable(table_name) {}
 
 std::string ImportWords::text_with(std::string_view key, std::string_view value) const {
     std::string result = text(key);
-    put(result, "{n}", value);
+    put_in(result, "{n}", value);
     return result;
 }
 
@@ -97,9 +73,10 @@ std::string ImportWords::report(const imports::Report& report) const {
 
 std::string ImportWords::chain(const imports::Chain& chain, std::size_t number, bool in_mm) const {
     std::string row = text(chain.closed ? "chain_closed" : "chain_open");
-    put(row, "{i}", std::to_string(number));
-    put(row, "{n}", std::to_string(chain.points.size()));
-    put(row, "{l}", CStr(runtime::Round(length_of(chain), length_decimals)) + (in_mm ? " mm" : ""));
+    put_in(row, "{i}", std::to_string(number));
+    put_in(row, "{n}", std::to_string(chain.points.size()));
+    put_in(row, "{l}",
+           CStr(runtime::Round(length_of(chain), length_decimals)) + (in_mm ? " mm" : ""));
     if (!chain.name.empty())
         row += " - " + chain.name;
     return row;

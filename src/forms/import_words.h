@@ -2,26 +2,18 @@
 #pragma once
 
 #include "import/imported.h"
+#include "services/text_table.h"
 
-#include <memory>
 #include <string>
 #include <string_view>
 
 namespace velmora {
 
-class Recordset;
-
-class ImportWords {
+class ImportWords : public TextTable {
   public:
     ImportWords();
-    ~ImportWords();
-    ImportWords(const ImportWords&) = delete;
-    ImportWords& operator=(const ImportWords&) = delete;
 
-    /// The text of a key; `otherwise` where the table has none or can't be read.
-    [[nodiscard]] std::string text(std::string_view key, std::string_view otherwise) const;
-    [[nodiscard]] std::string text(std::string_view key) const { return text(key, key); }
-    /// The same with `value` in the place of {n}.
+    /// The text of a key with `value` in the place of {n}.
     [[nodiscard]] std::string text_with(std::string_view key, std::string_view value) const;
 
     /// A line for each remark; of many alike the first ones, and how many more there are.
@@ -32,8 +24,6 @@ class ImportWords {
 
   private:
     [[nodiscard]] std::string remark(const imports::Remark& remark) const;
-
-    std::unique_ptr<Recordset> table_;
 };
 
 } // namespace velmora
