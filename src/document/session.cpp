@@ -36,6 +36,7 @@ constinit AcercaWindow& acerca = session.acerca;
 constinit SeltextoWindow& seltexto = session.seltexto;
 constinit AjusteWindow& ajuste = session.ajuste;
 constinit AjusteOptWindow& ajuste_opt = session.ajuste_opt;
+constinit VerCorteWindow& ver_corte = session.ver_corte;
 } // namespace state
 
 std::string program_file(std::string_view name) {

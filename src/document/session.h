@@ -28,6 +28,7 @@
 #include "document/windows/seltexto.h"
 #include "document/windows/setup.h"
 #include "document/windows/velmora.h"
+#include "document/windows/ver_corte.h"
 #include "document/windows/wininfo.h"
 #include "document/windows/winoptions.h"
 
@@ -57,6 +58,7 @@ struct Session : ProgramState,
     SeltextoWindow seltexto;
     AjusteWindow ajuste;
     AjusteOptWindow ajuste_opt;
+    VerCorteWindow ver_corte;
 };
 
 extern Session session;

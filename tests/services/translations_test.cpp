@@ -209,6 +209,7 @@ const std::map<std::string, std::set<std::string>> kAsks = {
       "Delete_N_Ptos", "Rotate", "mnu_importar"}},
     {"importar", {"Cmd_File"}},
     {"ajuste", {"cmd_selA", "cmd_selB", "cmd_opt"}},
+    {"ver_corte", {"Cmd_Files", "Cmd_Gcode"}},
     {"seltexto", {"cmd_font"}},
 };
 
