@@ -171,6 +171,10 @@ void Cmd_save_Click() {
     confirm_save();
 }
 
+void Cmd_VerCorte_Click() {
+    platform().windows.show_modal("ver_corte");
+}
+
 void ajuste_cmd_exit_Click() {
     platform().windows.unload(kWindow);
 }

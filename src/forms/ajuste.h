@@ -28,6 +28,9 @@ void Cmd_Ajuste_Click();
 /// on and cmd_exit disabled.
 void Cmd_save_Click();
 
+/// Shows both sides together as they stand; it changes none of them.
+void Cmd_VerCorte_Click();
+
 void ajuste_cmd_exit_Click();
 
 } // namespace velmora

@@ -32,6 +32,7 @@ constexpr auto kPages = std::to_array<Names>({
     {"importar", "importar"},
     {"ajuste", "dos_lados"},
     {"ajuste_opt", "dos_lados"},
+    {"ver_corte", "ver_corte"},
     {"teclas", "teclas"},
     {"acerca", "index"},
 });

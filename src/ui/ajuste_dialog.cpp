@@ -58,7 +58,8 @@ AjusteDialog::AjusteDialog(EventSink& events) : FormWindow(events) {
                    "TxtTotalCtrlPtosNew_B",
                    "ChkPtosCtrl",
                    "Cmd_save",
-                   "cmd_exit"});
+                   "cmd_exit",
+                   "Cmd_VerCorte"});
     ui.cmd_selA->setFocus();
 }
 
@@ -111,6 +112,7 @@ void AjusteDialog::wire() {
     });
     on_idle_click(*ui.Cmd_save, Cmd_save_Click);
     on_idle_click(*ui.cmd_exit, ajuste_cmd_exit_Click);
+    on_idle_click(*ui.Cmd_VerCorte, Cmd_VerCorte_Click);
 }
 
 void AjusteDialog::on_idle_click(QAbstractButton& button, void (*handler)()) {

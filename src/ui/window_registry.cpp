@@ -16,6 +16,7 @@
 #include "ui/seltexto_dialog.h"
 #include "ui/setup_dialog.h"
 #include "ui/shortcut_list.h"
+#include "ui/ver_corte_dialog.h"
 
 #include <algorithm>
 #include <array>
@@ -64,6 +65,7 @@ constexpr auto kWindows = std::to_array<Row>({
     {"teclas", make<ShortcutList>},
     {"acerca", make<AboutBox>},
     {"importar", make<ImportarDialog>},
+    {"ver_corte", make<VerCorteDialog>},
 });
 
 } // namespace

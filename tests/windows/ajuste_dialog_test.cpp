@@ -97,7 +97,8 @@ TEST_F(AjusteDialogTest, tab_goes_through_the_halves_in_reading_order) {
                                 "cmd_selB", "Txt_FileB", "TxtTotalPtos_B", "TxtTotalCtrlPtos_B",
                                 "cmd_opt", "Cmd_Ajuste", "Txt_File_A2", "TxtTotalPtosNew_A",
                                 "TxtTotalCtrlPtosNew_A", "Txt_File_B2", "TxtTotalPtosNew_B",
-                                "TxtTotalCtrlPtosNew_B", "ChkPtosCtrl", "cmd_exit"));
+                                "TxtTotalCtrlPtosNew_B", "ChkPtosCtrl", "cmd_exit",
+                                "Cmd_VerCorte"));
     });
 }
 
