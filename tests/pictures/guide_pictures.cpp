@@ -29,6 +29,8 @@ class Page {
         scaling();
         take("lados", sides());
         take("distancias", distances());
+        stage_.unload("ajuste_opt");
+        take("corte", stage_.show_cut());
         return well_ && stage_.faults().empty();
     }
 

@@ -4,6 +4,8 @@
 #include "canvas/view.h"
 #include "document/refresh.h"
 #include "document/session.h"
+#include "forms/ajuste.h"
+#include "forms/ver_corte.h"
 #include "services/messages.h"
 #include "support/places.h"
 #include "toolkit/qt_text.h"
@@ -23,6 +25,21 @@ constexpr auto kShownPath = "/home/ana/alas/raiz.dat"; // the same in every run
 constexpr auto kZoom = "750";                          // the whole sample in view
 constexpr std::int32_t kSelected = 8;
 constexpr std::int32_t kUnderPointer = 20;
+
+// The wing of the guide, in millimetres, and its machine.
+constexpr double kRootChord = 240;
+constexpr double kTipChord = 160;
+constexpr double kOptX = 100;
+constexpr double kOptY = 200;
+constexpr double kOptZ = 400;
+constexpr double kCut = 0.7; // of the way
+
+void enlarge(Array<Pto>& side, double chord, double back) {
+    for (Pto& point : side.all()) {
+        point.X = point.X * chord + back;
+        point.Y *= chord;
+    }
+}
 
 } // namespace
 
@@ -88,6 +105,34 @@ QWidget* Stage::show(std::string_view name) {
     platform_->windows->activate(name);
     settle();
     return window(name);
+}
+
+void Stage::match_sides() {
+    show("ajuste");
+    pick("raiz.dat");
+    click("ajuste", "cmd_selA");
+    pick("punta.dat");
+    click("ajuste", "cmd_selB");
+    platform_->windows->run([] {
+        enlarge(session.PtosA, kRootChord, 0);
+        enlarge(session.PtosB, kTipChord, kRootChord - kTipChord);
+        session.OptX = kOptX;
+        session.OptY = kOptY;
+        session.OptZ = kOptZ;
+        Cmd_Ajuste_Click();
+    });
+    unload("ajuste");
+}
+
+QWidget* Stage::show_cut() {
+    match_sides();
+    QWidget* shown = show("ver_corte");
+    platform_->windows->run([] {
+        session.ver_corte.Txt_Files = "raiz2.DAT, punta2.DAT"; // the same in every run
+        ver_corte_go_to_share(kCut);
+    });
+    settle();
+    return shown;
 }
 
 void Stage::unload(std::string_view name) {

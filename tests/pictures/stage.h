@@ -27,6 +27,8 @@ class Stage {
     void open_main();
     /// Loads and shows a window that has the activation then; nullptr where it cannot be shown.
     QWidget* show(std::string_view window);
+    /// The cut of the sample wing, its wire on the way.
+    QWidget* show_cut();
     void unload(std::string_view window);
     /// A click on a button, or a tick, by its control's name.
     void click(std::string_view window, std::string_view control);
@@ -43,6 +45,8 @@ class Stage {
     static void settle();
 
   private:
+    /// The sample wing in the workbench: both sides in millimetres, matched for a machine.
+    void match_sides();
     void fill_platform(std::string_view idioma);
     void open_outline();
 
