@@ -161,12 +161,13 @@ void SessionGuard::keep_now() noexcept {
     }
 }
 
-// What a load or a save leaves is what its file holds, with the rounding that follows it.
+// What a load or a save leaves is what its file holds, with the rounding that follows it. What was
+// imported is in no file yet.
 void SessionGuard::follow_handler() {
     if (seen_times == state::loading.seen_times)
         return;
     seen_times = state::loading.seen_times;
-    clean = mark_of(outline());
+    clean = state::loading.seen.path.empty() ? 0 : mark_of(outline());
     if (!writing)
         runtime::remove_file(file_);
 }

@@ -189,6 +189,7 @@ void take_in_imported(const std::string& path, const std::string& format) {
     publish_totals(Totals::all, Forma.Pto.upper());
     shown::TotalSinc().put(1);
     take_in(path, format);
+    note_unwritten();
 }
 
 std::int16_t CargaDAT(std::string_view path, FileFormat format) {

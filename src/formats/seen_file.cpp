@@ -31,6 +31,11 @@ void note_seen(const std::string& path) {
     ++state::loading.seen_times;
 }
 
+void note_unwritten() {
+    state::loading.seen = {};
+    ++state::loading.seen_times;
+}
+
 bool changed_since_seen(const std::string& path) {
     return was_seen(path) && runtime::file_exists(path) && as_it_is(path) != state::loading.seen;
 }

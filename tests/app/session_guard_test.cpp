@@ -123,5 +123,18 @@ TEST_F(SessionGuardTest, an_outline_as_its_file_holds_it_is_not_kept) {
     EXPECT_TRUE(runtime::file_exists(file));
 }
 
+TEST_F(SessionGuardTest, an_imported_outline_is_kept_until_it_is_saved) {
+    SessionGuard guard(windows, std::chrono::hours(1));
+    windows.run([this] {
+        edit();
+        note_seen(machine.path("ala.dat"));
+        note_unwritten();
+    });
+    guard.keep_now();
+    EXPECT_TRUE(runtime::file_exists(file));
+    windows.run([this] { note_seen(machine.write("ala.dat", "outline")); });
+    EXPECT_FALSE(runtime::file_exists(file));
+}
+
 } // namespace
 } // namespace velmora

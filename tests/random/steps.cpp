@@ -61,12 +61,21 @@ std::vector<const QWidget*> controls_of(const QWidget& window) {
 } // namespace
 
 std::vector<std::string> Steps::opening() {
+    const auto file = [](const std::string& name, std::initializer_list<std::string_view> lines) {
+        std::string text;
+        for (const std::string_view line : lines)
+            text.append(line).append("\r\n");
+        return "write " + name + " " + word_text(text);
+    };
     return {
-        R"(write ala.dat "0.00000               0.00000               \r\n40.5000               0.00000               \r\n")",
-        R"(write perfil.dat "Perfil\r\n1.0 0.0\r\n0.5 0.08\r\n0.0 0.0\r\n0.5 -0.04\r\n1.0 0.0\r\n")",
-        R"(write otro.dat "0 0\r\n100 0\r\n100 25.5\r\n50 30\r\n0 25.5\r\n0 0\r\n")",
-        R"(write corte.scr "PLINE\r\n0,0\r\n10,0\r\n10,10\r\n0,0\r\n\r\n")",
-        R"(write pieza.dxf "  0\r\nSECTION\r\n  2\r\nENTITIES\r\n  0\r\nLINE\r\n 10\r\n0.0\r\n 20\r\n0.0\r\n 11\r\n9.0\r\n 21\r\n0.0\r\n  0\r\nLINE\r\n 10\r\n9.0\r\n 20\r\n0.0\r\n 11\r\n9.0\r\n 21\r\n7.0\r\n  0\r\nENDSEC\r\n  0\r\nEOF\r\n")",
+        file("perfil.dat", {"Perfil", "1.0 0.0", "0.5 0.08", "0.0 0.0", "0.5 -0.04", "1.0 0.0"}),
+        file("otro.dat", {"0 0", "100 0", "100 25.5", "50 30", "0 25.5", "0 0"}),
+        file("ala.dat", {"Ala", "no numbers here", "1,5 2,5"}),
+        file("corte.scr", {"PLINE", "0,0", "10,0", "10,10", "0,0", ""}),
+        file("pieza.dxf",
+             {"  0", "SECTION", "  2", "ENTITIES", "  0", "LINE",   " 10", "0.0", " 20", "0.0",
+              " 11", "9.0",     " 21", "0.0",      "  0", "LINE",   " 10", "9.0", " 20", "0.0",
+              " 11", "9.0",     " 21", "7.0",      "  0", "ENDSEC", "  0", "EOF"}),
         "cad running Autocad 15",
         "cad document dibujo",
         "cad line 0 0 10 0",
