@@ -43,7 +43,7 @@ open_shape "$work/octogono.dat"
 key ctrl+n
 round "Nueva Forma" 6
 choose 1 1
-round "Parámetros Generales" 9
+round "Parámetros Generales" 10
 choose 2 3
 round "Multiplicar Puntos de la Forma" 3
 choose 2 8
