@@ -40,6 +40,15 @@ void set_label_colours(QLabel& label, std::uint32_t colour) {
     label.setPalette(palette);
 }
 
+/// What a fit or a zoom leaves round the canvas has nearly its colour: the edge can be told.
+void show_ground(QWidget& viewport, std::uint32_t colour) {
+    constexpr int kEdge = 104; // per cent
+    QPalette palette = viewport.palette();
+    palette.setColor(viewport.backgroundRole(), QColor(screen_rgb(colour)).darker(kEdge));
+    viewport.setPalette(palette);
+    viewport.setAutoFillBackground(true);
+}
+
 } // namespace
 
 CanvasView::CanvasView(ShownImage& image, PicWidget& pic, QLabel& lbl_xyfloat, CanvasScroll& scroll)
@@ -59,9 +68,10 @@ CanvasView::~CanvasView() {
 
 void CanvasView::bind(Bindings& bindings, VelmoraWindow& state) {
     bindings.shows<std::uint32_t>([&state] { return state.pic_BackColor; },
-                                  [](std::uint32_t colour) {
+                                  [this](std::uint32_t colour) {
                                       platform().pic.set_back_color(colour);
                                       platform().pic.present();
+                                      show_ground(*scroll_.viewport(), colour);
                                   });
     bindings.shows<int>([&state] { return state.pic_MousePointer; },
                         [this](int pointer) {
