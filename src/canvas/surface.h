@@ -53,6 +53,9 @@ class Surface {
     /// what is drawn. Raises 53, 481 for a file that is not a picture, 7 for one too large for
     /// memory.
     virtual void set_picture(std::string_view file) = 0;
+    /// Writes a part of what is drawn as a PNG file, over one that is there; what lies beyond the
+    /// surface is left out. Raises 75 where it can't be written, 5 for a part without pixels.
+    virtual void save_part(std::string_view file, PixelPoint corner, PixelPoint size) = 0;
     /// Shows what was drawn when the windows get time.
     virtual void present() = 0;
 };

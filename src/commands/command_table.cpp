@@ -65,6 +65,7 @@ constexpr auto kMenus = std::to_array<MenuEntry>({
     {"mnu_Archivo", "mnu_exit", "Salir", "", mnu_exit},
     separator("mnu_Archivo"),
     {"mnu_Archivo", "mnu_importar", "Importar...", "", mnu_importar},
+    {"mnu_Archivo", "mnu_save_view", "Guardar la Vista como Imagen...", "", mnu_save_view},
 
     top("mnu_config", "&Configuración"),
     {"mnu_config", "mnu_paramgenerales", "Parámetros Generales", "", mnu_paramgenerales},

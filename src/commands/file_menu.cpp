@@ -2,6 +2,7 @@
 #include "cad/entity_counters.h"
 #include "canvas/fit.h"
 #include "canvas/print.h"
+#include "canvas/save_view.h"
 #include "commands/handlers.h"
 #include "commands/open_recovered.h"
 #include "document/flag.h"
@@ -180,6 +181,11 @@ void mnu_exit() {
 void K_EXIT() {
     std::int16_t cancel = 0;
     SalVelmora(cancel);
+}
+
+void mnu_save_view() {
+    if (shape_at_hand())
+        save_view();
 }
 
 // As an opened file, but the recent files: there is nothing to open yet under its name.

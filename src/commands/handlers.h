@@ -24,6 +24,8 @@ void mnuRecentFile(int index);
 void open_named(std::string_view path);
 void mnu_exit();
 void mnu_importar();
+/// What is seen of the canvas, as a PNG file that a dialog names.
+void mnu_save_view();
 // Configuración
 void mnu_paramgenerales();
 // Funciones

@@ -101,6 +101,9 @@ inline constexpr int capture_cancelled = 118;
 inline constexpr int lines_passed_over = 120;
 inline constexpr int results_saved = 121;
 inline constexpr int canvas_ends = 122;
+inline constexpr int save_view_title = 123;
+inline constexpr int view_saved = 124;
+inline constexpr int view_not_saved = 125;
 inline constexpr int open_filter = 132;
 inline constexpr int picture_filter = 144;
 

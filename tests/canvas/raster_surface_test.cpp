@@ -17,6 +17,7 @@ class TestSurface : public RasterSurface {
   public:
     TestSurface(std::int32_t width, std::int32_t height) : RasterSurface(width, height) {}
     void set_picture(std::string_view) override {}
+    void save_part(std::string_view, PixelPoint, PixelPoint) override {}
     void show(const PixelBox& changed) override { shown.push_back(changed); }
     using RasterSurface::put_picture;
 

@@ -40,6 +40,7 @@ constexpr Row kRows[] = {
     {"mnu_Archivo", "mnu_exit", "Salir", ""},
     {"mnu_Archivo", "", "-", ""},
     {"mnu_Archivo", "mnu_importar", "Importar...", ""},
+    {"mnu_Archivo", "mnu_save_view", "Guardar la Vista como Imagen...", ""},
     {"", "mnu_config", "&Configuración", ""},
     {"mnu_config", "mnu_paramgenerales", "Parámetros Generales", ""},
     {"", "mnu_funcs", "&Funciones", ""},

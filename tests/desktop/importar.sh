@@ -9,7 +9,7 @@ colour="#1F5FBF" # of the first outline
 
 open_window() {
     key alt+a
-    key Up # the menu's last entry
+    key Up Up # the menu's last entry but one
     key Return
     keys_reach "$import_window"
 }

@@ -196,6 +196,11 @@ void RecordingSurface::set_picture(std::string_view file) {
     note(line_of("picture", file));
 }
 
+void RecordingSurface::save_part(std::string_view file, PixelPoint corner, PixelPoint size) {
+    note("save " + std::string(file) + ' ' + std::to_string(corner.x) + ' ' +
+         std::to_string(corner.y) + ' ' + std::to_string(size.x) + ' ' + std::to_string(size.y));
+}
+
 void RecordingSurface::present() {
     note("present");
 }

@@ -131,6 +131,7 @@ class RecordingSurface : public Surface {
     void Line(float x1, float y1, float x2, float y2) override;
     void FillBox(float x1, float y1, float x2, float y2, std::uint32_t colour) override;
     void set_picture(std::string_view file) override;
+    void save_part(std::string_view file, PixelPoint corner, PixelPoint size) override;
     void present() override;
 
   private:

@@ -206,7 +206,7 @@ const std::map<std::string, std::set<std::string>> kAsks = {
     {"Velmora",
      {"mnu_newfile", "mnu_openfile", "mnu_savefileas", "mnu_paramgenerales", "Mult_Points_Shape",
       "mnu_loadimg", "mnu_scale_xy", "mnu_seltexto", "mnu_corrpoltrap", "mnu_paralela",
-      "Delete_N_Ptos", "Rotate", "mnu_importar"}},
+      "Delete_N_Ptos", "Rotate", "mnu_importar", "mnu_save_view"}},
     {"importar", {"Cmd_File"}},
     {"ajuste", {"cmd_selA", "cmd_selB", "cmd_opt"}},
     {"ver_corte", {"Cmd_Files", "Cmd_Gcode"}},

@@ -4,6 +4,7 @@
 #include "runtime/paths.h"
 
 #include <QImageReader>
+#include <QSaveFile>
 #include <QString>
 
 namespace velmora {
@@ -47,6 +48,17 @@ void ImageSurface::set_picture(std::string_view file) {
     const qsizetype row_width = picture.bytesPerLine() / qsizetype{sizeof(Pixel)};
     put_picture({rows, static_cast<std::size_t>(row_width * picture.height())},
                 static_cast<std::int32_t>(row_width));
+}
+
+// A file that could not be written whole leaves the former one as it was.
+void ImageSurface::save_part(std::string_view file, PixelPoint corner, PixelPoint size) {
+    const QRect seen = QRect(corner.x, corner.y, size.x, size.y) & image_.rect();
+    if (seen.isEmpty()) // of which a copy would be all
+        raise(error::invalid_call);
+    const QImage part = image_.copy(seen);
+    QSaveFile out(QString::fromStdString(runtime::path_text(runtime::native_path(file))));
+    if (!out.open(QIODevice::WriteOnly) || !part.save(&out, "PNG") || !out.commit())
+        raise(error::path_access);
 }
 
 void ImageSurface::show(const PixelBox& box) {

@@ -19,6 +19,7 @@ class ImageSurface : public RasterSurface, public ShownImage {
     /// Raises 53 for a file that is not there, 481 for one that is not a picture, 7 for a picture
     /// larger than a gigabyte.
     void set_picture(std::string_view file) override;
+    void save_part(std::string_view file, PixelPoint corner, PixelPoint size) override;
 
   protected:
     void show(const PixelBox& box) override;

@@ -31,6 +31,36 @@ struct PictureFile : testing::Test {
     }
 };
 
+TEST_F(PictureFile, a_part_of_what_is_drawn_is_written_as_png) {
+    pic.set_back_color(0xFFFFFF);
+    pic.set_pen(255); // red
+    pic.MoveToEx(12, 21);
+    pic.LineTo(15, 21);
+    const std::string file = write("view.png", "an older one");
+    pic.save_part(file, {10, 20}, {30, 40});
+    const QImage part(QString::fromStdString(file), "PNG");
+    EXPECT_EQ(part.size(), QSize(30, 40));
+    EXPECT_EQ(part.pixelColor(2, 1), QColor(255, 0, 0));
+    EXPECT_EQ(part.pixelColor(4, 1), QColor(255, 0, 0));
+    EXPECT_EQ(part.pixelColor(5, 1), QColor(255, 255, 255)) << "the end of a line is left out";
+    EXPECT_EQ(part.pixelColor(29, 39), QColor(255, 255, 255));
+}
+
+TEST_F(PictureFile, what_lies_beyond_the_canvas_is_left_out) {
+    const std::string file = folder.filePath("view.png").toStdString();
+    pic.save_part(file, {-50, 1900}, {300, 300});
+    EXPECT_EQ(QImage(QString::fromStdString(file)).size(), QSize(250, 100));
+    EXPECT_EQ(test::number_of([&] {
+                  pic.save_part(file, {2100, 0}, {10, 10});
+              }),
+              error::invalid_call);
+}
+
+TEST_F(PictureFile, a_folder_that_is_not_there_is_error75) {
+    const std::string file = folder.filePath("none/view.png").toStdString();
+    EXPECT_EQ(test::number_of([&] { pic.save_part(file, {0, 0}, {10, 10}); }), error::path_access);
+}
+
 QImage blue(int width, int height) {
     QImage picture(width, height, QImage::Format_RGB32);
     picture.fill(QColor(0, 0, 254));
