@@ -1,10 +1,12 @@
 #include "ui/sides_drawing.h"
 
 #include "cutview/strips.h"
+#include "toolkit/line_clip.h"
 #include "ui/cut_marks.h"
 
 #include <QPainter>
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace velmora {
@@ -21,8 +23,9 @@ using Line = std::vector<Seen>;
 constexpr double kOutline = 2;
 constexpr double kDot = 1.8;
 constexpr double kSync = 5;
-constexpr double kApart = 1;    ///< pixels between joined lines that are told apart
-constexpr double kDotsFrom = 7; ///< pixels from point to point, from which on each is a dot
+constexpr double kApart = 1;         ///< pixels between joined lines that are told apart
+constexpr std::size_t kSmooth = 600; ///< joined lines up to which their edges are smooth
+constexpr double kDotsFrom = 7;      ///< pixels from point to point, from which on each is a dot
 constexpr double kMarkWidth = 7;
 constexpr double kRing = 11;
 constexpr double kWire = 2.4;
@@ -57,6 +60,7 @@ class Sheet {
         draw_sync(sides_.A, A_, colours_.side_A);
         draw_sync(sides_.B, B_, colours_.side_B);
         draw_ring();
+        draw_legend();
     }
 
   private:
@@ -84,10 +88,19 @@ class Sheet {
             other.push_back(B_[i]);
             runs.push_back(run_of(sides_.A, i));
         }
-        for (const std::size_t i : cutview::told_apart(one, other, kApart)) {
-            painter_.setPen(QPen(runs[i] % 2 == 0 ? colours_.other_run : colours_.run, 1));
-            draw_segment(painter_, point_of(one[i]), point_of(other[i]));
+        const std::vector<std::size_t> kept = cutview::told_apart(one, other, kApart);
+        // So many lie side by side: smooth edges would cost much and show nothing.
+        painter_.setRenderHint(QPainter::Antialiasing, kept.size() < kSmooth);
+        std::array<QList<QLineF>, 2> lines; // by shade
+        const QRectF room = room_of(painter_);
+        for (const std::size_t i : kept)
+            if (const auto line = part_inside({point_of(one[i]), point_of(other[i])}, room))
+                lines[runs[i] % 2] << *line;
+        for (const std::size_t shade : {0U, 1U}) {
+            painter_.setPen(QPen(shade == 0 ? colours_.other_run : colours_.run, 1));
+            painter_.drawLines(lines[shade]);
         }
+        painter_.setRenderHint(QPainter::Antialiasing);
     }
 
     void draw_outline(const Line& line, const QColor& colour) {
@@ -176,6 +189,21 @@ class Sheet {
             if (meant && shown_.mark->first < line->size() &&
                 room.contains(point_of((*line)[shown_.mark->first])))
                 painter_.drawEllipse(point_of((*line)[shown_.mark->first]), kRing, kRing);
+        }
+    }
+
+    /// Which colour is which side, in the corner.
+    void draw_legend() {
+        constexpr double corner = 10;
+        constexpr double length = 22;
+        const double height = painter_.fontMetrics().height();
+        QPointF at(corner, corner + height / 2);
+        for (const auto& [name, colour] :
+             {std::pair("A", colours_.side_A), {"B", colours_.side_B}}) {
+            painter_.setPen(QPen(colour, kOutline));
+            painter_.drawLine(at, at + QPointF(length, 0));
+            painter_.drawText(at + QPointF(length + 6, height / 3), QLatin1String(name));
+            at.ry() += height;
         }
     }
 

@@ -46,6 +46,7 @@ void enlarge(Array<Pto>& side, double chord, double back) {
 Stage::Stage(std::string_view idioma) {
     const auto folder = std::filesystem::path(folder_.path().toStdString());
     std::filesystem::copy_file(test::built_database(), folder / "VELMORA.MDB");
+    std::filesystem::copy(test::source_dir() / "data/machines", folder / "machines");
     reset_session();
     fill_platform(idioma);
     session.program_folder = folder.string();
