@@ -83,6 +83,8 @@ void put_at_hand(cutting::Sides sides, CutStage stage, const CutWords& words) {
         cut_of(std::move(sides), stage, distances(), cut_thresholds()));
     window.lbl_note = words.lack(*window.cut);
     window.has_wire = window.cut->has_wire() && window.cut->drawable();
+    window.Cmd_Template_enabled = window.cut->drawable();
+    window.lbl_written.clear();
     window.along = 0;
     window.playing = false;
     ++window.pictures;
@@ -285,6 +287,16 @@ void ver_corte_machine_Change() {
 void ver_corte_gcode_Click() {
     state::ver_corte.playing = false;
     write_cut_program(CutWords());
+}
+
+void ver_corte_pdf_Click(const MakePdf& make_pdf) {
+    state::ver_corte.playing = false;
+    save_template_pdf(CutWords(), make_pdf);
+}
+
+void ver_corte_svg_Click() {
+    state::ver_corte.playing = false;
+    save_template_svg(CutWords());
 }
 
 void ver_corte_cmd_exit_Click() {

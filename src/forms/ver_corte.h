@@ -4,6 +4,7 @@
 
 #include "cutting/cut_report.h"
 #include "forms/cut_at_hand.h"
+#include "forms/cut_template.h"
 
 #include <cstddef>
 
@@ -42,6 +43,9 @@ void ver_corte_tick(double seconds);
 /// Another machine was chosen; its program is written.
 void ver_corte_machine_Change();
 void ver_corte_gcode_Click();
+/// The template in true size; the toolkit makes the PDF.
+void ver_corte_pdf_Click(const MakePdf& make_pdf);
+void ver_corte_svg_Click();
 
 void ver_corte_cmd_exit_Click();
 

@@ -4,6 +4,7 @@
 #include "forms/ver_corte.h"
 #include "toolkit/qt_text.h"
 #include "ui/program_style.h"
+#include "ui/sheet_pdf.h"
 
 #include <QRegularExpressionValidator>
 #include <QScreen>
@@ -53,15 +54,17 @@ VerCorteDialog::VerCorteDialog(EventSink& events)
         box->setValidator(new QRegularExpressionValidator(number, box));
     bind();
     wire();
-    list_controls(
-        {"lbl_source",   "Cmb_Source",   "Cmd_Files",    "Txt_Files",    "lbl_note",  "lbl_plane",
-         "Cmb_Plane",    "lbl_joins",    "Cmb_Joins",    "Pic_Sides",    "Cmd_Plan",  "Cmd_Front",
-         "Cmd_Side",     "Cmd_Space",    "Cmd_Fit",      "Pic_Space",    "Tab_Cut",   "lbl_look",
-         "Lst_Look",     "lbl_still",    "Txt_Still",    "lbl_while",    "Txt_While", "lbl_factor",
-         "Txt_Factor",   "lbl_close",    "Txt_Close",    "Tbl_Numbers",  "lbl_time",  "lbl_fit",
-         "lbl_travel_X", "Txt_Travel_X", "lbl_travel_Y", "Txt_Travel_Y", "lbl_speed", "Txt_Speed",
-         "Frm_Gcode",    "lbl_machine",  "Cmb_Machine",  "lbl_written",  "Cmd_Gcode", "Cmd_Play",
-         "Sld_Cut",      "lbl_pace",     "Cmb_Pace",     "lbl_place",    "cmd_exit"});
+    list_controls({"lbl_source",   "Cmb_Source",   "Cmd_Files",    "Txt_Files",    "lbl_note",
+                   "lbl_plane",    "Cmb_Plane",    "lbl_joins",    "Cmb_Joins",    "Pic_Sides",
+                   "Cmd_Plan",     "Cmd_Front",    "Cmd_Side",     "Cmd_Space",    "Cmd_Fit",
+                   "Pic_Space",    "Tab_Cut",      "lbl_look",     "Lst_Look",     "lbl_still",
+                   "Txt_Still",    "lbl_while",    "Txt_While",    "lbl_factor",   "Txt_Factor",
+                   "lbl_close",    "Txt_Close",    "Tbl_Numbers",  "lbl_time",     "lbl_fit",
+                   "lbl_travel_X", "Txt_Travel_X", "lbl_travel_Y", "Txt_Travel_Y", "lbl_speed",
+                   "Txt_Speed",    "Frm_Gcode",    "lbl_machine",  "Cmb_Machine",  "lbl_wrong",
+                   "Cmd_Gcode",    "Frm_Template", "Chk_Points",   "Chk_Numbers",  "Cmd_Pdf",
+                   "Cmd_Svg",      "lbl_written",  "Cmd_Play",     "Sld_Cut",      "lbl_pace",
+                   "Cmb_Pace",     "lbl_place",    "cmd_exit"});
     ui.Cmb_Source->setFocus();
 }
 
@@ -73,6 +76,7 @@ void VerCorteDialog::bind() {
                                       {ui.lbl_look, &state.lbl_look},
                                       {ui.lbl_time, &state.lbl_time},
                                       {ui.lbl_fit, &state.lbl_fit},
+                                      {ui.lbl_wrong, &state.lbl_wrong},
                                       {ui.lbl_written, &state.lbl_written}}) {
         bindings().label(*label, *text);
         bindings().shows<bool>([text = text] { return !text->empty(); },
@@ -101,6 +105,10 @@ void VerCorteDialog::bind() {
             ui.Tbl_Numbers->show_rows(rows);
         });
     bindings().enabled(*ui.Cmd_Gcode, state.Cmd_Gcode_enabled);
+    bindings().enabled(*ui.Cmd_Pdf, state.Cmd_Template_enabled);
+    bindings().enabled(*ui.Cmd_Svg, state.Cmd_Template_enabled);
+    bindings().check(*ui.Chk_Points, state.Chk_Points);
+    bindings().check(*ui.Chk_Numbers, state.Chk_Numbers);
     bind_pictures();
     bind_wire();
 }
@@ -199,6 +207,8 @@ void VerCorteDialog::wire() {
     });
     on_choice(*ui.Cmb_Machine, ver_corte_machine_Change);
     on_click(*ui.Cmd_Gcode, ver_corte_gcode_Click);
+    on_click(*ui.Cmd_Pdf, [] { ver_corte_pdf_Click(pdf_of); });
+    on_click(*ui.Cmd_Svg, ver_corte_svg_Click);
     on_click(*ui.cmd_exit, ver_corte_cmd_exit_Click);
     wire_pictures();
 }

@@ -52,7 +52,7 @@ class CutProgramTest : public testing::Test {
 TEST_F(CutProgramTest, without_files_of_machines_it_says_where_they_belong) {
     ver_corte_Load();
     EXPECT_FALSE(window_.Cmd_Gcode_enabled);
-    EXPECT_THAT(window_.lbl_written, HasSubstr("\"machines\""));
+    EXPECT_THAT(window_.lbl_wrong, HasSubstr("\"machines\""));
     ver_corte_gcode_Click();
     EXPECT_THAT(platform_.dialogs.save_calls, IsEmpty());
 }
@@ -142,7 +142,7 @@ TEST_F(CutProgramTest, without_a_speed_it_says_so) {
 TEST_F(CutProgramTest, a_faulty_machine_file_is_told_with_its_line) {
     load_with("name = Prueba\naxes = XYUU\n");
     EXPECT_FALSE(window_.Cmd_Gcode_enabled);
-    EXPECT_THAT(window_.lbl_written, HasSubstr("prueba.machine, línea 2: los ejes han de ser"));
+    EXPECT_THAT(window_.lbl_wrong, HasSubstr("prueba.machine, línea 2: los ejes han de ser"));
 }
 
 TEST_F(CutProgramTest, the_machine_that_was_chosen_is_chosen_again) {

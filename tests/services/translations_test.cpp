@@ -209,7 +209,7 @@ const std::map<std::string, std::set<std::string>> kAsks = {
       "Delete_N_Ptos", "Rotate", "mnu_importar", "mnu_save_view"}},
     {"importar", {"Cmd_File"}},
     {"ajuste", {"cmd_selA", "cmd_selB", "cmd_opt"}},
-    {"ver_corte", {"Cmd_Files", "Cmd_Gcode"}},
+    {"ver_corte", {"Cmd_Files", "Cmd_Gcode", "Cmd_Pdf", "Cmd_Svg"}},
     {"seltexto", {"cmd_font"}},
 };
 

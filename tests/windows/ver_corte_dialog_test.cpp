@@ -348,6 +348,23 @@ TEST_F(VerCorteDialogTest, the_towers_outlines_are_shown_when_chosen) {
     });
 }
 
+TEST_F(VerCorteDialogTest, the_template_is_a_pdf_in_true_size) {
+    in_window([this] {
+        part<QTabWidget>("Tab_Cut").setCurrentIndex(2);
+        settle();
+        dialogs().paths = {path("ala.pdf")};
+        part<QAbstractButton>("Cmd_Pdf").click();
+        settle();
+        QFile file(QString::fromStdString(path("ala.pdf")));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        EXPECT_TRUE(bytes.startsWith("%PDF"));
+        // 210 by 297 mm in points of 1/72 inch: 595.28 by 841.89.
+        EXPECT_TRUE(bytes.contains("/MediaBox [0 0 595"));
+        EXPECT_EQ(text("lbl_written"), "Guardado: ala.pdf, hojas: 1");
+    });
+}
+
 TEST_F(VerCorteDialogTest, the_pictures_follow_the_theme) {
     in_window([this] {
         const QPalette before = QApplication::palette();

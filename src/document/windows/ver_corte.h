@@ -40,7 +40,8 @@ struct VerCorteWindow {
     std::string lbl_look;    ///< how much there is to look at
     std::string lbl_fit;     ///< whether the travel is enough
     std::string lbl_time;    ///< of the cut
-    std::string lbl_written; ///< what was written last, or what a machine's file lacks
+    std::string lbl_wrong;   ///< with the file of the machine that is chosen
+    std::string lbl_written; ///< what was written last
     std::vector<std::string> Lst_Look;
     std::optional<std::size_t> looked_at;              ///< a row of Lst_Look
     std::vector<std::vector<std::string>> Tbl_Numbers; ///< heads, then a row a plane
