@@ -50,6 +50,13 @@ int code_of(char32_t character) {
     return character < kFirstPrintable ? 0 : static_cast<int>(character);
 }
 
+/// A cell of a sheet or a line of an editor ends in one or more of them.
+QString without_line_end(QString text) {
+    while (text.endsWith('\n') || text.endsWith('\r'))
+        text.chop(1);
+    return text;
+}
+
 bool pastes_selection(const QKeyEvent& event) {
     constexpr auto both = Qt::ControlModifier | Qt::ShiftModifier;
     return event.key() == Qt::Key_Insert && (event.modifiers() & both) == both &&
@@ -180,7 +187,7 @@ KeyFilter::Taken KeyFilter::take(const QString& text) {
 }
 
 void KeyFilter::insert(const QString& text) {
-    const Taken taken = take(text);
+    const Taken taken = take(without_line_end(text));
     if (taken.outcome == Outcome::same || taken.outcome == Outcome::other)
         box_.insert(taken.text);
 }

@@ -16,7 +16,8 @@ namespace velmora {
 
 /// Calls `handler` with each character that comes into a box: typed, composed by a dead key or an
 /// input method, pasted or dropped. It returns the character to take instead, 0 to refuse it; a
-/// text with a refused character is refused whole. Keys that move, cut or copy are not typing.
+/// text with a refused character is refused whole. What is pasted or dropped is taken without the
+/// line end that a whole line brings along. Keys that move, cut or copy are not typing.
 class KeyFilter : public QObject {
     Q_OBJECT
   public:

@@ -124,7 +124,7 @@ TEST_F(KeyFilterTest, a_text_with_a_refused_character_is_refused_whole) {
 
 // A pasted line end is no Enter, a pasted control character no Backspace.
 TEST_F(KeyFilterTest, control_characters_of_a_text_are_no_keys) {
-    for (const char* text : {"5\r", "5\n", "5\b", "\t"}) {
+    for (const char* text : {"\r5", "5\n6", "5\b", "\t"}) {
         refused.clear();
         paste(text);
         EXPECT_EQ(refused, std::vector<int>{0});

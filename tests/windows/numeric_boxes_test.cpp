@@ -106,6 +106,20 @@ TEST_F(NumericBoxesTest, take_a_pasted_number) {
     EXPECT_EQ(session.Scale_xy.txt_fixed_x, "12.5");
 }
 
+// A whole line of a sheet or an editor ends in a line end.
+TEST_F(NumericBoxesTest, take_a_pasted_line_without_its_end) {
+    show("Scale_xy");
+    auto& box = control<QLineEdit>("Scale_xy", "txt_fixed_x");
+    dialogs().boxes.clear();
+    for (const char* line : {"12.5\n", "13.5\r\n", "14.5\r"}) {
+        QApplication::clipboard()->setText(line);
+        box.selectAll();
+        QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(box.text(), QString(line).trimmed());
+    }
+    EXPECT_TRUE(dialogs().boxes.empty());
+}
+
 // What a dead key and a letter make was read by the program as no number, which ended it.
 TEST_F(NumericBoxesTest, a_composed_letter_does_not_reach_the_stored_settings) {
     show("setup");
