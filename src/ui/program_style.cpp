@@ -16,6 +16,7 @@ namespace {
 constexpr double kLeastContrast = 3;
 constexpr double kEdge = 1.2;
 constexpr double kRing = 1.6;
+constexpr double kInsideButton = 3; ///< of its edge, which is the default button's at all times
 
 QColor text_of(const QStyleOption& option) {
     return option.palette.color(QPalette::WindowText);
@@ -44,13 +45,13 @@ void draw_edge(const QStyleOption& option, QPainter& painter, bool round) {
     painter.restore();
 }
 
-void draw_ring(const QStyleOption& option, QPainter& painter) {
+void draw_ring(const QStyleOption& option, QPainter& painter, double inset = 0) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
     const QColor ring = option.palette.color(QPalette::Highlight);
     painter.setPen(QPen(standing_out(ring, ground_of(option), kLeastContrast), kRing));
-    painter.drawRoundedRect(inside(option, kRing), 2, 2);
+    painter.drawRoundedRect(inside(option, kRing + 2 * inset), 2, 2);
     painter.restore();
 }
 
@@ -78,6 +79,9 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawControl(element, option, painter, widget);
+    constexpr State kReached = State_HasFocus | State_KeyboardFocusChange;
+    if (element == CE_PushButton && (option->state & kReached) == kReached)
+        draw_ring(*option, *painter, kInsideButton);
     const QWidget* focus = QApplication::focusWidget();
     if (element == CE_ShapedFrame && widget != nullptr && widget->property(kFocusRing).toBool() &&
         focus != nullptr && (widget == focus || widget->isAncestorOf(focus)))

@@ -1,5 +1,7 @@
 #include "ui/text_picture.h"
 
+#include "ui/program_style.h"
+
 #include <QPainter>
 #include <QScrollBar>
 
@@ -15,6 +17,7 @@ constexpr int kStep = 20;
 TextPicture::TextPicture(QWidget* parent) : QAbstractScrollArea(parent) {
     viewport()->setBackgroundRole(QPalette::Base);
     viewport()->setAutoFillBackground(true);
+    setProperty(kFocusRing, true);
     for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()})
         bar->setSingleStep(kStep);
 }
