@@ -29,6 +29,7 @@ void choose_folder() {
     velmora::state::program.program_folder = velmora::runtime::path_text(folder.path);
     for (const auto& file : folder.kept_aside)
         velmora::state::program.kept_aside.push_back(velmora::runtime::path_text(file));
+    velmora::state::program.folder_stands_in = folder.stands_in;
 }
 
 /// Once the main window is there and nothing asks or runs any more, as the first thing that its

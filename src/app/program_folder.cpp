@@ -48,7 +48,7 @@ std::optional<ProgramFolder> filled(const fs::path& folder, const std::vector<fs
     fs::create_directories(folder, ignored);
     if (!QFileInfo(qt_path(folder)).isWritable())
         return std::nullopt;
-    ProgramFolder result{folder, bring_data_files(sources, folder)};
+    ProgramFolder result{folder, bring_data_files(sources, folder), false};
     const bool expected = has_database(sources[0]) || has_database(sources[1]);
     return is_portable(folder) || !expected ? std::optional(result) : std::nullopt;
 }
@@ -71,7 +71,7 @@ std::vector<fs::path> stand_ins() {
 
 ProgramFolder choose_program_folder(const ProgramPlaces& places) {
     if (is_portable(places.executable))
-        return {places.executable, {}};
+        return {places.executable, {}, false};
     const std::vector<fs::path> sources{places.installed, places.executable};
     if (const auto folder = filled(places.user_data, sources))
         return *folder;
@@ -80,10 +80,12 @@ ProgramFolder choose_program_folder(const ProgramPlaces& places) {
         fs::create_directories(stand_in, ignored);
         if (!is_own(stand_in))
             continue;
-        if (const auto folder = filled(stand_in, sources))
+        if (auto folder = filled(stand_in, sources)) {
+            folder->stands_in = true;
             return *folder;
+        }
     }
-    return {readable(places), {}};
+    return {readable(places), {}, true};
 }
 
 ProgramFolder find_program_folder() {

@@ -18,6 +18,7 @@ struct ProgramPlaces {
 struct ProgramFolder {
     std::filesystem::path path;
     std::vector<std::filesystem::path> kept_aside; ///< what gave way to the program's newer files
+    bool stands_in = false; ///< for the user's data folder, which could not be written
 };
 
 /// The executable's folder when the language database lies there and can be written, else the

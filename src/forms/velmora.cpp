@@ -77,6 +77,13 @@ void tell_of_data_files() {
     state::program.kept_aside.clear();
 }
 
+/// What the program lays there may be gone at the next start.
+void tell_of_stand_in() {
+    if (state::program.folder_stands_in)
+        state::Velmora.lbl_notice =
+            quiet_text(message::folder_stands_in) + " " + state::program.program_folder;
+}
+
 void end_with_everything_closed() {
     Forma.Pto.redim(0);
     platform().windows.unload("wininfo");
@@ -107,6 +114,7 @@ void Velmora_Activate() {
     platform().windows.show("wininfo");
     platform().windows.show("winoptions");
     tell_of_data_files();
+    tell_of_stand_in();
     platform().windows.set_focus("Velmora", "pic");
 }
 

@@ -104,6 +104,7 @@ inline constexpr int canvas_ends = 122;
 inline constexpr int save_view_title = 123;
 inline constexpr int view_saved = 124;
 inline constexpr int view_not_saved = 125;
+inline constexpr int folder_stands_in = 126;
 inline constexpr int open_filter = 132;
 inline constexpr int picture_filter = 144;
 

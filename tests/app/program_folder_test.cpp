@@ -66,7 +66,11 @@ class ProgramFolderTest : public testing::Test {
     std::string users_message() const { return message_in(places.user_data / "VELMORA.MDB"); }
     /// The program starts: fills the user's folder from the installed files.
     ProgramFolder start() const { return choose_program_folder(places); }
-    void start_in_users_folder() const { ASSERT_EQ(start().path, places.user_data); }
+    void start_in_users_folder() const {
+        const ProgramFolder folder = start();
+        ASSERT_EQ(folder.path, places.user_data);
+        EXPECT_FALSE(folder.stands_in);
+    }
 
     test::TemporaryFolder folder_;
     fs::path root = folder_.path();
@@ -210,6 +214,7 @@ TEST_F(ProgramFolderTest, without_a_users_folder_the_next_place_serves) {
     put_database(places.installed);
     write(root / "data", "in the way");
     EXPECT_EQ(start().path, places.stand_ins[0]);
+    EXPECT_TRUE(start().stands_in);
     EXPECT_EQ(message_in(places.stand_ins[0] / "VELMORA.MDB"), message_in(test::built_database()));
 }
 
@@ -235,6 +240,7 @@ TEST_F(ProgramFolderTest, the_installed_database_is_read_where_nothing_can_be_wr
     for (const char* name : {"data", "run", "tmp"})
         write(root / name, "in the way");
     EXPECT_EQ(start().path, places.installed);
+    EXPECT_TRUE(start().stands_in);
 }
 
 #ifdef __linux__

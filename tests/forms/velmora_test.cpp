@@ -105,6 +105,17 @@ TEST_F(StartTest, what_gave_way_to_a_newer_file_is_told) {
               "ha guardado con otro nombre:\n\n/home/ana/VELMORA-1.MDB");
 }
 
+TEST_F(StartTest, a_folder_that_stands_in_for_the_users_is_told_in_passing) {
+    intro_Load();
+    Velmora_Load();
+    session.program_folder = "/tmp/Velmora";
+    session.folder_stands_in = true;
+    Velmora_Activate();
+    EXPECT_EQ(session.Velmora.lbl_notice,
+              "No se puede escribir en la carpeta de datos; hace sus veces: /tmp/Velmora");
+    EXPECT_EQ(machine.dialogs.boxes.size(), 1U) << "the box that no CAD is there, as ever";
+}
+
 // Running and leaving.
 
 struct ApplicationTest : testing::Test {

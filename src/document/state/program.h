@@ -16,7 +16,8 @@ struct ProgramState {
     std::int16_t Sound = 1;
     std::string Idioma = "E";
     char SepDecimal = '.';
-    std::string program_folder; ///< where the program's own writable files are
+    std::string program_folder;    ///< where the program's own writable files stand
+    bool folder_stands_in = false; ///< the user's data folder can't be written; that one serves
     bool language_database_open = false;
     std::string language_database_fault; ///< why it could not be opened; empty otherwise
     std::vector<std::string> kept_aside; ///< the user's files that gave way to newer ones, by path
