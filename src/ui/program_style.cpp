@@ -16,7 +16,7 @@ namespace {
 constexpr double kLeastContrast = 3;
 constexpr double kEdge = 1.2;
 constexpr double kRing = 1.6;
-constexpr double kInsideButton = 3; ///< of its edge, which is the default button's at all times
+constexpr double kInsideButton = 3; ///< from its edge
 
 QColor text_of(const QStyleOption& option) {
     return option.palette.color(QPalette::WindowText);
@@ -55,6 +55,14 @@ void draw_ring(const QStyleOption& option, QPainter& painter, double inset = 0) 
     painter.restore();
 }
 
+/// Its edge is the same without the focus.
+bool is_default_and_reached(const QStyleOption& option) {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    constexpr QStyle::State kReached = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    return button != nullptr && (button->state & kReached) == kReached &&
+           (button->features & QStyleOptionButton::DefaultButton) != 0;
+}
+
 } // namespace
 
 ProgramStyle::ProgramStyle(const QString& name)
@@ -79,8 +87,7 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawControl(element, option, painter, widget);
-    constexpr State kReached = State_HasFocus | State_KeyboardFocusChange;
-    if (element == CE_PushButton && (option->state & kReached) == kReached)
+    if (element == CE_PushButton && is_default_and_reached(*option))
         draw_ring(*option, *painter, kInsideButton);
     const QWidget* focus = QApplication::focusWidget();
     if (element == CE_ShapedFrame && widget != nullptr && widget->property(kFocusRing).toBool() &&
