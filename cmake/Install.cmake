@@ -25,6 +25,21 @@ endforeach()
 install(FILES packaging/desktop/org.velmora.Velmora.desktop
   DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
 install(FILES packaging/desktop/velmora.xml DESTINATION "${CMAKE_INSTALL_DATADIR}/mime/packages")
+# A catalogue of programs fetches its pictures, so they are named where they are published.
+set(VELMORA_PICTURES_URL "" CACHE STRING "Where the folder docs is published, for the pictures of catalogues")
+set(VELMORA_SCREENSHOTS "")
+if(VELMORA_PICTURES_URL)
+  set(VELMORA_SCREENSHOTS "  <screenshots>
+    <screenshot type=\"default\">
+      <caption>A wing section with its points</caption>
+      <image>${VELMORA_PICTURES_URL}/pictures/main-window.png</image>
+    </screenshot>
+    <screenshot>
+      <caption>The two sides of a tapered cut</caption>
+      <image>${VELMORA_PICTURES_URL}/walkthrough/13-adjusted.png</image>
+    </screenshot>
+  </screenshots>")
+endif()
 configure_file(packaging/desktop/org.velmora.Velmora.metainfo.xml.in
   org.velmora.Velmora.metainfo.xml @ONLY)
 install(FILES "${CMAKE_BINARY_DIR}/org.velmora.Velmora.metainfo.xml"
