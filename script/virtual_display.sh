@@ -64,9 +64,24 @@ picture() {
     import -window root "$1"
 }
 
+# The caret of a text box blinks, half a second each way: of several looks the darkest has it.
+picture_with_caret() {
+    local look light darkest=
+    for _ in 1 2 3 4 5; do
+        look=$display_folder/look.png
+        picture "$look"
+        light=$(convert "$look" -colorspace gray -format '%[fx:mean*w*h]' info:)
+        if [ -z "$darkest" ] || awk "BEGIN { exit !($light < $darkest) }"; then
+            darkest=$light
+            mv "$look" "$1"
+        fi
+        sleep 0.1
+    done
+}
+
 # A part of the screen in few colours, so that the file is small.
 small_picture() {
-    picture "$display_folder/screen.png"
+    picture_with_caret "$display_folder/screen.png"
     convert "$display_folder/screen.png" -crop "$2" +repage +dither -colors 48 -strip "PNG8:$1"
 }
 

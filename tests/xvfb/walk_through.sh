@@ -11,15 +11,9 @@ pictures=$3
 
 . "$(dirname "$0")/../../script/virtual_display.sh"
 . "$(dirname "$0")/sync_file.sh"
+. "$(dirname "$0")/road.sh"
 mkdir -p "$files" "$pictures"
 rm -f "$files"/letra_*.dat "$files"/letra_*.DAT "$pictures"/{[0-9][0-9]-*,failed}.png
-
-# The pictures of a side stand where `album` says.
-album=$pictures
-shot() { small_picture "$album/$1.png" "$(frame_place)"; }
-wide_shot() { small_picture "$album/$1.png" "$main_place"; }
-key() { xdotool key "$@"; }
-main_window="Velmora 1.0 (*"
 
 # The fonts of the package that the build installs, upright, so that every machine shows the same
 # list: DejaVu Sans is its first, Bold the first of its styles.
@@ -43,40 +37,6 @@ few_fonts() {
   </selectfont>
 </fontconfig>
 XML
-}
-
-configuration() { choose 1 "$1"; }
-functions() { choose 2 "$1"; }
-tools() { choose 3 "$1"; }
-
-# The zoom that every shape is opened with.
-set_zoom() {
-    configuration 1
-    await "Parámetros Generales"
-    key Tab Tab Tab
-    fill "$1"
-    shot 01-parameters
-    key alt+a
-    # There is no shape yet, says a box.
-    await "Velmora"
-    answer Return
-    await "$main_window"
-}
-
-unrolled() { (($(xwininfo -id "$1" | awk '/Height:/ {print $2}') > 100)); }
-# Points on a straight line stay, since the workbench needs them. A click into the main window rolls
-# the options up.
-keep_all_points() {
-    local options
-    choose 5 2
-    options=$(xdotool search --onlyvisible --name "^Opciones Generales$")
-    until_done unrolled "$options" || fail "the options stay rolled up"
-    changes xdotool mousemove --window "$options" 96 21 click 1
-    await "Opciones Generales"
-    changes key alt+o
-    shot 02-options
-    xdotool mousemove 180 500 click 1
-    await "$main_window"
 }
 
 choose_font() {
@@ -172,53 +132,12 @@ make_side() {
     start_above
     mark_corners
     save_shape_as "$files/$1.dat" "$6"
-    wide_shot 09-saved
+    box_shot 09-saved
     answer Return
     await "$main_window"
     check_side "$files/$1.dat" "$6" "$4"
 }
 
-workbench="Ajuste de ficheros*"
-# The window says each time that it comes that it is new.
-await_workbench() {
-    await "Velmora"
-    answer Return
-    await "$workbench"
-}
-load_side() {
-    await "Seleccione Fichero a Abrir"
-    fill "$files/$1.dat"
-    key Return
-    await "$workbench"
-}
-load_sides() {
-    key space
-    load_side letra_a
-    press 4
-    load_side letra_b
-    shot 11-sides
-}
-set_distances() {
-    press 4
-    await "Opciones del Ajuste"
-    xdotool type 1.5
-    key Tab
-    xdotool type 1.5
-    key Tab
-    xdotool type 5
-    shot 12-distances
-    key alt+a
-    await_workbench
-}
-adjust_and_save() {
-    changes press 1
-    shot 13-adjusted
-    press 8
-    until_done test -s "$files/letra_b2.DAT" || fail "no second result was written"
-    key alt+s
-    await "$main_window"
-    check_results "$files/letra_a" "$files/letra_b"
-}
 open_again() {
     open_shape "$files/$1" "Velmora 1.0"
     shot 14-question
@@ -234,8 +153,8 @@ few_fonts
 start_display 1280x900
 start_program "$program" "$files"
 main_place=$(frame_place)
-set_zoom 500
-keep_all_points
+set_zoom 500 01-parameters
+keep_all_points 02-options
 make_side letra_a 130 8 0.64 0.8 "Letra C, lado A"
 album=$display_folder
 make_side letra_b 130 6 0.56 0.7 "Letra C, lado B"
@@ -243,9 +162,11 @@ album=$pictures
 wide_shot 10-second-side
 tools 2
 await_workbench
-load_sides
-set_distances
-adjust_and_save
+load_sides letra_a letra_b 11-sides
+set_distances 1.5 1.5 5 12-distances
+adjust 13-adjusted
+save_results letra_b2.DAT
+check_results "$files/letra_a" "$files/letra_b"
 album=$display_folder
 open_again letra_b2.DAT
 album=$pictures
