@@ -189,7 +189,10 @@ install_program() {
     mkdir -p "$2"/{bin,share/velmora}
     cp "$1" "$2/bin/velmora"
     find "$from" -maxdepth 1 -type f ! -perm /111 -exec cp -t "$2/share/velmora" {} +
-    [ ! -d "$from/help" ] || cp -r "$from/help" "$2/share/velmora"
+    local folder
+    for folder in help machines; do
+        [ ! -d "$from/$folder" ] || cp -r "$from/$folder" "$2/share/velmora"
+    done
 }
 
 # Installs the program and starts it in a folder.

@@ -26,6 +26,7 @@ constexpr const char* kFiles[] = {kLanguageDatabase, "mdbwav0.wav",    "mdbwav1.
                                   "velmora.chm",     "velmora_en.chm", "velmora_fr.chm",
                                   "velmora_pt.chm",  "velmora_it.chm"};
 constexpr const char* kHelpPages = "help";
+constexpr const char* kMachines = "machines";
 constexpr const char* kRecord = "installed.txt";
 const QByteArray kDamaged = "damaged";
 
@@ -135,8 +136,9 @@ class Bringing {
     std::vector<fs::path> run() {
         for (const char* name : kFiles)
             bring(name);
-        for (const fs::path& name : help_pages())
-            bring(name);
+        for (const char* folder : {kHelpPages, kMachines})
+            for (const fs::path& name : files_below(folder))
+                bring(name);
         record_.save();
         return kept_aside_;
     }
@@ -150,15 +152,15 @@ class Bringing {
         return found == sources_.end() ? fs::path() : *found / name;
     }
 
-    [[nodiscard]] std::set<fs::path> help_pages() const {
-        std::set<fs::path> pages;
+    [[nodiscard]] std::set<fs::path> files_below(const char* folder) const {
+        std::set<fs::path> files;
         std::error_code failure;
         for (const fs::path& source : sources_)
-            for (fs::recursive_directory_iterator entry(source / kHelpPages, failure), end;
+            for (fs::recursive_directory_iterator entry(source / folder, failure), end;
                  entry != end; entry.increment(failure))
                 if (entry->is_regular_file(failure))
-                    pages.insert(entry->path().lexically_relative(source));
-        return pages;
+                    files.insert(entry->path().lexically_relative(source));
+        return files;
     }
 
     void bring(const fs::path& name) {

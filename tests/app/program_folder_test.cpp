@@ -207,6 +207,21 @@ TEST_F(ProgramFolderTest, a_users_own_template_and_sound_stay) {
     EXPECT_EQ(read(places.user_data / "mdbwav7.wav"), "the user's");
 }
 
+TEST_F(ProgramFolderTest, machines_come_and_the_users_own_stay) {
+    write(places.installed / "machines" / "xyuv.machine", "shipped");
+    write(places.installed / "machines" / "xyza.machine", "shipped");
+    start_in_users_folder();
+    EXPECT_EQ(read(places.user_data / "machines" / "xyuv.machine"), "shipped");
+    write(places.user_data / "machines" / "mine.machine", "the user's");
+    write(places.user_data / "machines" / "xyza.machine", "the user's");
+    write(places.installed / "machines" / "xyuv.machine", "newer");
+    write(places.installed / "machines" / "xyza.machine", "newer");
+    start_in_users_folder();
+    EXPECT_EQ(read(places.user_data / "machines" / "xyuv.machine"), "newer");
+    EXPECT_EQ(read(places.user_data / "machines" / "xyza.machine"), "the user's");
+    EXPECT_EQ(read(places.user_data / "machines" / "mine.machine"), "the user's");
+}
+
 // A file in the way of a folder stands for every place that can't be written; permissions mean
 // nothing to root.
 
