@@ -37,6 +37,7 @@ class BlankSurface : public Surface {
     void Line(float, float, float, float) override {}
     void FillBox(float, float, float, float, std::uint32_t) override {}
     void set_picture(std::string_view) override {}
+    void save_part(std::string_view, PixelPoint, PixelPoint) override {}
     void present() override {}
 };
 
