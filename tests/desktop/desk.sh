@@ -47,7 +47,9 @@ start_until() {
     (cd "$work" && exec "$VELMORA") 2>"$display_folder/program.log" &
     running=$!
     display_processes+=("$running")
-    until_done arrived_at "$1" || fail "no window '$1', but '$(active_title)'"
+    # Five windows one after the other, on a machine that may have other work.
+    until_done arrived_at "$1" || until_done arrived_at "$1" ||
+        fail "no window '$1', but '$(active_title)'"
 }
 arrived_at() {
     ! is_active "$message" || answer Return
