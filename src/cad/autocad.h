@@ -14,6 +14,8 @@ namespace velmora {
 namespace error {
 /// A CAD that runs but rejects calls: it has a question of its own open, or is at work.
 inline constexpr int cad_busy = static_cast<int>(0x80010001U);
+/// A CAD that won't have its drawing captured; the description tells its user why.
+inline constexpr int drawing_refused = static_cast<int>(0x80040200U);
 } // namespace error
 
 /// One entity of a model space. Coordinates are drawing units, angles radians.
@@ -48,6 +50,8 @@ class AcadDocument {
     AddLightWeightPolyline(std::span<const double> coordinates) = 0;
     // Utility
     virtual std::vector<double> GetPoint(std::string_view prompt) = 0;
+    /// What the user should know of the drawing as it was read. Not every CAD has something to say.
+    [[nodiscard]] virtual std::string Remarks() { return {}; }
 };
 
 class AcadApplication {

@@ -106,6 +106,7 @@ inline constexpr int view_saved = 124;
 inline constexpr int view_not_saved = 125;
 inline constexpr int folder_stands_in = 126;
 inline constexpr int open_filter = 132;
+inline constexpr int drawing_refused = 135;
 inline constexpr int picture_filter = 144;
 
 } // namespace velmora::message

@@ -112,6 +112,38 @@ TEST(BusCapture, gives_what_a_capture_in_the_same_process_gives) {
     EXPECT_GT(outcome.points.size(), 50U);
 }
 
+TEST_F(BusCaptureTest, a_refusal_is_told_and_asks_nothing_of_the_old_shape) {
+    open_drawing({"line 0 0 10 0"});
+    const test::Points before{{.X = 1}, {.X = 2}};
+    test::set_shape(before);
+    session.FileName = "ala.dat";
+    session.RedimCapture = True;
+    remote->say("stray-error EntityCount org.velmora.Cad1.Error.E80040200 Pad holds no lines.");
+    mnu_capture();
+    EXPECT_THAT(shown_texts(),
+                ElementsAre("El dibujo no se ha capturado. El CAD dice:\n\nPad holds no lines."));
+    EXPECT_EQ(session.Velmora.StatusBar1,
+              "El dibujo no se ha capturado. El CAD dice: Pad holds no lines.");
+    EXPECT_EQ(test::shape(), before);
+    EXPECT_EQ(session.FileName, "ala.dat");
+    machine.dialogs.boxes.clear();
+    mnu_capture();
+    EXPECT_EQ(session.TotalObjs, 1);
+}
+
+TEST_F(BusCaptureTest, what_the_cad_remarks_stands_beside_the_status) {
+    open_drawing({"line 0 0 10 0", "line 10 0 10 10"});
+    session.RedimCapture = False;
+    remote->say("answer Remarks Ala.dwg");
+    mnu_capture();
+    EXPECT_EQ(session.Velmora.lbl_notice, "Ala.dwg");
+    EXPECT_THAT(machine.windows.statuses, testing::Contains("Objetos Cargados!"));
+    remote->say("unknown Remarks");
+    mnu_capture();
+    EXPECT_EQ(session.Velmora.lbl_notice, "");
+    EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
+}
+
 TEST_F(BusCaptureTest, small_blocks_make_the_same_drawing) {
     open_drawing({"line 0 0 10 0", "line 10 10 10 0", "line 10 10 0 10", "line 0 10 0 0"});
     remote->say("block 1");

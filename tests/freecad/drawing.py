@@ -23,6 +23,7 @@ def plate():
     Draft.make_line(V(10.5, 10.5), V(50.5, 10.5))
     backwards = document.addObject("Part::Line", "Backwards")
     backwards.X1, backwards.Y1, backwards.X2, backwards.Y2 = 50.5, 30.5, 50.5, 10.5
+    backwards.Z2 = 0
     sketch = document.addObject("Sketcher::SketchObject", "Sketch")
     circle = Part.Circle(V(45.5, 30.5), V(0, 0, 1), 5)
     sketch.addGeometry(Part.ArcOfCircle(circle, 0, math.pi / 2), False)
@@ -44,6 +45,14 @@ def plate():
     Draft.make_text(["no outline"], V(20, 20))
     document.recompute()
     return document.Name
+
+
+def curve_points():
+    """The spline of the plate, as the add-on follows it."""
+    from velmora_cad.curves import points_along, without_crossing
+
+    curve = FreeCAD.ActiveDocument.Curve.Shape
+    return [number for point in without_crossing(points_along(curve)) for number in point[:2]]
 
 
 def sketch(*geometry, at=V(0, 0)):

@@ -1,5 +1,6 @@
 // What each kind of FreeCAD's objects is in the model space.
 #include "free_cad_session.h"
+#include "support/error_number.h"
 
 #include <gmock/gmock.h>
 #include <sstream>
@@ -8,6 +9,8 @@ namespace velmora {
 namespace {
 
 using Lines = std::vector<std::string>;
+
+constexpr auto kRefused = "refused";
 
 std::string text_of(const std::vector<double>& numbers) {
     std::ostringstream text;
@@ -50,7 +53,10 @@ TEST_P(FreeCadKindTest, is_an_entity_of_its_class) {
     open(QString("drawn(%1)").arg(GetParam().made));
     AcadDocument& drawing = *acad().AcadDoc;
     Lines entities;
-    for (std::int32_t i = 0; i < drawing.Count(); ++i) {
+    std::int32_t count = 0;
+    if (test::number_of([&] { count = drawing.Count(); }) == error::drawing_refused)
+        entities.emplace_back(kRefused);
+    for (std::int32_t i = 0; i < count; ++i) {
         const auto entity = drawing.Item(i);
         entities.push_back(text_of(*entity));
         // Whatever it is, it can be painted.
@@ -62,7 +68,8 @@ TEST_P(FreeCadKindTest, is_an_entity_of_its_class) {
 INSTANTIATE_TEST_SUITE_P(
     Kinds, FreeCadKindTest,
     testing::Values(
-        KindCase{"line_in_space", "Draft.make_line(V(0, 0, 5), V(1, 2, 7))", {"AcDbLine 0 0 1 2"}},
+        KindCase{
+            "line_in_space", "Draft.make_line(V(0, 0, 5), V(1, 2, 7))", {"AcDbLine 0 5 2.2361 7"}},
         KindCase{"point", "Draft.make_point(1, 2, 3)", {"AcDbPoint 1 2"}},
         KindCase{"filled_rectangle",
                  "Draft.make_rectangle(4, 3, turned(1, 1, V(0, 0, 1), 90))",
@@ -85,14 +92,10 @@ INSTANTIATE_TEST_SUITE_P(
                  {"AcDbArc 0 0 2 0.5236 1.5708"}},
         KindCase{"tilted_circle",
                  "Draft.make_circle(3, turned(0, 0, V(1, 0, 0), 30), face=False)",
-                 {"FreeCAD.Part.GeomCircle"}},
-        KindCase{"ellipse", "Draft.make_ellipse(3, 2)", {"AcDbEllipse"}},
-        KindCase{"spline",
-                 "Draft.make_bspline([V(0, 0), V(1, 1), V(2, 0)])",
-                 {"AcDbSpline 0 0 1 2 2 0"}},
-        KindCase{"bezier_curve",
-                 "Draft.make_bezcurve([V(0, 0), V(1, 1), V(2, 0), V(3, 1)])",
-                 {"AcDbSpline 0 0 1 1 2 0 3 1"}},
+                 {"AcDbCircle 0 0 3"}},
+        KindCase{"spline_without_a_bend",
+                 "Draft.make_bezcurve([V(0, 0), V(1, 0), V(2, 0)])",
+                 {"AcDbPolyline open 0 0 1 0 2 0"}},
         KindCase{"wire_of_line_and_arc",
                  "feature(Part.Wire([Part.makeLine(V(2, 0), V(0, 0)),"
                  "                   Part.makeCircle(1, V(1, 0), V(0, 0, 1), 0, 180)]))",
@@ -105,13 +108,14 @@ INSTANTIATE_TEST_SUITE_P(
                  "feature(Part.Compound([Part.makeLine(V(0, 0), V(1, 0)), Part.Vertex(1, 2, 0),"
                  "                       Part.makePolygon([V(0, 0), V(1, 0), V(1, 1)])]))",
                  {"AcDbLine 0 0 1 0", "AcDbPoint 1 2", "AcDbPolyline open 0 0 1 0 1 1"}},
-        KindCase{"solid", "feature(Part.makeBox(1, 1, 1))", {"FreeCAD.Part.Feature"}},
-        KindCase{"text", "Draft.make_text(['a'], V(0, 0))", {"FreeCAD.App.FeaturePython"}},
+        KindCase{"solid", "feature(Part.makeBox(1, 1, 1))", {kRefused}},
+        KindCase{"text", "Draft.make_text(['a'], V(0, 0))", {kRefused}},
         KindCase{"in_a_part",
                  "in_part(Draft.make_line(V(0, 0), V(1, 0)), at=V(100, 5))",
                  {"AcDbLine 100 5 101 5"}},
-        KindCase{
-            "in_a_hidden_part", "in_part(Draft.make_line(V(0, 0), V(1, 0)), visible=False)", {}},
+        KindCase{"in_a_hidden_part",
+                 "in_part(Draft.make_line(V(0, 0), V(1, 0)), visible=False)",
+                 {kRefused}},
         KindCase{"in_a_group", "in_group(Draft.make_line(V(0, 0), V(1, 0)))", {"AcDbLine 0 0 1 0"}},
         KindCase{
             "link",

@@ -27,6 +27,7 @@ FreeCad::FreeCad() {
     process_.setProcessChannelMode(QProcess::MergedChannels);
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert("HOME", home_.path());
+    environment.insert("LC_ALL", "C.UTF-8");
     environment.insert("VELMORA_SERVE", VELMORA_FREECAD_SERVE);
     for (const char* folder : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
         environment.remove(folder);

@@ -37,6 +37,14 @@ struct FreeCadTest : test::FreeCadSession {
     }
 };
 
+Places curve_of_plate() {
+    const QJsonArray numbers = FreeCadTest::look("curve_points()").toArray();
+    Places points;
+    for (qsizetype i = 0; i < numbers.size(); i += 2)
+        points.emplace_back(numbers[i].toDouble(), numbers[i + 1].toDouble());
+    return points;
+}
+
 void expect_outline(const Places& expected) {
     const test::Points shape = test::shape();
     ASSERT_EQ(shape.size(), expected.size());
@@ -58,7 +66,7 @@ TEST_F(FreeCadTest, its_drawing_is_captured_and_the_stray_turns_yellow) {
     open("plate()");
     EXPECT_THAT(labels("painted()"), IsEmpty());
     mnu_capture();
-    expect_outline(test::plate_outline());
+    expect_outline(test::plate_outline(curve_of_plate()));
     EXPECT_THAT(labels("painted()"), ElementsAre("Stray"));
     ASSERT_THAT(machine.dialogs.boxes, SizeIs(1));
     EXPECT_EQ(machine.dialogs.boxes[0].buttons, 16);
@@ -69,8 +77,8 @@ TEST_F(FreeCadTest, its_drawing_is_captured_and_the_stray_turns_yellow) {
     EXPECT_EQ(session.NLines, 5);
     EXPECT_EQ(session.NArcs, 1);
     EXPECT_EQ(session.NCircles, 1);
-    EXPECT_EQ(session.NLWPolylines, 1);
-    EXPECT_EQ(session.NSplines, 1);
+    EXPECT_EQ(session.NLWPolylines, 2);
+    EXPECT_EQ(session.NSplines, 0);
 }
 
 TEST_F(FreeCadTest, the_origin_is_picked_in_its_terminal) {
@@ -81,8 +89,39 @@ TEST_F(FreeCadTest, the_origin_is_picked_in_its_terminal) {
                 HasSubstr("Selecciona el punto inicial de la linea de corte."));
     EXPECT_EQ(session.CadOrigX, 50.75);
     EXPECT_EQ(session.CadOrigY, 30.25);
-    expect_outline(test::plate_outline_from_corner());
+    expect_outline(test::plate_outline_from_corner(curve_of_plate()));
     EXPECT_THAT(labels("painted()"), testing::UnorderedElementsAre("Hole", "Last"));
+}
+
+TEST_F(FreeCadTest, a_closed_wire_begins_where_the_user_picked) {
+    look("FreeCAD.newDocument('alambre').Name");
+    open("drawn(Draft.make_wire([V(0.5, 0.5), V(30.5, 0.5), V(30.5, 20.5), V(12.5, 9)], "
+         "closed=True, face=False))");
+    started->type_when_asked("30.5,20.5\n");
+    menu_select_orig();
+    expect_outline({{30.5, 20.5}, {12.5, 9}, {0.5, 0.5}, {30.5, 0.5}});
+    mnu_capture();
+    expect_outline({{0.5, 0.5}, {30.5, 0.5}, {30.5, 20.5}, {12.5, 9}});
+    EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
+}
+
+TEST_F(FreeCadTest, the_captured_document_is_named_with_what_was_passed_over) {
+    open("plate()");
+    mnu_capture();
+    EXPECT_EQ(session.Velmora.lbl_notice, "pieza, in mm; 1 text passed over: Text");
+}
+
+TEST_F(FreeCadTest, solids_alone_are_refused_and_the_old_shape_stays) {
+    look("FreeCAD.newDocument('solido').Name");
+    open("drawn(feature(Part.makeBox(1, 1, 1)))");
+    const test::Points before{{.X = 1}, {.X = 2}};
+    test::set_shape(before);
+    session.RedimCapture = True;
+    mnu_capture();
+    ASSERT_THAT(shown_texts(), SizeIs(1));
+    EXPECT_THAT(shown_texts()[0],
+                HasSubstr("holds no lines to capture. 1 solid passed over: Feature"));
+    EXPECT_EQ(test::shape(), before);
 }
 
 TEST_F(FreeCadTest, an_empty_line_gives_the_pick_up) {
@@ -169,7 +208,7 @@ TEST_F(FreeCadTest, a_document_of_its_own_is_a_template_too) {
     test::set_shape({{.X = 1}, {.X = 2}, {.Y = 2}});
     SendToCad();
     EXPECT_THAT(machine.dialogs.boxes, IsEmpty());
-    EXPECT_EQ(acad().AcadDoc->Count(), 11);
+    EXPECT_EQ(acad().AcadDoc->Count(), 10);
 }
 
 TEST_F(FreeCadTest, without_its_template_no_drawing_is_made) {

@@ -1,5 +1,5 @@
-// The outlines of the plate of drawing.py, by the formulas of its curves. An arc has 7 steps, a
-// circle 12.
+// The outlines of the plate of drawing.py, with its spline as the add-on follows it. An arc has 7
+// steps, a circle 12.
 #pragma once
 
 #include <numbers>
@@ -15,8 +15,8 @@ inline constexpr double kTurn = 2 * std::numbers::pi;
 
 [[nodiscard]] Place on_circle(Place centre, double radius, double angle);
 /// From its first entity.
-[[nodiscard]] Places plate_outline();
+[[nodiscard]] Places plate_outline(const Places& curve);
 /// From the corner at the start of the arc, the other way round.
-[[nodiscard]] Places plate_outline_from_corner();
+[[nodiscard]] Places plate_outline_from_corner(const Places& curve);
 
 } // namespace velmora::test

@@ -51,12 +51,26 @@ class Application:
         FreeCAD.setActiveDocument(_document(document).Name)
 
     def EntityCount(self, document):
-        return len(self._model_spaces.of(_document(document)))
+        return len(self._model_spaces.begin(_document(document)).entities)
 
     def ReadEntities(self, document, first, count):
         if first < 0 or count < 0:
             raise Fault(INVALID_CALL, "positions are counted from 0")
-        return self._model_spaces.of(_document(document))[first : first + count]
+        entities = self._model_spaces.of(_document(document)).entities
+        return entities[first : first + count]
+
+    def Remarks(self, document):
+        remarks = self._model_spaces.of(_document(document)).remarks
+        FreeCAD.Console.PrintMessage(f"Velmora: {remarks}\n")
+        return remarks
+
+    def take_point(self, document, point):
+        """Where in the drawing a picked point of the space is; the next reading begins there."""
+        return self._model_spaces.take_point(_document(document), point)
+
+    def take_place(self, document, place):
+        """The same of a place that is told in the drawing."""
+        return self._model_spaces.take_place(_document(document), place)
 
     def SetColor(self, document, handle, color):
         obj, edges = _entity(_document(document), handle)

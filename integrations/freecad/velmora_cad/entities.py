@@ -1,9 +1,11 @@
-"""The objects of a document as entities of a flat drawing: class name, numbers, X and Y alone."""
+"""The objects of a document as entities of a flat drawing: class name and numbers in its plane."""
 import math
 from typing import NamedTuple
 
+from .curves import points_along, without_crossing
+
 FULL_TURN = 2 * math.pi
-UPRIGHT = 1 - 1e-9
+_STRAIGHT = ("Part::GeomLine", "Part::GeomLineSegment")
 
 
 class Entity(NamedTuple):
@@ -13,54 +15,14 @@ class Entity(NamedTuple):
     numbers: list
 
 
-def entities_of(obj):
-    """The entities of one object, none for what only holds others or can't be seen."""
-    if not _is_seen(obj) or _is_holder(obj):
-        return []
-    shape = _placed_shape(obj)
-    if shape is None:
-        return [_other(obj)]
+def entities_of(obj, shape, plane):
     only_edge = _only_edge(shape)
     if only_edge is not None:
-        return [_edge(obj.Name, only_edge)]
-    if _is_spatial(shape):
-        return [_other(obj)]
-    found = _parts(obj, shape)
+        return [_edge(obj.Name, only_edge, plane)]
+    found = _parts(obj, shape, plane)
     if len(found) == 1:
         found[0] = found[0]._replace(handle=obj.Name)
     return found
-
-
-def _parts(obj, shape):
-    names = _EdgeNames(obj.Name, shape)
-    if obj.isDerivedFrom("Sketcher::SketchObject"):
-        return [_edge(names.handle([edge]), edge) for edge in shape.Edges]
-    return [entity for piece in _pieces(shape) for entity in _piece(piece, names)]
-
-
-def _is_seen(obj):
-    while obj is not None and obj.Visibility:
-        obj = obj.getParentGeoFeatureGroup()
-    return obj is None
-
-
-def _is_holder(obj):
-    return (
-        obj.hasExtension("App::GroupExtension")
-        or obj.isDerivedFrom("App::OriginFeature")
-        or obj.isDerivedFrom("App::Origin")
-        or getattr(getattr(obj, "Proxy", None), "Type", None) in ("Layer", "LayerContainer")
-    )
-
-
-def _placed_shape(obj):
-    shape = getattr(obj, "Shape", None)
-    if shape is None or not hasattr(shape, "isNull") or shape.isNull():
-        return None
-    if obj.getParentGeoFeatureGroup() is not None:
-        shape = shape.copy()
-        shape.Placement = obj.getGlobalPlacement()
-    return shape
 
 
 def _only_edge(shape):
@@ -72,22 +34,11 @@ def _only_edge(shape):
     return None
 
 
-def _is_spatial(shape):
-    if shape.ShapeType in ("Wire", "Vertex"):
-        return False
-    return bool(shape.Shells) or any(not _lies_flat(face) for face in shape.Faces)
-
-
-def _lies_flat(face):
-    return face.Surface.TypeId == "Part::GeomPlane" and abs(face.Surface.Axis.z) >= UPRIGHT
-
-
-def _other(obj):
-    return Entity(obj.Name, _own_class(obj), False, [])
-
-
-def _own_class(thing):
-    return "FreeCAD." + thing.TypeId.replace("::", ".")
+def _parts(obj, shape, plane):
+    names = _EdgeNames(obj.Name, shape)
+    if obj.isDerivedFrom("Sketcher::SketchObject"):
+        return [_edge(names.handle([edge]), edge, plane) for edge in shape.Edges]
+    return [entity for piece in _pieces(shape) for entity in _piece(piece, names, plane)]
 
 
 class _EdgeNames:
@@ -117,64 +68,70 @@ def _pieces(shape):
         yield shape
 
 
-def _piece(piece, names):
+def _piece(piece, names, plane):
     if piece.ShapeType == "Vertex":
-        return [Entity(names.object_name, "AcDbPoint", False, [piece.X, piece.Y])]
+        return [Entity(names.object_name, "AcDbPoint", False, [*plane.place(piece.Point)])]
     if piece.ShapeType != "Edge" and len(piece.Edges) > 1:
-        return _wire(piece, names)
+        return _wire(piece, names, plane)
     edge = piece.Edges[0]
-    return [_edge(names.handle([edge]), edge)]
+    return [_edge(names.handle([edge]), edge, plane)]
 
 
-def _wire(wire, names):
+def _wire(wire, names, plane):
+    """Chained here as far as nothing in it is an arc, whose steps are Velmora's to choose."""
+    if any(edge.Curve.TypeId == "Part::GeomCircle" for edge in wire.Edges):
+        return [_edge(names.handle([edge]), edge, plane) for edge in wire.OrderedEdges]
     if all(_is_straight(edge.Curve) for edge in wire.Edges):
-        numbers = [number for v in wire.OrderedVertexes for number in (v.X, v.Y)]
-        return [Entity(names.handle(wire.Edges), "AcDbPolyline", wire.isClosed(), numbers)]
-    return [_edge(names.handle([edge]), edge) for edge in wire.OrderedEdges]
+        points = [vertex.Point for vertex in wire.OrderedVertexes]
+    else:
+        points = _points_round(wire)
+    return [_polyline(names.handle(wire.Edges), points, wire.isClosed(), plane)]
+
+
+def _points_round(wire):
+    points = [wire.OrderedVertexes[0].Point]
+    for edge in wire.OrderedEdges:
+        run = _ends(edge) if _is_straight(edge.Curve) else points_along(edge)
+        if run[-1].distanceToPoint(points[-1]) < run[0].distanceToPoint(points[-1]):
+            run.reverse()
+        points += run[1:]
+    points = without_crossing(points)
+    return points[:-1] if wire.isClosed() else points
+
+
+def _polyline(handle, points, closed, plane):
+    numbers = [number for point in points for number in plane.place(point)]
+    return Entity(handle, "AcDbPolyline", closed, numbers)
 
 
 def _is_straight(curve):
-    return curve.TypeId in ("Part::GeomLine", "Part::GeomLineSegment")
+    return curve.TypeId in _STRAIGHT
 
 
-def _edge(handle, edge):
-    class_name, numbers = _curve(edge, edge.Curve)
-    return Entity(handle, class_name, False, numbers)
+def _ends(edge):
+    return [edge.firstVertex(True).Point, edge.lastVertex(True).Point]
 
 
-def _curve(edge, curve):
-    if _is_straight(curve):
-        start, end = edge.firstVertex(True), edge.lastVertex(True)
-        return "AcDbLine", [start.X, start.Y, end.X, end.Y]
-    if curve.TypeId == "Part::GeomCircle" and abs(curve.Axis.z) >= UPRIGHT:
-        return _circle(edge)
-    if curve.TypeId in ("Part::GeomBSplineCurve", "Part::GeomBezierCurve"):
-        return "AcDbSpline", _control_points(edge)
-    if curve.TypeId == "Part::GeomEllipse":
-        return "AcDbEllipse", []
-    return _own_class(curve), []
+def _edge(handle, edge, plane):
+    if _is_straight(edge.Curve):
+        start, end = _ends(edge)
+        return Entity(handle, "AcDbLine", False, [*plane.place(start), *plane.place(end)])
+    if edge.Curve.TypeId == "Part::GeomCircle":
+        return Entity(handle, *_circle(edge, plane))
+    closed = edge.isClosed()
+    points = without_crossing(points_along(edge))
+    return _polyline(handle, points[:-1] if closed else points, closed, plane)
 
 
-def _circle(edge):
+def _circle(edge, plane):
     circle = edge.Curve
-    measures = [circle.Center.x, circle.Center.y, circle.Radius]
+    measures = [*plane.place(circle.Center), circle.Radius]
     first, last = edge.ParameterRange
     if edge.isClosed() or last - first >= FULL_TURN:
-        return "AcDbCircle", measures
-    # Counter-clockwise as seen from above, whichever side the circle was drawn from.
-    zero = math.atan2(circle.XAxis.y, circle.XAxis.x)
-    angles = (zero + first, zero + last) if circle.Axis.z > 0 else (zero - last, zero - first)
-    return "AcDbArc", measures + [angle % FULL_TURN for angle in angles]
-
-
-def _control_points(edge):
-    curve = edge.Curve.copy()
-    first, last = edge.ParameterRange
-    if curve.TypeId == "Part::GeomBSplineCurve" and curve.isPeriodic():
-        curve.setNotPeriodic()
-    if (first, last) != (curve.FirstParameter, curve.LastParameter):
-        curve.segment(first, last)
-    poles = curve.getPoles()
-    if edge.Orientation == "Reversed":
-        poles.reverse()
-    return [number for pole in poles for number in (pole.x, pole.y)]
+        return "AcDbCircle", False, measures
+    # Counter-clockwise as the plane is seen, whichever side the circle was drawn from.
+    across, up = plane.place(circle.XAxis)
+    zero = math.atan2(up, across)
+    seen_from_front = circle.Axis.dot(plane.normal) > 0
+    angles = (zero + first, zero + last) if seen_from_front else (zero - last, zero - first)
+    return "AcDbArc", False, measures + [angle % FULL_TURN for angle in angles]

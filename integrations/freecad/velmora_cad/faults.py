@@ -7,6 +7,7 @@ NO_SUCH_MEMBER = 438
 AUTOMATION_ERROR = 440
 GONE = 462
 CANCELLED = 0x80004004
+REFUSED = 0x80040200  # no drawing to capture; the text is for the user
 
 
 class Fault(Exception):

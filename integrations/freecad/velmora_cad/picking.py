@@ -5,7 +5,8 @@ from .faults import INVALID_CALL, Fault
 
 
 class Picks:
-    """One pick at a time. `done` gets (x, y) or a Fault, once."""
+    """One pick at a time. `done` gets a point of the space, a place (x, y) in the drawing or a
+    Fault, once."""
 
     def __init__(self):
         self._done = None

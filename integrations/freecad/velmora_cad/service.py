@@ -5,7 +5,7 @@ import FreeCAD
 from gi.repository import Gio, GLib
 
 from .application import Application, _document
-from .faults import AUTOMATION_ERROR, Fault
+from .faults import AUTOMATION_ERROR, REFUSED, Fault
 from .packing import entities_answer
 from .picking import Picks
 
@@ -59,6 +59,8 @@ class Service:
             value = work()
             answer = self._variant(invocation.get_method_name(), value)
         except Fault as fault:
+            if fault.number == REFUSED:
+                FreeCAD.Console.PrintWarning(f"Velmora: {fault}\n")
             invocation.return_dbus_error(fault.bus_name, str(fault))
         except Exception as failure:
             FreeCAD.Console.PrintError(f"Velmora: {failure}\n")
@@ -72,7 +74,7 @@ class Service:
 
         def done(answer):
             Gio.bus_unwatch_name(watch)
-            self._answer(invocation, lambda: _point(answer))
+            self._answer(invocation, lambda: self._picked(arguments[0], answer))
 
         def caller_gone(*_):
             Gio.bus_unwatch_name(watch)
@@ -87,6 +89,14 @@ class Service:
         except Fault as fault:
             done(fault)
 
+    def _picked(self, document, answer):
+        if isinstance(answer, Fault):
+            raise answer
+        take = self._application.take_place
+        if isinstance(answer, FreeCAD.Vector):
+            take = self._application.take_point
+        return list(take(document, answer))
+
     def _variant(self, method, value):
         if method == "ReadEntities":
             return entities_answer(value)
@@ -94,9 +104,3 @@ class Service:
         if not answers:
             return None
         return GLib.Variant(f"({answers[0].signature})", (value,))
-
-
-def _point(answer):
-    if isinstance(answer, Fault):
-        raise answer
-    return list(answer)

@@ -40,7 +40,7 @@ class ViewPick:
         if point is None:
             self._done(Fault(CANCELLED, "the point was not picked"))
         else:
-            self._done((point.x, point.y))
+            self._done(FreeCAD.Vector(point))
 
     def _look(self):
         """A document that closes, or another command, takes the question away without a word."""

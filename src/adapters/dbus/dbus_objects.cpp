@@ -45,6 +45,14 @@ std::vector<double> DbusDocument::GetPoint(std::string_view prompt) {
     return {point.cbegin(), point.cend()};
 }
 
+/// The capture stands, whatever becomes of a word on it: an older CAD knows none.
+std::string DbusDocument::Remarks() {
+    std::string remarks;
+    trap([&] { remarks = link_->ask("Remarks", "s", {document_}).toString().toStdString(); },
+         [](const RuntimeError&) {});
+    return remarks;
+}
+
 DbusApplication::DbusApplication(std::shared_ptr<const CadLink> link) : link_(std::move(link)) {}
 
 std::string DbusApplication::Name() {

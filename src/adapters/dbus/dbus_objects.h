@@ -17,6 +17,7 @@ class DbusDocument : public AcadDocument {
     std::unique_ptr<AcadEntity>
     AddLightWeightPolyline(std::span<const double> coordinates) override;
     std::vector<double> GetPoint(std::string_view prompt) override;
+    [[nodiscard]] std::string Remarks() override;
 
   private:
     std::shared_ptr<const CadLink> link_;
