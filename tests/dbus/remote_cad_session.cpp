@@ -11,6 +11,7 @@ RemoteCadSession::RemoteCadSession() {
 }
 
 void RemoteCadSession::start_cad(std::initializer_list<const char*> lines) {
+    remote.reset(); // one at a time owns the name
     remote = std::make_unique<RemoteCad>();
     remote->say("running AutoCAD 15.0");
     for (const char* line : lines)
