@@ -137,26 +137,65 @@ def save_copy(path):
     os.replace(path + ".FCStd", path)
 
 
-def show_all():
-    """The whole drawing in view, from above."""
+def closed_wire():
+    FreeCAD.newDocument("ala")
+    return drawn(Draft.make_wire(_CORNERS, closed=True, face=False))
+
+
+def upright_wire():
+    FreeCAD.newDocument("pie")
+    upright = [V(corner.x, 5, corner.y) for corner in _CORNERS]
+    return drawn(Draft.make_wire(upright, closed=True, face=False))
+
+
+_CORNERS = [V(0, 0), V(40, 0), V(7, 7), V(0, 30)]
+
+
+def begins(name):
+    """The first point of the first entity of the next reading."""
+    from velmora_cad import service
+
+    application = service._service._application
+    application.EntityCount(name)
+    return application.ReadEntities(name, 0, 1)[0].numbers[:2]
+
+
+def draft_state():
+    """What Draft shows: its snaps, its toolbar, its grid."""
+    import FreeCADGui
+    from PySide import QtGui
+
+    snapper = getattr(FreeCADGui, "Snapper", None)
+    bar = FreeCADGui.getMainWindow().findChild(QtGui.QToolBar, "Draft Snap")
+    grid = getattr(snapper, "grid", None)
+    return [list(getattr(snapper, "active_snaps", ["Lock"])), bool(bar and bar.isVisible()),
+            bool(grid and grid.Visible)]
+
+
+def show_all(side="ViewTop"):
+    """The whole drawing in view, from above or another side."""
     import FreeCADGui
 
     FreeCADGui.getMainWindow().showMaximized()
     FreeCADGui.updateGui()
-    FreeCADGui.SendMsgToActiveView("ViewTop")
+    FreeCADGui.SendMsgToActiveView(side)
     FreeCADGui.SendMsgToActiveView("ViewFit")
 
 
-def pixel_of(x, y):
+def pixel_of(x, y, z=0):
     """Where on the screen a place of the drawing is."""
     import FreeCADGui
     from PySide import QtCore
 
     view = FreeCADGui.ActiveDocument.ActiveView
     graphics = view.graphicsView()
-    across, up = view.getPointOnScreen(V(x, y, 0))
-    spot = graphics.mapToGlobal(QtCore.QPoint(across, graphics.height() - 1 - up))
-    return f"{spot.x()} {spot.y()}"
+    across, up = view.getPointOnScreen(V(x, y, z))
+    # The view counts the pixels of the screen, the toolkit those of 96 to an inch.
+    finer = view.getSize()[1] / graphics.height()
+    spot = graphics.mapToGlobal(
+        QtCore.QPoint(round(across / finer), round(graphics.height() - 1 - up / finer))
+    )
+    return f"{round(spot.x() * finer)} {round(spot.y() * finer)}"
 
 
 def is_picking():

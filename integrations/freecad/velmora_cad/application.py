@@ -64,6 +64,9 @@ class Application:
         FreeCAD.Console.PrintMessage(f"Velmora: {remarks}\n")
         return remarks
 
+    def ends(self, document):
+        return self._model_spaces.ends(_document(document))
+
     def take_point(self, document, point):
         """Where in the drawing a picked point of the space is; the next reading begins there."""
         return self._model_spaces.take_point(_document(document), point)

@@ -3,7 +3,7 @@ from typing import NamedTuple
 
 import FreeCAD
 
-from .beginning import begin_at
+from .beginning import begin_at, places_of
 from .entities import entities_of
 from .faults import REFUSED, Fault
 from .plane import GROUND, Plane, plane_of
@@ -63,18 +63,14 @@ class ModelSpaces:
         """These objects alone are the next reading."""
         self._say(document, chosen=tuple(names))
 
-    def entities(self, document):
-        """As the next reading will have them; none where it will be refused."""
+    def ends(self, document):
+        """The points of the space at which the next reading can begin; none where it will be
+        refused."""
         try:
-            return _read(document, self._next_terms.get(document.Name, Terms())).entities
+            drawing = _read(document, self._next_terms.get(document.Name, Terms()))
         except Fault:
             return []
-
-    def plane(self, document):
-        try:
-            return self._plane(document)
-        except Fault:
-            return GROUND
+        return [drawing.plane.space(place) for one in drawing.entities for place in places_of(one)]
 
     def _plane(self, document):
         return _plane_of(document, self._next_terms.get(document.Name, Terms()))

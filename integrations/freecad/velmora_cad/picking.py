@@ -12,13 +12,14 @@ class Picks:
         self._done = None
         self._pick = None
 
-    def ask(self, document, prompt, done):
+    def ask(self, document, prompt, ends, done):
+        """`ends` gives the points of a document, by its name, at which an outline can begin."""
         if self._done is not None:
             done(Fault(INVALID_CALL, "another point is being picked"))
             return
         self._done = done
         try:
-            self._pick = _kind_of_pick()(document, prompt, self._finish)
+            self._pick = _kind_of_pick()(document, prompt, ends, self._finish)
         except Exception as failure:
             self._finish(Fault(INVALID_CALL, str(failure)))
 

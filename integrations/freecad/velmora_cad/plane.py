@@ -20,9 +20,14 @@ _SAMPLES = 9
 class Plane(NamedTuple):
     right: Vector
     up: Vector
+    level: float = 0.0  # how far it is from the origin, along its normal
 
     def place(self, point):
         return point.dot(self.right), point.dot(self.up)
+
+    def space(self, place):
+        """The point of the space at a place."""
+        return self.right * place[0] + self.up * place[1] + self.normal * self.level
 
     @property
     def normal(self):
@@ -30,7 +35,7 @@ class Plane(NamedTuple):
 
     def describe(self):
         """Nothing of the usual one."""
-        if self == GROUND:
+        if self.right == X and self.up == Y:
             return ""
         return say("{right} to the right, {up} up", right=_axis(self.right), up=_axis(self.up))
 
@@ -42,12 +47,15 @@ def plane_of(shapes):
     """The plane of objects with their shapes. Refused where they have none in common."""
     points = [(obj, _points(shape)) for obj, shape in shapes]
     everything = [point for _, some in points for point in some]
-    if not everything or _is_level(everything):
+    if not everything:
         return GROUND
+    if _is_level(everything):
+        return GROUND._replace(level=everything[0].z)
     normal = _normal(everything)
     if normal is None:
         _refuse(points)
-    return _seen(_tidy(normal), [shape_axes(obj) for obj, _ in shapes])
+    plane = _seen(_tidy(normal), [shape_axes(obj) for obj, _ in shapes])
+    return plane._replace(level=everything[0].dot(plane.normal))
 
 
 def shape_axes(obj):

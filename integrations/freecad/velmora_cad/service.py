@@ -85,7 +85,7 @@ class Service:
         )
         document, prompt = arguments
         try:
-            self._picks.ask(_document(document), prompt, done)
+            self._picks.ask(_document(document), prompt, self._application.ends, done)
         except Fault as fault:
             done(fault)
 

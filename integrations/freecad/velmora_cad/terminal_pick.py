@@ -9,7 +9,7 @@ from .faults import CANCELLED, Fault
 
 
 class TerminalPick:
-    def __init__(self, document, prompt, done):
+    def __init__(self, document, prompt, ends, done):
         self._done = done
         print(prompt + " X,Y: ", end="", flush=True)
         self._watch = GLib.io_add_watch(

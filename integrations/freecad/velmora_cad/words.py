@@ -62,6 +62,27 @@ _WORDS.update({
         "{count} fuori dalla cattura: {names}",
         "{count} fora da captura: {names}",
     ),
+    "Start of the cut": (
+        "Inicio del corte", "Début de la découpe", "Inizio del taglio", "Início do corte",
+    ),
+    "The pick was given up.": (
+        "Se ha renunciado a elegir el punto.",
+        "Le choix du point a été abandonné.",
+        "La scelta del punto è stata abbandonata.",
+        "Desistiu-se de escolher o ponto.",
+    ),
+    "The document was closed during the pick.": (
+        "El documento se cerró mientras se elegía el punto.",
+        "Le document a été fermé pendant le choix du point.",
+        "Il documento è stato chiuso durante la scelta del punto.",
+        "O documento foi fechado durante a escolha do ponto.",
+    ),
+    "Velmora no longer waits for the point.": (
+        "Velmora ya no espera el punto.",
+        "Velmora n’attend plus le point.",
+        "Velmora non attende più il punto.",
+        "O Velmora já não espera o ponto.",
+    ),
     "{document}, in mm": (
         "{document}, en mm",
         "{document}, en mm",
