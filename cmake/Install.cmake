@@ -55,4 +55,5 @@ install(FILES data/icons/velmora.svg DESTINATION "${icons}/scalable/apps")
 set(addon "${CMAKE_INSTALL_DATADIR}/freecad/Mod/Velmora")
 install(DIRECTORY integrations/freecad/ DESTINATION "${addon}"
   PATTERN "__pycache__" EXCLUDE PATTERN "*.pyc" EXCLUDE)
+install(FILES LICENSE data/icons/velmora.svg DESTINATION "${addon}")
 install(FILES data/dbus/org.velmora.Cad1.xml DESTINATION "${addon}/velmora_cad")

@@ -198,6 +198,33 @@ def pixel_of(x, y, z=0):
     return f"{round(spot.x() * finer)} {round(spot.y() * finer)}"
 
 
+def velmora_menu():
+    """The texts of the entry in Tools, once it has opened."""
+    import FreeCADGui
+    from PySide import QtGui
+
+    (menu,) = FreeCADGui.getMainWindow().menuBar().findChildren(QtGui.QMenu, "Velmora")
+    menu.aboutToShow.emit()
+    return [action.text() for action in menu.actions()]
+
+
+def send_selected(label):
+    import FreeCADGui
+    from velmora_cad import menu
+
+    FreeCADGui.Selection.addSelection(*FreeCAD.ActiveDocument.getObjectsByLabel(label))
+    menu.send_selection()
+    FreeCADGui.Selection.clearSelection()
+    return label
+
+
+def use_workbench(name):
+    import FreeCADGui
+
+    FreeCADGui.activateWorkbench(name)
+    return name
+
+
 def is_picking():
     import FreeCADGui
 

@@ -391,6 +391,16 @@ class BeginningTest(DrawingTest):
         self.assertLess(math.hypot(x, y), 1e-9)
 
 
+class SelectionTest(DrawingTest):
+    def test_the_selected_objects_alone_are_the_next_reading(self):
+        Draft.make_line(V(0, 0), V(1, 0))
+        chosen = Draft.make_line(V(5, 0), V(6, 0))
+        self.feature(Part.makeHelix(2, 10, 5), "Spring")
+        self.application.choose(self.document.Name, [chosen.Name])
+        self.assert_read(("AcDbLine", 5, 0, 6, 0))
+        self.assertIn("Spring is not flat", self.refusal())
+
+
 def run():
     result = unittest.TextTestRunner(verbosity=0).run(
         unittest.defaultTestLoader.loadTestsFromModule(sys.modules[__name__])

@@ -53,6 +53,9 @@ pick() {
 
 start_display 1600x1000
 start
+until_done gives "velmora_menu()" '["waiting for Velmora", "Send selection"]' || fail "the menu shows $(look "velmora_menu()") in state $(look "__import__('velmora_cad.service').service.state()")"
+expect "use_workbench('PartWorkbench')" PartWorkbench
+expect "velmora_menu()[1]" "Send selection"
 expect "closed_wire()" ala
 look "show_all()" >/dev/null
 sleep 1
@@ -66,9 +69,23 @@ expect "begins('ala')" "[0.0, 30.0]"
 until_done gives "draft_state()" "$before" || fail "Draft shows $(look "draft_state()"), not $before"
 picture "$pictures/3-after.png"
 
+expect "velmora_menu()[0]" "Velmora has left"
+expect "send_selected('Wire')" Wire
+
 # Esc gives up, and what Draft shows is put back then too.
 ask ala
 xdotool key Escape
 wait "$asked" || true
 grep -q 'E80004004' "$display_folder/answer" || fail "Esc answers $(cat "$display_folder/answer")"
 until_done gives "draft_state()" "$before" || fail "after Esc Draft shows $(look "draft_state()")"
+
+# A section that stands upright is picked in its own plane.
+expect "upright_wire()" pie
+look "show_all('ViewFront')" >/dev/null
+sleep 1
+ask pie
+xdotool mousemove $(look "pixel_of(7, 5, 7)") mousemove_relative -- 3 2
+sleep 0.7
+xdotool click 1
+wait "$asked" || true
+[[ $(cat "$display_folder/answer") == "([7.0, 7.0],)" ]] || fail "upright: $(cat "$display_folder/answer")"

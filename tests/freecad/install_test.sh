@@ -20,4 +20,10 @@ for file in Init.py InitGui.py serve.py package.xml README.md velmora_cad/servic
     cmp "$sources/integrations/freecad/$file" "$addons/Velmora/$file"
 done
 cmp "$sources/data/dbus/org.velmora.Cad1.xml" "$addons/Velmora/velmora_cad/org.velmora.Cad1.xml"
+cmp "$sources/LICENSE" "$addons/Velmora/LICENSE"
+# What package.xml and the README name is there.
+for file in $(sed -n 's/.*<icon>\(.*\)<.*/\1/p; s/.*file="\([^"]*\)".*/\1/p' "$addons/Velmora/package.xml") \
+    $(sed -n 's/^!\[.*](\(.*\))$/\1/p' "$addons/Velmora/README.md"); do
+    [[ -f $addons/Velmora/$file ]] || fail "$file is named and missing"
+done
 if grep -q '/\.Velmora\|__pycache__' <<<"$first"; then fail "something is left: $first"; fi

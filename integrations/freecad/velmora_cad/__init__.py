@@ -6,10 +6,11 @@ def start():
     import FreeCAD
 
     try:
-        from . import main_loop, service
+        from . import main_loop, menu, service
 
         main_loop.keep_running()
         service.publish()
+        menu.install()
     except Exception as failure:
         FreeCAD.Console.PrintWarning(f"Velmora can't reach this FreeCAD: {failure}\n")
 

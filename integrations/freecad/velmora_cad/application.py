@@ -64,6 +64,9 @@ class Application:
         FreeCAD.Console.PrintMessage(f"Velmora: {remarks}\n")
         return remarks
 
+    def choose(self, document, names):
+        self._model_spaces.choose(_document(document), names)
+
     def ends(self, document):
         return self._model_spaces.ends(_document(document))
 

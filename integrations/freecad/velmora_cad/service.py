@@ -8,6 +8,7 @@ from .application import Application, _document
 from .faults import AUTOMATION_ERROR, REFUSED, Fault
 from .packing import entities_answer
 from .picking import Picks
+from .words import say
 
 NAME = "org.velmora.Cad1"
 PATH = "/org/velmora/Cad1"
@@ -20,6 +21,14 @@ def publish():
     global _service
     if _service is None:
         _service = Service(Gio.bus_get_sync(Gio.BusType.SESSION, None))
+
+
+def state():
+    return _service.state if _service else ""
+
+
+def choose(document, names):
+    _service.choose(document, names)
 
 
 def interface_text():
@@ -41,12 +50,43 @@ class Service:
         self._picks = Picks()
         self._interface = Gio.DBusNodeInfo.new_for_xml(interface_text()).lookup_interface(NAME)
         bus.register_object(PATH, self._interface, self._call, self._property, None)
-        Gio.bus_own_name_on_connection(bus, NAME, Gio.BusNameOwnerFlags.NONE, None, None)
+        self.state = ""
+        self._callers = set()
+        Gio.bus_own_name_on_connection(bus, NAME, Gio.BusNameOwnerFlags.NONE,
+                                       lambda *_: self._become("waiting for Velmora"),
+                                       lambda *_: self._become(
+                                           "another CAD is already the one offered"))
+
+    def choose(self, document, names):
+        self._application.choose(document, names)
+
+    def _become(self, state):
+        """What the report view and the menu tell of the connection."""
+        self.state = state
+        FreeCAD.Console.PrintMessage(f"Velmora: {say(state)}\n")
+
+    def _greet(self, caller):
+        if caller in self._callers:
+            return
+        self._callers.add(caller)
+        self._become("connected" if FreeCAD.listDocuments() else "connected, no document yet")
+        watch = None
+
+        def gone(*_):
+            Gio.bus_unwatch_name(watch)
+            self._callers.discard(caller)
+            self._become("Velmora has left")
+
+        watch = Gio.bus_watch_name_on_connection(
+            self._bus, caller, Gio.BusNameWatcherFlags.NONE, None, gone
+        )
 
     def _property(self, bus, sender, path, interface, name):
+        self._greet(sender)
         return GLib.Variant("s", getattr(self._application, name))
 
     def _call(self, bus, sender, path, interface, method, parameters, invocation):
+        self._greet(sender)
         arguments = parameters.unpack()
         if method == "GetPoint":
             self._pick(sender, arguments, invocation)

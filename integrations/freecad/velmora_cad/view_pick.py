@@ -5,11 +5,13 @@ import Draft
 import DraftTools  # noqa: F401  brings the snapper along
 import FreeCAD
 import FreeCADGui
+from pivy import coin
 from PySide import QtCore, QtGui
 
 from .faults import CANCELLED, GONE, Fault
 from .words import say
 
+_PRESS = coin.SoMouseButtonEvent.getClassTypeId()
 LOOK_INTERVAL = 200  # milliseconds
 REACH = 12  # pixels
 
@@ -29,8 +31,11 @@ class ViewPick:
         self._before = _Snapping(self._snapper)
         _lend_snaps(self._snapper)
         _show_bar(self._snapper)
+        self._view = Draft.get3DView()
+        self._spot = None
+        # Before the snapper hears of the press.
+        self._press = self._view.addEventCallbackPivy(_PRESS, self._note_spot)
         self._snapper.getPoint(callback=self._take, title=say("Start of the cut"))
-        self._view = self._snapper.view
         self._click = self._snapper.callbackClick
         self._watch = QtCore.QTimer()
         self._watch.timeout.connect(self._look)
@@ -51,10 +56,13 @@ class ViewPick:
         else:
             self._done(self._end_near(FreeCAD.Vector(point)))
 
+    def _note_spot(self, pressed):
+        self._spot = tuple(pressed.getEvent().getPosition().getValue())
+
     def _end_near(self, point):
         """The end of a line under the pointer. Draft finds none where FreeCAD has lit the vertex
         itself: then it wants its snap to "near" besides, and gives the place of the ray."""
-        spot = self._view.getPointOnScreen(point)
+        spot = self._spot or self._view.getPointOnScreen(point)
         near = [(_apart(spot, self._view.getPointOnScreen(end)), number, end)
                 for number, end in enumerate(self._ends(self._document))]
         distance, _, end = min(near, default=(REACH + 1, 0, point))
@@ -74,6 +82,8 @@ class ViewPick:
 
     def _end(self):
         self._watch.stop()
+        if self._document in FreeCAD.listDocuments():
+            self._view.removeEventCallbackPivy(_PRESS, self._press)
         FreeCADGui.getMainWindow().statusBar().clearMessage()
         self._before.put_back()
 

@@ -62,6 +62,35 @@ _WORDS.update({
         "{count} fuori dalla cattura: {names}",
         "{count} fora da captura: {names}",
     ),
+    "waiting for Velmora": (
+        "a la espera de Velmora", "en attente de Velmora", "in attesa di Velmora",
+        "à espera do Velmora",
+    ),
+    "connected": ("conectado", "connecté", "collegato", "ligado"),
+    "connected, no document yet": (
+        "conectado, todavía sin documento", "connecté, pas encore de document",
+        "collegato, ancora nessun documento", "ligado, ainda sem documento",
+    ),
+    "another CAD is already the one offered": (
+        "otro CAD ya está ofrecido", "un autre CAO est déjà proposé",
+        "un altro CAD è già offerto", "outro CAD já está oferecido",
+    ),
+    "Velmora has left": (
+        "Velmora se ha ido", "Velmora est parti", "Velmora se n’è andato", "o Velmora saiu",
+    ),
+    "Send selection": (
+        "Enviar la selección", "Envoyer la sélection", "Invia la selezione", "Enviar a seleção",
+    ),
+    "the next capture takes only: {names}": (
+        "la próxima captura toma solo: {names}",
+        "la prochaine capture ne prend que : {names}",
+        "la prossima cattura prende solo: {names}",
+        "a próxima captura toma apenas: {names}",
+    ),
+    "nothing is selected": (
+        "no hay nada seleccionado", "rien n’est sélectionné", "non è selezionato nulla",
+        "nada está selecionado",
+    ),
     "Start of the cut": (
         "Inicio del corte", "Début de la découpe", "Inizio del taglio", "Início do corte",
     ),
