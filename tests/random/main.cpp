@@ -41,16 +41,17 @@ void pass_over(int /*line*/, const std::string& reason) {
     std::printf("# %s\n", reason.c_str());
 }
 
-/// A prompt that wants a number asks until it gets one.
-void lay_numbers(driver::Answers& answers) {
-    while (answers.inputs.size() < 4)
-        answers.inputs.emplace_back("7");
+/// A prompt that wants a number asks until it gets one: one stands behind whatever else was laid.
+void lay_number(driver::Answers& answers) {
+    const std::optional<std::string> number = "7";
+    if (answers.inputs.empty() || answers.inputs.back() != number)
+        answers.inputs.insert(answers.inputs.end(), 3, number);
 }
 
 LineSource checked(driver::Stage& stage, LineSource source) {
     auto next = [&stage, inner = std::move(source.next)] {
         look(stage);
-        lay_numbers(stage.answers);
+        lay_number(stage.answers);
         std::fflush(stdout);
         return inner();
     };
