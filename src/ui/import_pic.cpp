@@ -1,5 +1,8 @@
 #include "ui/import_pic.h"
 
+#include "toolkit/contrast.h"
+
+#include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -20,6 +23,8 @@ constexpr double kArrow = 9;
 constexpr double kStart = 4.5;
 /// Nearer points fall together on the screen.
 constexpr double kNextPoint = 0.4;
+/// Contrast with the ground, of lines that have to be told apart.
+constexpr double kTold = 3;
 
 /// Along a segment, how far a place is from it.
 double distance_to(QPointF place, QPointF from, QPointF to) {
@@ -67,6 +72,12 @@ void ImportPic::resizeEvent(QResizeEvent* event) {
     QFrame::resizeEvent(event);
 }
 
+void ImportPic::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange)
+        start_over();
+    QFrame::changeEvent(event);
+}
+
 void ImportPic::paintEvent(QPaintEvent* event) {
     if (sheet_.isNull() || sheet_.devicePixelRatio() != devicePixelRatioF())
         draw();
@@ -108,8 +119,8 @@ void ImportPic::draw() {
     const QSizeF size = QSizeF(contentsRect().size()) * devicePixelRatioF();
     sheet_ = QPixmap(size.toSize().expandedTo({1, 1}));
     sheet_.setDevicePixelRatio(devicePixelRatioF());
-    // Paper in every theme, as the pictures of the workbench.
-    sheet_.fill(Qt::white);
+    const QColor ground = palette().color(QPalette::Base);
+    sheet_.fill(ground);
     if (state_ == nullptr)
         return;
     fit();
@@ -120,8 +131,9 @@ void ImportPic::draw() {
         for (std::size_t i = 0; i < chains.size(); ++i)
             if ((chains[i].taken > 0) == taken)
                 draw_chain(painter, chains[i],
-                           QPen(chain_colour(i), taken ? kTakenWidth : kLeftWidth, Qt::SolidLine,
-                                Qt::RoundCap, Qt::RoundJoin));
+                           QPen(standing_out(chain_colour(i), ground, kTold),
+                                taken ? kTakenWidth : kLeftWidth, Qt::SolidLine, Qt::RoundCap,
+                                Qt::RoundJoin));
     }
     for (std::size_t i = 0; i < chains.size(); ++i)
         draw_number(painter, chains[i], chain_colour(i));
@@ -168,7 +180,8 @@ void ImportPic::draw_start(QPainter& painter) const {
         return;
     const QPointF start = place(outline.front());
     painter.setPen(Qt::NoPen);
-    painter.setBrush(Qt::black);
+    const QColor ink = palette().color(QPalette::Text);
+    painter.setBrush(ink);
     painter.drawEllipse(start, kStart, kStart);
     const auto next = std::ranges::find_if(outline, [&](const ImportarPoint& point) {
         return (place(point) - start).manhattanLength() > 3 * kArrow;
@@ -180,7 +193,7 @@ void ImportPic::draw_start(QPainter& painter) const {
     painter.rotate(std::atan2(to.y() - start.y(), to.x() - start.x()) * 180 / M_PI);
     painter.drawPolygon(QPolygonF(
         {{kStart + 2 * kArrow, 0}, {kStart + kArrow, -kArrow / 2}, {kStart + kArrow, kArrow / 2}}));
-    painter.setPen(QPen(Qt::black, 2));
+    painter.setPen(QPen(ink, 2));
     painter.drawLine(QPointF(0, 0), QPointF(kStart + kArrow, 0));
 }
 

@@ -33,6 +33,7 @@ class ImportPic : public QFrame {
     void chain_clicked(int chain);
 
   protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
