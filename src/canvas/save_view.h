@@ -1,10 +1,12 @@
 // The view as a picture file.
 #pragma once
 
+#include <string>
+
 namespace velmora {
 
-/// Asks for a name and writes what is seen of the canvas as PNG; the panel says where it went. A
-/// box tells what could not be written.
-void save_view();
+/// Writes what is seen of the canvas as PNG; the panel says where it went. A box tells what could
+/// not be written.
+void save_view(const std::string& path);
 
 } // namespace velmora

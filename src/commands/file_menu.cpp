@@ -19,10 +19,14 @@
 #include "document/windows/velmora.h"
 #include "formats/load.h"
 #include "formats/save.h"
+#include "forms/save_place.h"
 #include "forms/velmora.h"
+#include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/program_windows.h"
 #include "runtime/text.h"
+#include "services/message_codes.h"
+#include "services/messages.h"
 #include "services/settings.h"
 #include "services/shape_at_hand.h"
 
@@ -35,6 +39,17 @@ namespace {
 void generate_when_named() {
     if (!state::document.FileName.empty())
         GeneraFichero();
+}
+
+std::string ask_for_picture() {
+    constexpr const char* extension = ".png";
+    const DocumentState& document = state::document;
+    return ask_where_to_save(
+        {.title = GetMensaje(message::save_view_title),
+         .filter = "PNG (*.png)|*.png",
+         .folder = document.LastDir.empty() ? state::program.program_folder : document.LastDir,
+         .name = beside(document.FileName, extension),
+         .extension = extension});
 }
 
 void clear_list() {
@@ -184,8 +199,10 @@ void K_EXIT() {
 }
 
 void mnu_save_view() {
-    if (shape_at_hand())
-        save_view();
+    if (!shape_at_hand())
+        return;
+    if (const std::string path = ask_for_picture(); !path.empty())
+        save_view(path);
 }
 
 // As an opened file, but the recent files: there is nothing to open yet under its name.

@@ -142,7 +142,7 @@ std::string QuitaNombre(std::string_view path) {
 }
 
 std::string SoloNombre(std::string_view path) {
-    return std::string(after_last(path, "\\/"));
+    return runtime::file_name(path);
 }
 
 std::string after_last_backslash(std::string_view text) {

@@ -18,6 +18,7 @@
 #include "platform/platform.h"
 #include "platform/program_windows.h"
 #include "runtime/numbers.h"
+#include "runtime/paths.h"
 #include "runtime/text.h"
 #include "services/message_codes.h"
 #include "services/messages.h"
@@ -51,10 +52,6 @@ void compare_sync_totals() {
         runtime::Val(window.TxtTotalCtrlPtos_B) == runtime::Val(window.TxtTotalCtrlPtos_A);
     if (!window.cmd_opt_enabled)
         MuestraMensaje(message::sync_totals_differ);
-}
-
-std::string file_name(const std::string& path) {
-    return path.substr(path.find_last_of("/\\") + 1);
 }
 
 /// A side that is cancelled keeps the points, the file and the totals of before.
@@ -92,8 +89,8 @@ void empty_results() {
 /// Beside the buttons, since the window hides the main one's panel: the names of the two files.
 void confirm_save() {
     state::ajuste.lbl_estado = quiet_text(message::results_saved) + " " +
-                               file_name(state::ajuste.Txt_File_A2) + ", " +
-                               file_name(state::ajuste.Txt_File_B2);
+                               runtime::file_name(state::ajuste.Txt_File_A2) + ", " +
+                               runtime::file_name(state::ajuste.Txt_File_B2);
 }
 
 void adjust() {

@@ -1,17 +1,14 @@
 #include "forms/cut_boxes.h"
 
-#include "document/feedback.h"
 #include "document/number_text.h"
 #include "document/state/program.h"
 #include "document/windows/ver_corte.h"
 #include "forms/import_choices.h"
-#include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/settings_store.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "services/message_codes.h"
-#include "services/messages.h"
+#include "services/settings.h"
 
 #include <array>
 
@@ -69,7 +66,7 @@ std::string stored(const Kept& kept) {
 
 /// The first of the list is the one without a choice.
 bool keep_machine() {
-    const VerCorteList& list = state::ver_corte.Cmb_Machine;
+    const ChoiceList& list = state::ver_corte.Cmb_Machine;
     const auto before = platform().settings.get(kSection, kMachineKey);
     if (list.chosen.empty() || list.chosen == before.value_or(list.entries.front()))
         return false;
@@ -81,8 +78,9 @@ bool keep_machine() {
 
 void fill_cut_lists(const CutWords& words) {
     VerCorteWindow& window = state::ver_corte;
-    const auto fill = [&](VerCorteList& list, std::initializer_list<std::string_view> keys,
+    const auto fill = [&](ChoiceList& list, std::initializer_list<std::string_view> keys,
                           std::size_t chosen) {
+        list.enabled = true;
         list.entries.clear();
         for (const std::string_view key : keys)
             list.entries.push_back(words.text(key));
@@ -115,9 +113,8 @@ void keep_cut_boxes() {
         changed = true;
     }
     changed = keep_machine() || changed;
-    if (changed && !platform().settings.keep())
-        MsgBox(GetMensaje(message::settings_not_kept) + "\n\n" + platform().settings.place(),
-               buttons::exclamation, "Velmora");
+    if (changed)
+        keep_settings();
 }
 
 double number_or(const std::string& box, double otherwise) {

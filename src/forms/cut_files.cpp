@@ -1,6 +1,7 @@
 #include "forms/cut_files.h"
 
 #include "import/import_bytes.h"
+#include "runtime/paths.h"
 #include "runtime/whole_file.h"
 
 #include <cstdint>
@@ -26,20 +27,16 @@ imports::Imported program_in(const WholeFile& file, const std::string& path) {
     return imports::import_bytes(file.bytes, path, choices);
 }
 
-std::string name_of(const std::string& path) {
-    return path.substr(path.find_last_of("/\\") + 1);
-}
-
 /// A side into its place; the sentence of what is wrong.
 std::string read_side(const std::string& path, cutting::SidePath& side, const CutWords& words) {
     const WholeFile file = read(path);
     if (file.fault != WholeFileFault::none)
-        return words.side_fault(name_of(path), SideFault::none, 0);
+        return words.side_fault(runtime::file_name(path), SideFault::none, 0);
     cutting::SideFile found = cutting::read_side_file(file.bytes);
     side = std::move(found.path);
     if (found.fault == SideFault::none)
         return {};
-    return words.side_fault(name_of(path), found.fault, found.line);
+    return words.side_fault(runtime::file_name(path), found.fault, found.line);
 }
 
 CutFiles read_program(const std::string& path, const CutWords& words) {
@@ -47,7 +44,7 @@ CutFiles read_program(const std::string& path, const CutWords& words) {
     cutting::SidesFile found = cutting::sides_of_program(program_in(file, path));
     if (found.fault == SideFault::none)
         return {std::move(found.sides), {}};
-    return {{}, words.side_fault(name_of(path), found.fault, found.line)};
+    return {{}, words.side_fault(runtime::file_name(path), found.fault, found.line)};
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "forms/cut_boxes.h"
 #include "forms/cut_saving.h"
 #include "platform/dialogs.h"
+#include "runtime/paths.h"
 
 #include <algorithm>
 #include <optional>
@@ -25,7 +26,7 @@ std::vector<MachineEntry> machines() {
 /// By its own name; a file without one by the file's.
 std::string shown_name(const MachineEntry& entry) {
     const std::string& name = entry.file.machine.name;
-    return entry.readable && !name.empty() ? name : name_of_file(entry.path);
+    return entry.readable && !name.empty() ? name : runtime::file_name(entry.path);
 }
 
 std::optional<MachineEntry> machine_chosen() {
@@ -38,7 +39,7 @@ std::string what_is_wrong(const std::optional<MachineEntry>& entry, const CutWor
     if (!entry)
         return words.text("machine_none");
     if (!entry->readable)
-        return name_of_file(entry->path) + ": " + words.text("machine_unreadable");
+        return runtime::file_name(entry->path) + ": " + words.text("machine_unreadable");
     return entry->file.problems.empty() ? "" : words.machine_problem(entry->file.problems.front());
 }
 
@@ -51,7 +52,8 @@ bool may_leave_travel(const cutting::Gcode& code, const CutWords& words) {
 } // namespace
 
 void offer_machines(const CutWords& words) {
-    VerCorteList& list = state::ver_corte.Cmb_Machine;
+    ChoiceList& list = state::ver_corte.Cmb_Machine;
+    list.enabled = true;
     list.entries.clear();
     for (const MachineEntry& entry : machines())
         list.entries.push_back(shown_name(entry));
@@ -81,7 +83,7 @@ void write_cut_program(const CutWords& words) {
         return;
     const std::string path = ask_for_cut_place("gcode_title", "G-code", kExtension, words);
     if (!path.empty() && write_cut_file(path, code.text, words))
-        state::ver_corte.lbl_written = words.named("written", name_of_file(path));
+        state::ver_corte.lbl_written = words.named("written", runtime::file_name(path));
 }
 
 } // namespace velmora

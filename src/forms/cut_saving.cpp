@@ -8,30 +8,17 @@
 #include "forms/save_place.h"
 #include "platform/dialogs.h"
 #include "runtime/error.h"
-#include "runtime/paths.h"
-
-#include <filesystem>
 
 namespace velmora {
 
 namespace {
 
-std::string offered_path(const std::string& extension) {
+std::string first_side() {
     const VerCorteWindow& window = state::ver_corte;
-    const std::string side =
-        window.cut->stage == CutStage::files ? window.file_A : state::ajuste.Txt_File_A2;
-    if (side.empty())
-        return {};
-    std::filesystem::path path = runtime::native_path(side);
-    path.replace_extension(extension);
-    return runtime::path_text(path);
+    return window.cut->stage == CutStage::files ? window.file_A : state::ajuste.Txt_File_A2;
 }
 
 } // namespace
-
-std::string name_of_file(const std::string& path) {
-    return path.substr(path.find_last_of("/\\") + 1);
-}
 
 std::string ask_for_cut_place(std::string_view title, std::string_view kind,
                               const std::string& extension, const CutWords& words) {
@@ -40,7 +27,7 @@ std::string ask_for_cut_place(std::string_view title, std::string_view kind,
     return ask_where_to_save({.title = words.text(title),
                               .filter = filter,
                               .folder = state::program.program_folder,
-                              .name = offered_path(extension),
+                              .name = beside(first_side(), extension),
                               .extension = extension});
 }
 

@@ -17,7 +17,4 @@ namespace velmora {
 [[nodiscard]] bool write_cut_file(const std::string& path, std::string_view bytes,
                                   const CutWords& words);
 
-/// What stands behind the last separator of a path.
-[[nodiscard]] std::string name_of_file(const std::string& path);
-
 } // namespace velmora

@@ -6,6 +6,7 @@
 #include "document/windows/ver_corte.h"
 #include "forms/cut_saving.h"
 #include "platform/dialogs.h"
+#include "runtime/paths.h"
 
 namespace velmora {
 
@@ -47,7 +48,7 @@ bool can_be_laid_out(const SheetLayout& layout, const CutWords& words) {
 }
 
 void tell_written(const std::string& path, std::size_t sheets, const CutWords& words) {
-    std::string said = words.named("template_sheets", name_of_file(path));
+    std::string said = words.named("template_sheets", runtime::file_name(path));
     put_in(said, "{n}", std::to_string(sheets));
     state::ver_corte.lbl_written = said;
 }

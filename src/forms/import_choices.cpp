@@ -73,7 +73,7 @@ std::vector<std::string> texts_of(std::span<const Entry<Value>> table, const Imp
 }
 
 template <std::size_t Count, class Value>
-void fill(ImportarList& list, const std::array<Entry<Value>, Count>& table,
+void fill(ChoiceList& list, const std::array<Entry<Value>, Count>& table,
           const ImportWords& words) {
     list.entries = texts_of(std::span<const Entry<Value>>(table), words);
     list.chosen = list.entries.front();
@@ -81,7 +81,7 @@ void fill(ImportarList& list, const std::array<Entry<Value>, Count>& table,
 
 /// The value of the entry chosen; the first one's where none is.
 template <std::size_t Count, class Value>
-Value chosen_in(const ImportarList& list, const std::array<Entry<Value>, Count>& table,
+Value chosen_in(const ChoiceList& list, const std::array<Entry<Value>, Count>& table,
                 const ImportWords& words) {
     for (const Entry<Value>& entry : table)
         if (words.text(entry.key) == list.chosen)
@@ -96,7 +96,7 @@ std::string kind_words(Kind kind, const ImportWords& words) {
 
 /// The kinds that the file may be, the best first, and behind them the others.
 void offer_kinds(const imports::Imported& imported, const ImportWords& words) {
-    ImportarList& list = state::importar.Cmb_Kind;
+    ChoiceList& list = state::importar.Cmb_Kind;
     list.entries.clear();
     for (const Kind kind : imported.guesses)
         list.entries.push_back(kind_words(kind, words));
@@ -111,7 +111,7 @@ void offer_kinds(const imports::Imported& imported, const ImportWords& words) {
 }
 
 void offer_elements(const imports::Imported& imported, const ImportWords& words) {
-    ImportarList& list = state::importar.Cmb_Element;
+    ChoiceList& list = state::importar.Cmb_Element;
     const auto ask =
         std::ranges::find(imported.asks, imports::Question::element, &imports::Ask::question);
     list.enabled = ask != imported.asks.end();
@@ -124,7 +124,7 @@ void offer_elements(const imports::Imported& imported, const ImportWords& words)
 }
 
 std::optional<std::size_t> chosen_element() {
-    const ImportarList& list = state::importar.Cmb_Element;
+    const ChoiceList& list = state::importar.Cmb_Element;
     const auto found = std::ranges::find(list.entries, list.chosen);
     if (found == list.entries.end() || found == list.entries.begin())
         return {};

@@ -12,7 +12,7 @@ namespace velmora {
 namespace {
 
 std::string with_extension(const std::string& path, const std::string& extension) {
-    const std::string name = path.substr(path.find_last_of("/\\") + 1);
+    const std::string name = runtime::file_name(path);
     if (name.empty() || name.find('.') != std::string::npos)
         return path;
     return path + extension;
@@ -24,6 +24,13 @@ int ask_to_overwrite(const std::string& path) {
 }
 
 } // namespace
+
+std::string beside(const std::string& file, const std::string& extension) {
+    if (file.empty())
+        return {};
+    auto path = runtime::native_path(file);
+    return runtime::path_text(path.replace_extension(extension));
+}
 
 std::string ask_where_to_save(const FileRequest& request) {
     for (;;) {

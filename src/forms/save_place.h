@@ -7,6 +7,9 @@
 
 namespace velmora {
 
+/// The name to offer beside a file: its own with another extension, ".png". Empty for no file.
+[[nodiscard]] std::string beside(const std::string& file, const std::string& extension);
+
 /// Asks until the place is free or may be written over; the extension of the request goes behind a
 /// name that has none. Empty where the user gave up.
 [[nodiscard]] std::string ask_where_to_save(const FileRequest& request);

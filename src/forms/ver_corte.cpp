@@ -93,14 +93,10 @@ void put_at_hand(cutting::Sides sides, CutStage stage, const CutWords& words) {
     show_machine(words);
 }
 
-std::string name_of(const std::string& path) {
-    return path.substr(path.find_last_of("/\\") + 1);
-}
-
 std::string both_names(const std::string& one, const std::string& other) {
     if (one.empty() || other.empty())
-        return name_of(one + other);
-    return name_of(one) + ", " + name_of(other);
+        return runtime::file_name(one + other);
+    return runtime::file_name(one) + ", " + runtime::file_name(other);
 }
 
 void show_workbench(CutStage stage, const CutWords& words) {

@@ -31,6 +31,10 @@ bool is_separator(char c) {
     return c == '/' || c == '\\';
 }
 
+std::string file_name(std::string_view path) {
+    return std::string(path.substr(path.find_last_of("\\/") + 1));
+}
+
 bool file_exists(std::string_view path) {
     std::error_code fault;
     const auto status = std::filesystem::status(native_path(path), fault);

@@ -15,6 +15,8 @@ namespace velmora::runtime {
 /// the name, "\velmora.chm", is taken as the joint.
 [[nodiscard]] std::string join(std::string_view folder, std::string_view name);
 [[nodiscard]] bool is_separator(char c);
+/// What follows the last separator.
+[[nodiscard]] std::string file_name(std::string_view path);
 /// Something other than a folder is at the path. Never raises.
 [[nodiscard]] bool file_exists(std::string_view path);
 /// A plain delete; a missing file is no error. Never raises; false when the file is still there.

@@ -142,10 +142,14 @@ void GuardaSettings() {
         if (!another_changed(section, key, own))
             save(section, key, own);
     });
+    keep_settings();
+    note_as_read();
+}
+
+void keep_settings() {
     if (!platform().settings.keep())
         MsgBox(GetMensaje(message::settings_not_kept) + "\n\n" + platform().settings.place(),
                buttons::exclamation, "Velmora");
-    note_as_read();
 }
 
 std::optional<StoredSetting> setting_at_fault(const RuntimeError& failure) {

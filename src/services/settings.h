@@ -18,6 +18,9 @@ void LeeSettings();
 /// read and this one did not; a box tells where they can't be kept.
 void GuardaSettings();
 
+/// Has the store keep what was saved; a box tells where it can't.
+void keep_settings();
+
 /// A setting with a text for it.
 struct StoredSetting {
     std::string section, key, value;

@@ -4,7 +4,9 @@
 #include "ui/import_pic.h"
 
 #include <QFont>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QPalette>
 
 namespace velmora {
 
@@ -32,7 +34,7 @@ QVariant ChainListModel::data(const QModelIndex& index, int role) const {
         return {};
     const ImportarChain& chain = state_.Lst_Chains[row];
     if (role == Qt::DecorationRole)
-        return chain_colour(row);
+        return chain_colour(row, QGuiApplication::palette().color(QPalette::Base));
     if (role == Qt::CheckStateRole)
         return chain.taken > 0 ? Qt::Checked : Qt::Unchecked;
     if (role == Qt::FontRole && chain.taken > 0) {

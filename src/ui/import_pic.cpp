@@ -38,11 +38,11 @@ double distance_to(QPointF place, QPointF from, QPointF to) {
 
 } // namespace
 
-QColor chain_colour(std::size_t chain) {
+QColor chain_colour(std::size_t chain, const QColor& ground) {
     constexpr auto colours =
         std::to_array<QRgb>({0x1F5FBF, 0xC8401E, 0x2E8B3D, 0x8E44AD, 0xB8860B, 0x00838F, 0xC2185B,
                              0x5D4037, 0x455A64, 0x6B8E23});
-    return QColor::fromRgb(colours[chain % colours.size()]);
+    return standing_out(QColor::fromRgb(colours[chain % colours.size()]), ground, kTold);
 }
 
 ImportPic::ImportPic(QWidget* parent) : QFrame(parent) {
@@ -131,12 +131,11 @@ void ImportPic::draw() {
         for (std::size_t i = 0; i < chains.size(); ++i)
             if ((chains[i].taken > 0) == taken)
                 draw_chain(painter, chains[i],
-                           QPen(standing_out(chain_colour(i), ground, kTold),
-                                taken ? kTakenWidth : kLeftWidth, Qt::SolidLine, Qt::RoundCap,
-                                Qt::RoundJoin));
+                           QPen(chain_colour(i, ground), taken ? kTakenWidth : kLeftWidth,
+                                Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     }
     for (std::size_t i = 0; i < chains.size(); ++i)
-        draw_number(painter, chains[i], chain_colour(i));
+        draw_number(painter, chains[i], chain_colour(i, ground));
     draw_start(painter);
 }
 
@@ -170,7 +169,7 @@ void ImportPic::draw_number(QPainter& painter, const ImportarChain& chain,
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
     painter.drawRoundedRect(box, 4, 4);
-    painter.setPen(Qt::white);
+    painter.setPen(palette().color(QPalette::Base));
     painter.drawText(box, Qt::AlignCenter, text);
 }
 

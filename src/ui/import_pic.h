@@ -14,8 +14,8 @@
 
 namespace velmora {
 
-/// The colour of a chain, by its place in the list; meant for paper.
-[[nodiscard]] QColor chain_colour(std::size_t chain);
+/// The colour of a chain, by its place in the list, told apart from this ground.
+[[nodiscard]] QColor chain_colour(std::size_t chain, const QColor& ground);
 
 class ImportPic : public QFrame {
     Q_OBJECT

@@ -5,23 +5,11 @@
 #include "ui/file_drop.h"
 #include "ui/program_style.h"
 
-#include <QScreen>
-#include <QSignalBlocker>
-
 namespace velmora {
 
 namespace {
 
 constexpr QSize kSizeAtStart(980, 640);
-constexpr QSize kFrame(20, 60); // of the desktop, at the most
-
-void fill(QComboBox& box, const ImportarList& list) {
-    const QSignalBlocker quiet(box);
-    box.clear();
-    for (const std::string& entry : list.entries)
-        box.addItem(qt_text(entry));
-    box.setCurrentIndex(box.findText(qt_text(list.chosen)));
-}
 
 } // namespace
 
@@ -77,14 +65,6 @@ void ImportarDialog::bind() {
     bind_chains();
 }
 
-void ImportarDialog::bind_list(QComboBox& box, ImportarList& list) {
-    bindings().shows<std::vector<std::string>>(
-        [&list] { return list.entries; },
-        [&box, &list](const std::vector<std::string>&) { fill(box, list); });
-    bindings().choice(box, list.chosen);
-    bindings().enabled(box, list.enabled);
-}
-
 void ImportarDialog::bind_box(QLineEdit& box, ImportarBox& text) {
     bindings().text(box, text.text);
     bindings().enabled(box, text.enabled);
@@ -122,22 +102,12 @@ void ImportarDialog::wire() {
     on_click(*ui.cmd_cancel, importar_cmd_cancel_Click);
 }
 
-void ImportarDialog::on_choice(QComboBox& box, void (*handler)()) {
-    connect(&box, &QComboBox::activated, this, [this, handler] { events().run(handler); });
-}
-
 void ImportarDialog::Load() {
     importar_Load();
 }
 
-/// The picture takes what the screen has, up to a size at which it is easy to look at.
 void ImportarDialog::place() {
-    const QRect screen = widget().screen()->availableGeometry();
-    const QSize size = kSizeAtStart.boundedTo(screen.size() - kFrame);
-    widget().resize(size.expandedTo(widget().minimumSizeHint()));
-    QRect frame(QPoint(), widget().size());
-    frame.moveCenter(screen.center());
-    widget().move(frame.topLeft());
+    place_in_middle(kSizeAtStart);
 }
 
 } // namespace velmora

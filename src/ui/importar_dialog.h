@@ -17,11 +17,9 @@ class ImportarDialog : public FormWindow<Ui::importar> {
 
   private:
     void bind();
-    void bind_list(QComboBox& box, ImportarList& list);
     void bind_box(QLineEdit& box, ImportarBox& text);
     void bind_chains();
     void wire();
-    void on_choice(QComboBox& box, void (*handler)());
 };
 
 } // namespace velmora

@@ -7,25 +7,14 @@
 #include "ui/sheet_pdf.h"
 
 #include <QRegularExpressionValidator>
-#include <QScreen>
-#include <QSignalBlocker>
 
 namespace velmora {
 
 namespace {
 
 constexpr QSize kSizeAtStart(1080, 760);
-constexpr QSize kFrame(20, 60); // of the desktop, at the most
-constexpr int kTick = 25;       // milliseconds
+constexpr int kTick = 25; // milliseconds
 constexpr double kMillisecond = 0.001;
-
-void fill(QComboBox& box, const VerCorteList& list) {
-    const QSignalBlocker quiet(box);
-    box.clear();
-    for (const std::string& entry : list.entries)
-        box.addItem(qt_text(entry));
-    box.setCurrentIndex(box.findText(qt_text(list.chosen)));
-}
 
 CutShown shown_now() {
     const VerCorteWindow& state = state::ver_corte;
@@ -111,13 +100,6 @@ void VerCorteDialog::bind() {
     bindings().check(*ui.Chk_Numbers, state.Chk_Numbers);
     bind_pictures();
     bind_wire();
-}
-
-void VerCorteDialog::bind_list(QComboBox& box, VerCorteList& list) {
-    bindings().shows<std::vector<std::string>>(
-        [&list] { return list.entries; },
-        [&box, &list](const std::vector<std::string>&) { fill(box, list); });
-    bindings().choice(box, list.chosen);
 }
 
 void VerCorteDialog::bind_pictures() {
@@ -233,10 +215,6 @@ void VerCorteDialog::wire_pictures() {
     });
 }
 
-void VerCorteDialog::on_choice(QComboBox& box, void (*handler)()) {
-    connect(&box, &QComboBox::activated, this, [this, handler] { events().run(handler); });
-}
-
 void VerCorteDialog::Load() {
     ver_corte_Load();
 }
@@ -246,14 +224,8 @@ void VerCorteDialog::Unload() {
     ver_corte_Unload();
 }
 
-/// The pictures take what the screen has, up to a size at which they are easy to look at.
 void VerCorteDialog::place() {
-    const QRect screen = widget().screen()->availableGeometry();
-    const QSize size = kSizeAtStart.boundedTo(screen.size() - kFrame);
-    widget().resize(size.expandedTo(widget().minimumSizeHint()));
-    QRect frame(QPoint(), widget().size());
-    frame.moveCenter(screen.center());
-    widget().move(frame.topLeft());
+    place_in_middle(kSizeAtStart);
 }
 
 } // namespace velmora

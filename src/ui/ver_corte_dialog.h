@@ -22,13 +22,11 @@ class VerCorteDialog : public FormWindow<Ui::ver_corte> {
 
   private:
     void bind();
-    void bind_list(QComboBox& box, VerCorteList& list);
     void bind_pictures();
     void bind_wire();
     void wire();
     void wire_pictures();
     void wire_output();
-    void on_choice(QComboBox& box, void (*handler)());
     void play_or_stop(bool playing);
     void show_mark();
 

@@ -1,15 +1,32 @@
 #include "ui/window.h"
 
+#include "toolkit/qt_text.h"
 #include "ui/controls.h"
 #include "ui/key_filter.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QEvent>
 #include <QLineEdit>
 #include <QScreen>
+#include <QSignalBlocker>
 
 namespace velmora {
+
+namespace {
+
+constexpr QSize kFrame(20, 60); // of the desktop, at the most
+
+void fill(QComboBox& box, const ChoiceList& list) {
+    const QSignalBlocker quiet(box);
+    box.clear();
+    for (const std::string& entry : list.entries)
+        box.addItem(qt_text(entry));
+    box.setCurrentIndex(box.findText(qt_text(list.chosen)));
+}
+
+} // namespace
 
 Window::Window(EventSink& events, std::unique_ptr<QWidget> widget)
     : events_(events), widget_(std::move(widget)), form_(*widget_, [this] { bindings_.pull(); }) {
@@ -51,8 +68,30 @@ void Window::list_controls(const std::vector<std::string>& names) {
     form_.list(controls);
 }
 
+void Window::bind_list(QComboBox& box, ChoiceList& list) {
+    bindings().shows<std::vector<std::string>>(
+        [&list] { return list.entries; },
+        [&box, &list](const std::vector<std::string>&) { fill(box, list); });
+    bindings().choice(box, list.chosen);
+    bindings().enabled(box, list.enabled);
+}
+
+void Window::place_in_middle(QSize at_most) {
+    const QRect screen = widget().screen()->availableGeometry();
+    const QSize size = at_most.boundedTo(screen.size() - kFrame);
+    widget().resize(size.expandedTo(widget().minimumSizeHint()));
+    QRect frame(QPoint(), widget().size());
+    frame.moveCenter(screen.center());
+    widget().move(frame.topLeft());
+}
+
 void Window::on_click(QAbstractButton& button, Handler handler) {
     connect(&button, &QAbstractButton::clicked, this,
+            [this, handler = std::move(handler)] { events_.run(handler); });
+}
+
+void Window::on_choice(QComboBox& box, Handler handler) {
+    connect(&box, &QComboBox::activated, this,
             [this, handler = std::move(handler)] { events_.run(handler); });
 }
 

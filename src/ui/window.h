@@ -3,12 +3,14 @@
 // derived from FormWindow, and a line in window_registry.cpp.
 #pragma once
 
+#include "document/windows/choice_list.h"
 #include "ui/binding.h"
 #include "ui/event_sink.h"
 #include "ui/form_adapter.h"
 #include "ui/form_dialog.h"
 
 #include <QObject>
+#include <QSize>
 #include <functional>
 #include <memory>
 #include <string>
@@ -16,6 +18,7 @@
 #include <vector>
 
 class QAbstractButton;
+class QComboBox;
 class QLineEdit;
 
 namespace velmora {
@@ -56,7 +59,14 @@ class Window : public QObject {
     void list_controls(const std::vector<std::string>& names);
     [[nodiscard]] EventSink& events() const { return events_; }
 
+    void bind_list(QComboBox& box, ChoiceList& list);
+    /// Takes the middle of the screen, as large as it has room for up to this size: for a window
+    /// with pictures.
+    void place_in_middle(QSize at_most);
+
     void on_click(QAbstractButton& button, Handler handler);
+    /// The user chose an entry.
+    void on_choice(QComboBox& box, Handler handler);
     /// The user changed the text, or the driver put one in.
     void on_change(QLineEdit& box, Handler handler);
     /// A key that types: `handler` gets its character (8 backspace, 13 Enter) and returns the one

@@ -50,15 +50,18 @@ TEST_F(SaveView, adds_the_ending_to_a_bare_name) {
 
 TEST_F(SaveView, asks_before_it_writes_over_a_file) {
     const std::string path = canvas.write("ala.png", "old");
+    canvas.dialogs.paths = {path};
+    canvas.dialogs.answers = {answer::cancel};
+    mnu_save_view();
+    EXPECT_THAT(canvas.operations(), IsEmpty());
+    // No asks for another place.
     canvas.dialogs.paths = {path, path};
     canvas.dialogs.answers = {answer::no, answer::yes};
     mnu_save_view();
-    EXPECT_THAT(canvas.operations(), IsEmpty());
-    mnu_save_view();
     EXPECT_EQ(canvas.operations().size(), 1U);
-    ASSERT_EQ(canvas.dialogs.boxes.size(), 2U);
+    ASSERT_EQ(canvas.dialogs.boxes.size(), 3U);
     EXPECT_NE(canvas.dialogs.boxes[0].text.find(path), std::string::npos);
-    EXPECT_EQ(canvas.dialogs.boxes[0].buttons, buttons::yes_no + buttons::question);
+    EXPECT_EQ(canvas.dialogs.boxes[0].buttons, buttons::yes_no_cancel + buttons::question);
 }
 
 /// A canvas that no file takes.

@@ -42,12 +42,12 @@ class ImportarTest : public testing::Test {
     void take(const std::string& name, std::string_view bytes) {
         importar_take_file(platform_.write(name, bytes));
     }
-    void choose(ImportarList& list, const std::string& entry) {
+    void choose(ChoiceList& list, const std::string& entry) {
         ASSERT_THAT(list.entries, testing::Contains(entry));
         list.chosen = entry;
         importar_reading_Change();
     }
-    void order(ImportarList& list, const std::string& entry) {
+    void order(ChoiceList& list, const std::string& entry) {
         ASSERT_THAT(list.entries, testing::Contains(entry));
         list.chosen = entry;
         importar_order_Change();

@@ -123,6 +123,13 @@ TEST_F(NewDat, the_last_number_is_proposed_by_the_next_window_too) {
     EXPECT_EQ(platform_.dialogs.input_calls.back(), (Texts{kAsk, "Velmora 1.0", "7"}));
 }
 
+TEST_F(NewDat, a_circle_that_no_memory_holds_raises_7_and_the_outline_stays) {
+    set_shape({{0, 0}, {4, 0}, {4, 3}});
+    EXPECT_EQ(test::number_of([this] { circle_of("1000000000"); }), error::out_of_memory);
+    EXPECT_EQ(Forma.Pto.upper(), 2);
+    EXPECT_EQ(Forma.Pto[2], (Pto{4, 3}));
+}
+
 TEST(NewDatWithoutTexts, a_tile_is_picked_all_the_same) {
     const test::RecordingPlatform platform;
     New_Dat_Load();

@@ -26,6 +26,14 @@ TEST(Paths, text_comes_back) {
     EXPECT_EQ(path_text(native_path("")), "");
 }
 
+TEST(FileName, follows_the_last_separator_of_either_kind) {
+    EXPECT_EQ(file_name("/alas/clark y.dat"), "clark y.dat");
+    EXPECT_EQ(file_name("C:\\alas/nuevas\\ala.dat"), "ala.dat");
+    EXPECT_EQ(file_name("ala.dat"), "ala.dat");
+    EXPECT_EQ(file_name("/alas/"), "");
+    EXPECT_EQ(file_name(""), "");
+}
+
 TEST(Join, puts_one_separator) {
     const std::string joint(1, separator);
     EXPECT_EQ(join("folder", "x.dat"), "folder" + joint + "x.dat");

@@ -3,6 +3,8 @@
 // handler.
 #pragma once
 
+#include "document/windows/choice_list.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -24,13 +26,6 @@ struct ImportarChain {
     std::size_t taken = 0; ///< its place among those taken, from 1; 0 where it is left
 };
 
-/// A list of which one entry is chosen; none where the text is no entry.
-struct ImportarList {
-    std::vector<std::string> entries;
-    std::string chosen;
-    bool enabled = false;
-};
-
 struct ImportarBox {
     std::string text; ///< empty: by itself
     bool enabled = false;
@@ -49,8 +44,8 @@ struct ImportarWindow {
     bool outline_closed = false;
     double factor = 1;          ///< by which the outline is scaled when it is taken
     std::uint64_t pictures = 0; ///< grows whenever chains or outline change
-    ImportarList Cmb_Kind, Cmb_Rows, Cmb_Element, Cmb_Unit, Cmb_Axes;
-    ImportarList Cmb_Start, Cmb_Direction;
+    ChoiceList Cmb_Kind, Cmb_Rows, Cmb_Element, Cmb_Unit, Cmb_Axes;
+    ChoiceList Cmb_Start, Cmb_Direction;
     ImportarBox Txt_Tolerance, Txt_Gap, Txt_Scale, Txt_Chord;
     bool Chk_Doubles = true;
     bool Chk_Hidden = false;

@@ -3,7 +3,8 @@
 // handler.
 #pragma once
 
-#include <algorithm>
+#include "document/windows/choice_list.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -15,25 +16,12 @@ namespace velmora {
 
 struct CutAtHand; ///< the sides, their wire and what to look at: forms/cut_at_hand.h
 
-/// A list of which one entry is chosen.
-struct VerCorteList {
-    std::vector<std::string> entries;
-    std::string chosen;
-
-    /// The place of the entry chosen; 0 where it is none.
-    [[nodiscard]] std::size_t place() const {
-        const auto found = std::ranges::find(entries, chosen);
-        return found == entries.end() ? 0 : static_cast<std::size_t>(found - entries.begin());
-    }
-    void choose(std::size_t entry) { chosen = entry < entries.size() ? entries[entry] : ""; }
-};
-
 struct VerCorteWindow {
     std::shared_ptr<const CutAtHand> cut; ///< never changed, only replaced
     std::uint64_t pictures = 0;           ///< grows whenever the cut is another one
     std::uint64_t lists = 0;              ///< grows whenever Lst_Look is another one
     std::uint64_t looks = 0;              ///< grows whenever a place is to be looked at
-    VerCorteList Cmb_Source, Cmb_Plane, Cmb_Joins, Cmb_Pace, Cmb_Machine;
+    ChoiceList Cmb_Source, Cmb_Plane, Cmb_Joins, Cmb_Pace, Cmb_Machine;
     std::string Txt_Files;   ///< of the sides that are looked at
     std::string lbl_note;    ///< what can't be shown, and why; empty where all is
     std::string lbl_place;   ///< where the wire is
