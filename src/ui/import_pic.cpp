@@ -155,7 +155,23 @@ void ImportPic::draw_chain(QPainter& painter, const ImportarChain& chain, const 
     painter.drawPolyline(line);
 }
 
-/// The place among those taken, in the middle of a segment: the start of the cut is a point.
+/// In the middle of a segment of the chain, away from the mark of the start.
+QPointF ImportPic::place_of_number(const std::vector<ImportarPoint>& points) const {
+    constexpr double clear = 30; // pixels from the start
+    const auto at = [&](double share) {
+        const auto here = static_cast<std::size_t>(share * static_cast<double>(points.size() - 1));
+        return (place(points[here]) + place(points[(here + 1) % points.size()])) / 2;
+    };
+    for (const double share : {0.5, 0.25, 0.75}) {
+        const QPointF found = at(share);
+        if (state_->outline.empty() ||
+            (found - place(state_->outline.front())).manhattanLength() > clear)
+            return found;
+    }
+    return at(0.5);
+}
+
+/// The place among those taken.
 void ImportPic::draw_number(QPainter& painter, const ImportarChain& chain,
                             const QColor& colour) const {
     if (chain.taken == 0 || chain.points.empty())
@@ -163,9 +179,7 @@ void ImportPic::draw_number(QPainter& painter, const ImportarChain& chain,
     const QString text = QString::number(chain.taken);
     QRectF box = painter.fontMetrics().boundingRect(text);
     box = box.marginsAdded({5, 2, 5, 2});
-    const std::size_t middle = (chain.points.size() - 1) / 2;
-    const std::size_t next = (middle + 1) % chain.points.size();
-    box.moveCenter((place(chain.points[middle]) + place(chain.points[next])) / 2);
+    box.moveCenter(place_of_number(chain.points));
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
     painter.drawRoundedRect(box, 4, 4);

@@ -42,6 +42,7 @@ class ImportPic : public QFrame {
     void fit();
     void draw();
     void draw_chain(QPainter& painter, const ImportarChain& chain, const QPen& pen) const;
+    [[nodiscard]] QPointF place_of_number(const std::vector<ImportarPoint>& points) const;
     void draw_number(QPainter& painter, const ImportarChain& chain, const QColor& colour) const;
     void draw_start(QPainter& painter) const;
     [[nodiscard]] QPointF place(const ImportarPoint& point) const;

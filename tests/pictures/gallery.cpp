@@ -86,7 +86,9 @@ class Camera {
   private:
     void take_window(std::string_view name) {
         const QString page = qt_text(name);
-        QWidget* shown = name == "ver_corte" ? stage_.show_cut() : stage_.show(name);
+        QWidget* shown = name == "ver_corte"  ? stage_.show_cut()
+                         : name == "importar" ? stage_.show_import()
+                                              : stage_.show(name);
         take_tabs(page, shown);
         for (const Face& face : kFaces) {
             if (face.window != name)

@@ -5,6 +5,7 @@
 #include "document/refresh.h"
 #include "document/session.h"
 #include "forms/ajuste.h"
+#include "forms/importar.h"
 #include "forms/ver_corte.h"
 #include "services/messages.h"
 #include "support/places.h"
@@ -15,6 +16,7 @@
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <filesystem>
+#include <fstream>
 
 namespace velmora::pictures {
 
@@ -131,6 +133,22 @@ QWidget* Stage::show_cut() {
     platform_->windows->run([] {
         session.ver_corte.Txt_Files = "raiz2.DAT, punta2.DAT"; // the same in every run
         ver_corte_go_to_share(kCut);
+    });
+    settle();
+    return shown;
+}
+
+QWidget* Stage::show_import() {
+    constexpr std::string_view drawing =
+        R"(<svg xmlns="http://www.w3.org/2000/svg" width="240mm" height="90mm" viewBox="0 0 240 90">
+<path d="M230 45 C170 10 60 5 10 45 C60 70 170 60 230 45 Z"/>
+<circle cx="70" cy="42" r="9"/><path d="M100 40 L190 42"/></svg>)";
+    const std::string path = (folder_.path() + "/ala.svg").toStdString();
+    std::ofstream(path, std::ios::binary) << drawing;
+    QWidget* shown = show("importar");
+    platform_->windows->run([&path] {
+        importar_take_file(path);
+        session.importar.Txt_File = "/home/ana/alas/ala.svg"; // the same in every run
     });
     settle();
     return shown;

@@ -29,6 +29,8 @@ class Stage {
     QWidget* show(std::string_view window);
     /// The cut of the sample wing, its wire on the way.
     QWidget* show_cut();
+    /// A drawing of two outlines and an open line in the import's window.
+    QWidget* show_import();
     void unload(std::string_view window);
     /// A click on a button, or a tick, by its control's name.
     void click(std::string_view window, std::string_view control);
